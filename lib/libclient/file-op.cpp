@@ -1,0 +1,784 @@
+#include "lib/libclient/file-op.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utime.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "lib/liblogger/log.h"
+#include "lib/libtmpname/tmp_name_gen.h"
+#include "lib/platform/core-services.h"
+#include "lib/platform/file-system-type.h"
+
+#define LOG_SOURCE "file-op"
+
+namespace {
+
+const ustring log_component("file_op_debug");
+
+const std::uint32_t kUnchanged = 0xFFFFFFFF;  // what chown reads as "leave it"
+const std::uint16_t kDefaultMode = 0xFFFF;
+const UInt32 kPathSize = 4096;
+const int kCopySize = 32 * 1024 * 1024;
+const std::size_t kMaxOpenFolders = 32;  // of one walk, whatever its depth
+
+std::uint32_t uid = kUnchanged;
+std::uint32_t gid = kUnchanged;
+
+const UInt8* SystemPath(const ustring& path) {
+    return reinterpret_cast<const UInt8*>(path.c_str());
+}
+
+std::int32_t TypeOfMode(mode_t mode) {
+    switch (mode & S_IFMT) {
+        case S_IFREG:
+            return FILE_TYPE_REG;
+        case S_IFDIR:
+            return FILE_TYPE_DIR;
+        case S_IFLNK:
+            return FILE_TYPE_LNK;
+        case S_IFBLK:
+        case S_IFCHR:
+            return FILE_TYPE_DEV;
+        case S_IFIFO:
+            return FILE_TYPE_FIFO;
+        case S_IFSOCK:
+            return FILE_TYPE_SOCK;
+        default:
+            return FILE_TYPE_UNKNOWN;
+    }
+}
+
+std::int32_t TypeOfEntry(const dirent& entry) {
+    return TypeOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
+}
+
+// Reads the next entry of a stream: 1 and the entry, 0 at the end, -1 with errno set.
+int ReadEntry(DIR* stream, const dirent*& entry) {
+    errno = 0;
+    entry = readdir(stream);
+    return entry != nullptr ? 1 : errno == 0 ? 0 : -1;
+}
+
+bool IsDotOrDotDot(const char* name) {
+    return name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0));
+}
+
+class Descriptor {
+  public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() {
+        if (fd_ >= 0) {
+            ::close(fd_);
+        }
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int get() const { return fd_; }
+    int close() {
+        const int fd = fd_;
+        fd_ = -1;
+        return ::close(fd);
+    }
+
+  private:
+    int fd_;
+};
+
+// An object named relative to an open folder. folder_path is for messages; without it the name is
+// a path of its own.
+struct Place {
+    int folder;
+    const char* name;
+    const std::string* folder_path;
+
+    explicit Place(const ustring& path)
+        : folder(AT_FDCWD), name(path.c_str()), folder_path(nullptr) {}
+    Place(int in_folder, const char* entry, const std::string& path_of_folder)
+        : folder(in_folder), name(entry), folder_path(&path_of_folder) {}
+
+    std::string path() const { return folder_path ? *folder_path + "/" + name : name; }
+};
+
+// The folders from the root of a walk down to the current one. Only the innermost few are open, so
+// neither the depth nor the length of the paths is limited; one that was closed is opened again
+// through ".." of its child, and must be the same folder then. Its listing then starts anew, which
+// is right for walks that take away the entries that they have dealt with.
+class FolderChain {
+  public:
+    bool enter(const Place& place) {
+        const int fd =
+            openat(place.folder, place.name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        Level level;
+        if (!open(fd, level)) {
+            return false;
+        }
+        level.name = place.name;
+        level.path_size = path_.size();
+        path_ = place.path();
+        levels_.push_back(std::move(level));
+        if (levels_.size() > kMaxOpenFolders) {
+            levels_[levels_.size() - 1 - kMaxOpenFolders].stream.reset();
+        }
+        return true;
+    }
+
+    // Back to the folder that holds the current one, or out of the walk; false when it can't be
+    // opened again.
+    bool leave() {
+        Level left = std::move(levels_.back());
+        levels_.pop_back();
+        path_.resize(left.path_size);
+        name_left_ = std::move(left.name);
+        if (levels_.empty() || levels_.back().stream != nullptr) {
+            return true;
+        }
+        Level& parent = levels_.back();
+        Level reopened;
+        if (!open(openat(dirfd(left.stream.get()), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC),
+                  reopened) ||
+            reopened.device != parent.device || reopened.inode != parent.inode) {
+            return false;
+        }
+        parent.stream = std::move(reopened.stream);
+        return true;
+    }
+
+    // The next entry but "." and ".."; null at the end of the folder and after a read error.
+    const dirent* next() {
+        const dirent* entry = nullptr;
+        while (ReadEntry(levels_.back().stream.get(), entry) > 0) {
+            if (!IsDotOrDotDot(entry->d_name)) {
+                return entry;
+            }
+        }
+        return nullptr;
+    }
+
+    bool empty() const { return levels_.empty(); }
+    const std::string& name_left() const { return name_left_; }
+    Place at(const char* name) const {
+        return Place(dirfd(levels_.back().stream.get()), name, path_);
+    }
+
+  private:
+    struct Level {
+        std::unique_ptr<DIR, DirCloser> stream;
+        dev_t device = 0;
+        ino_t inode = 0;
+        std::string name;           // in the folder that holds it
+        std::size_t path_size = 0;  // of that folder's path
+    };
+
+    // Takes the descriptor over, a negative one too.
+    static bool open(int fd, Level& level) {
+        struct stat status;
+        if (fd < 0) {
+            return false;
+        }
+        if (fstat(fd, &status) == 0) {
+            level.stream.reset(fdopendir(fd));
+        }
+        if (level.stream == nullptr) {
+            ::close(fd);
+            return false;
+        }
+        level.device = status.st_dev;
+        level.inode = status.st_ino;
+        return true;
+    }
+
+    std::vector<Level> levels_;
+    std::string path_;  // of the current folder, for messages
+    std::string name_left_;
+};
+
+int FailCopy(const char* operation, const std::string* path = nullptr) {
+    const int error = errno;
+    if (path != nullptr) {
+        LOG_MSG(ERROR, "CopyFile: %s(%s): %s (%d)\n", operation, path->c_str(), strerror(error),
+                error);
+    } else {
+        LOG_MSG(ERROR, "CopyFile: %s: %s (%d)\n", operation, strerror(error), error);
+    }
+    return error;
+}
+
+int FailWrite() {
+    const int error = FailCopy("write");
+    return error == ENOSPC || error == EDQUOT ? -2 : -1;
+}
+
+int FailOpen(const Place& place) {
+    const std::string path = place.path();
+    FailCopy("open", &path);
+    return -1;
+}
+
+// Writes all of the bytes; 0, or FSCopy's result.
+int WriteAll(int fd, const char* bytes, std::size_t size) {
+    while (size > 0) {
+        const ssize_t written = write(fd, bytes, size);
+        if (written <= 0) {
+            return FailWrite();
+        }
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
+    }
+    return 0;
+}
+
+int CopyBytes(int from, int to) {
+    struct Free {
+        void operator()(char* memory) const { std::free(memory); }
+    };
+    const std::unique_ptr<char, Free> buffer(static_cast<char*>(std::malloc(kCopySize)));
+    if (buffer == nullptr) {
+        LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)\n", kCopySize, strerror(errno), errno);
+        return -1;
+    }
+    for (;;) {
+        const ssize_t size = read(from, buffer.get(), kCopySize);
+        if (size == 0) {
+            return 0;
+        }
+        if (size < 0) {
+            FailCopy("read");
+            return -1;
+        }
+        const int result = WriteAll(to, buffer.get(), static_cast<std::size_t>(size));
+        if (result != 0) {
+            return result;
+        }
+    }
+}
+
+// Forces what was copied to the disk. What can't be forced there (a device) isn't a failure.
+int FinishCopy(Descriptor& destination, int result) {
+    const bool synced = fsync(destination.get()) == 0 || errno == EINVAL || errno == ENOTSUP;
+    if (!synced && result == 0) {
+        result = FailWrite();
+    }
+    if (destination.close() != 0 && result == 0) {
+        result = FailWrite();
+    }
+    return result;
+}
+
+// Empties a destination that was opened, unless it is the source itself.
+bool Truncate(int destination, int source) {
+    struct stat to;
+    struct stat from;
+    if (fstat(destination, &to) != 0 || fstat(source, &from) != 0) {
+        return false;
+    }
+    if (to.st_dev == from.st_dev && to.st_ino == from.st_ino) {
+        errno = EINVAL;
+        return false;
+    }
+    return !S_ISREG(to.st_mode) || to.st_size == 0 || ftruncate(destination, 0) == 0;
+}
+
+int CopyFile(const Place& src, const Place& dst, bool remove_src) {
+    Descriptor source(openat(src.folder, src.name, O_RDONLY | O_CLOEXEC));
+    if (source.get() < 0) {
+        return FailOpen(src);
+    }
+    Descriptor destination(openat(dst.folder, dst.name, O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
+    if (destination.get() < 0 || !Truncate(destination.get(), source.get())) {
+        return FailOpen(dst);
+    }
+    const int result = FinishCopy(destination, CopyBytes(source.get(), destination.get()));
+    if (result != 0 || !remove_src) {
+        return result;
+    }
+    source.close();  // nothing was written to it
+    return unlinkat(src.folder, src.name, 0) == 0 ? 0 : -1;
+}
+
+int RefuseNonFolder(const char* path, std::int32_t type) {
+    LOG_MSG(ERROR, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+            path, type);
+    return -1;
+}
+
+// Makes one folder inside a walk; one that is there already will do.
+int MakeFolder(const Place& place) {
+    if (mkdirat(place.folder, place.name, 0777) == 0) {
+        // As everywhere, failing to hand the folder over is no failure of making it.
+        static_cast<void>(fchownat(place.folder, place.name, uid, gid, 0) == 0);
+        return 0;
+    }
+    struct stat status;
+    if (errno != EEXIST || fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+        return -2;
+    }
+    return S_ISDIR(status.st_mode)
+               ? 0
+               : RefuseNonFolder(place.path().c_str(), TypeOfMode(status.st_mode));
+}
+
+// What a rename that the system refused means to FSRename's caller; 0: copy and delete instead.
+int RenameRefused() {
+    return errno == EXDEV ? 0 : errno == ENAMETOOLONG ? -100 : -3;
+}
+
+// Moves one entry of a walk. A folder is made at the destination and becomes the current one.
+int MoveEntry(const char* name, FolderChain& from, FolderChain& to, bool exact) {
+    const Place src = from.at(name);
+    const Place dst = to.at(name);
+    struct stat status;
+    if (faccessat(src.folder, name, F_OK, 0) != 0 ||
+        fstatat(src.folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0 ||
+        (exact && S_ISLNK(status.st_mode))) {
+        return -2;
+    }
+    if (renameat(src.folder, name, dst.folder, name) == 0) {
+        return 0;
+    }
+    if (const int refused = RenameRefused()) {
+        return refused;
+    }
+    if (S_ISREG(status.st_mode)) {
+        return CopyFile(src, dst, true);
+    }
+    if (!S_ISDIR(status.st_mode)) {
+        return 0;
+    }
+    return MakeFolder(dst) == 0 && to.enter(dst) && from.enter(src) ? 0 : -3;
+}
+
+// Moves a folder's entries into another folder on another volume and deletes it then.
+int MoveFolder(const ustring& src, const ustring& dst, bool exact) {
+    FolderChain from;
+    FolderChain to;
+    if (FSMKDir(dst, true) != 0 || !to.enter(Place(dst)) || !from.enter(Place(src))) {
+        return -3;
+    }
+    for (;;) {
+        if (const dirent* const entry = from.next()) {
+            const std::string name = entry->d_name;
+            if (MoveEntry(name.c_str(), from, to, exact) < 0) {
+                return -3;
+            }
+            continue;
+        }
+        if (!from.leave() || !to.leave()) {
+            return -3;
+        }
+        if (from.empty()) {
+            return std::remove(src.c_str()) == 0 ? 0 : -3;
+        }
+        const Place emptied = from.at(from.name_left().c_str());
+        if (unlinkat(emptied.folder, emptied.name, AT_REMOVEDIR) != 0) {
+            return -3;
+        }
+    }
+}
+
+// Deletes an entry that is no folder; a folder becomes the current one of the walk.
+bool RemoveEntry(const dirent& entry, FolderChain& chain) {
+    const Place place = chain.at(entry.d_name);
+    std::int32_t type = TypeOfEntry(entry);
+    if (type == FILE_TYPE_UNKNOWN) {
+        struct stat status;
+        if (fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+            return errno == ENOENT;
+        }
+        type = TypeOfMode(status.st_mode);
+    }
+    if (type == FILE_TYPE_DIR) {
+        chain.enter(place);  // one that can't be opened is passed over
+        return true;
+    }
+    return unlinkat(place.folder, place.name, 0) == 0 || errno == ENOENT;
+}
+
+int RemoveFolder(const ustring& path) {
+    FolderChain chain;
+    if (!chain.enter(Place(path))) {
+        return 0;
+    }
+    for (;;) {
+        if (const dirent* const entry = chain.next()) {
+            if (!RemoveEntry(*entry, chain)) {
+                return -3;
+            }
+            continue;
+        }
+        if (!chain.leave()) {
+            return -3;
+        }
+        if (chain.empty()) {
+            return std::remove(path.c_str()) == 0 ? 0 : -3;
+        }
+        const Place emptied = chain.at(chain.name_left().c_str());
+        if (unlinkat(emptied.folder, emptied.name, AT_REMOVEDIR) != 0) {
+            return -3;
+        }
+    }
+}
+
+// Sets the umask to 0 for as long as it lives.
+class NoUmask {
+  public:
+    explicit NoUmask(bool active) : active_(active), saved_(active ? umask(0) : 0) {}
+    ~NoUmask() {
+        if (active_) {
+            umask(saved_);
+        }
+    }
+    NoUmask(const NoUmask&) = delete;
+    NoUmask& operator=(const NoUmask&) = delete;
+
+  private:
+    const bool active_;
+    const mode_t saved_;
+};
+
+void GiveToOwner(const char* path) {
+    if (uid == kUnchanged && gid == kUnchanged) {
+        return;
+    }
+    static_cast<void>(
+        chown(path, uid == kUnchanged ? geteuid() : uid, gid == kUnchanged ? getegid() : gid) == 0);
+}
+
+// Makes sure that one folder on FSMKDirP's way exists; -1 with errno set.
+int EnsureFolder(const char* path, bool last, bool force, mode_t mode) {
+    struct stat status;
+    if (stat(path, &status) == 0) {
+        if (S_ISDIR(status.st_mode)) {
+            return 0;
+        }
+        if (!force) {
+            errno = last ? EEXIST : ENOTDIR;
+            return -1;
+        }
+        if (std::remove(path) != 0) {
+            return -1;
+        }
+    }
+    if (mkdir(path, mode) != 0) {
+        return -1;
+    }
+    GiveToOwner(path);
+    return 0;
+}
+
+bool CanonicalPath(const ustring& path, ustring& canonical, const char*& failed, OSStatus& status) {
+    FSRef ref;
+    failed = "FSPathMakeRef";
+    status = FSPathMakeRef(SystemPath(path), &ref, nullptr);
+    if (status != 0) {
+        return false;
+    }
+    UInt8 buffer[kPathSize] = {};
+    failed = "FSRefMakePath";
+    status = FSRefMakePath(&ref, buffer, kPathSize);
+    if (status != 0) {
+        return false;
+    }
+    canonical = reinterpret_cast<const char*>(buffer);
+    return true;
+}
+
+}  // namespace
+
+bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+    return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime && a.type == b.type &&
+           a.path == b.path && a.alt_path == b.alt_path;
+}
+
+bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+    return !(a == b);
+}
+
+void FSInitialize(std::uint32_t new_uid, std::uint32_t new_gid) {
+    uid = new_uid;
+    gid = new_gid;
+}
+
+int FSInit(const ustring&) {
+    return 0;
+}
+
+int FSChown(const ustring& path) {
+    return chown(path.c_str(), uid, gid);
+}
+
+bool IsFileExist(const ustring& path, bool exact) {
+    const ustring normalized = path.normalize(ustring::NFC);
+    if (normalized.empty() || access(normalized.c_str(), F_OK) != 0) {
+        return false;
+    }
+    if (!exact) {
+        return true;
+    }
+    LOG_MSG(DEBUG, "Input file path = [%s].\n", normalized.c_str());
+    ustring stored;
+    const char* failed = nullptr;
+    OSStatus status = 0;
+    if (!CanonicalPath(normalized, stored, failed, status)) {
+        LOG_MSG(ERROR, "%s: %d\n", failed, static_cast<int>(status));
+        return false;
+    }
+    stored = stored.normalize(ustring::NFC);
+    LOG_MSG(DEBUG, "FSRefMakePath outTargetPath path = [%s].\n", stored.c_str());
+    if (stored != normalized) {
+        return false;
+    }
+    LOG_MSG(DEBUG, "File exist.\n");
+    return true;
+}
+
+int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0) {
+        if (errno != ENOENT) {
+            return -1;
+        }
+        info.exists = false;
+        info.mtime = std::time(nullptr);
+        info.path = path;
+        info.size = 0;
+        info.type = FILE_TYPE_REG;
+        info.uid = info.gid = info.mode = 0;
+        return 0;
+    }
+    info.exists = true;
+    info.mtime = status.st_mtime;
+    info.path = path;
+    info.size = status.st_size;
+    info.uid = status.st_uid;
+    info.gid = status.st_gid;
+    info.mode = status.st_mode;
+    const std::int32_t type = TypeOfMode(status.st_mode);
+    if (type == FILE_TYPE_UNKNOWN) {
+        return -1;
+    }
+    info.type = type;
+    FSGetRealPath(info.path);  // without it the path stays as it was passed in
+    return 0;
+}
+
+int FSGetRealPath(ustring& path) {
+    LOG_MSG(DEBUG, " org path [%s]\n", path.c_str());
+    const char* failed = nullptr;
+    OSStatus status = 0;
+    if (!CanonicalPath(path, path, failed, status)) {
+        return -1;
+    }
+    LOG_MSG(DEBUG, " get full path [%s]\n", path.c_str());
+    return 0;
+}
+
+int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
+    if (path.empty()) {
+        return -1;
+    }
+    if (!IsFileExist(path, exact)) {
+        info.exists = false;
+        return 0;
+    }
+    return GetFileInfo(path, info) == 0 ? 0 : -2;
+}
+
+int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
+    return CopyFile(Place(src), Place(dst), remove_src);
+}
+
+int FSRename(const ustring& src, const ustring& dst, bool exact) {
+    if (src.empty() || dst.empty()) {
+        return -1;
+    }
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, exact) != 0 || !info.exists) {
+        return -2;
+    }
+    if (std::rename(src.c_str(), dst.c_str()) == 0) {
+        return 0;
+    }
+    if (const int refused = RenameRefused()) {
+        return refused;
+    }
+    if (info.type == FILE_TYPE_DIR) {
+        return MoveFolder(src, dst, exact);
+    }
+    if (info.type == FILE_TYPE_REG) {
+        return FSCopy(src, dst, true) < 0 ? -3 : 0;
+    }
+    return 0;
+}
+
+int FSMKDir(const ustring& path, bool parents) {
+    if (path.empty()) {
+        return -1;
+    }
+    _FILE_INFO_tag info;
+    if (GetFileInfo(path, info) != 0) {
+        LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'\n", path.c_str());
+        return -1;
+    }
+    if (info.exists) {
+        return info.type == FILE_TYPE_DIR ? 0 : RefuseNonFolder(path.c_str(), info.type);
+    }
+    const int made =
+        parents ? FSMKDirP(path, nullptr, false, kDefaultMode) : mkdir(path.c_str(), 0777);
+    if (made != 0) {
+        return -2;
+    }
+    static_cast<void>(FSChown(path) == 0);
+    return 0;
+}
+
+int FSMKDirP(const ustring& path, char** end_out, bool force, std::uint16_t mode) {
+    if (path.empty()) {
+        return -1;
+    }
+    std::string prefix(path.c_str());
+    const bool exact_mode = mode != kDefaultMode;
+    const NoUmask no_umask(exact_mode);
+    std::size_t end = 0;
+    int result = 0;
+    for (bool last = false; !last && result == 0;) {
+        // The separator at which the search starts stays part of the prefix.
+        end = std::min(prefix.find('/', end + (prefix[end] == '/' ? 1 : 0)), prefix.size());
+        last = end + 1 >= prefix.size();
+        const char separator = prefix[end];
+        prefix[end] = 0;
+        result = EnsureFolder(prefix.c_str(), last, force, exact_mode ? mode : 0777);
+        prefix[end] = separator;
+    }
+    if (end_out != nullptr) {
+        *end_out = const_cast<char*>(path.c_str()) + end;
+    }
+    return result;
+}
+
+int FSRemove(const ustring& path, bool) {
+    _FILE_INFO_tag info;
+    if (path.empty() || GetFileInfo(path, info) != 0) {
+        return -1;
+    }
+    if (!info.exists) {
+        return 0;
+    }
+    if (info.type == FILE_TYPE_DIR) {
+        return RemoveFolder(path);
+    }
+    return std::remove(path.c_str()) == 0 ? 0 : -3;
+}
+
+int FSMktemp(const ustring& dir, ustring& out) {
+    char path[kPathSize];
+    std::snprintf(path, sizeof path, "%s/XXXXXX", dir.c_str());
+    Descriptor file(mkstemp(path));
+    if (file.get() < 0) {
+        LOG_MSG(ERROR, "mkstemp(%s): %s\n", path, strerror(errno));
+        return -1;
+    }
+    if (fsync(file.get()) != 0 || file.close() != 0 || chmod(path, 0644) != 0) {
+        LOG_MSG(ERROR, "mkstemp(%s): %s\n", path, strerror(errno));
+        std::remove(path);
+        return -1;
+    }
+    out = path;
+    return 0;
+}
+
+int FSCreateTempPath(const ustring& dir, ustring& out) {
+    out = TmpNameGen::getInstance().getTmpPath(dir);
+    return out.empty() ? -1 : 0;
+}
+
+int FSUTime(const ustring& path, long atime, long mtime) {
+    utimbuf times{};
+    times.actime = atime;
+    times.modtime = mtime;
+    return utime(path.c_str(), &times);
+}
+
+int FSOpenDir(const ustring& path, std::int32_t flags, DIR_HANDLE& handle) {
+    DIR* const stream = opendir(path.c_str());
+    if (stream == nullptr) {
+        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
+                strerror(errno));
+        return -1;
+    }
+    handle.dir.reset(stream);
+    handle.path = path;
+    handle.flags = flags;
+    return 0;
+}
+
+int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
+    const dirent* read = nullptr;
+    errno = EBADF;
+    const int result = handle.dir != nullptr ? ReadEntry(handle.dir.get(), read) : -1;
+    if (result < 0) {
+        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
+                strerror(errno));
+    }
+    if (result <= 0) {
+        return result;
+    }
+    _FILE_INFO_tag info;
+    if ((handle.flags & DIR_OPEN_STAT) != 0) {
+        const ustring path = handle.path + "/" + read->d_name;
+        if (FSStat(path, info, true) != 0) {
+            LOG_MSG(ERROR, "FSOpenDir: Failed to get info for '%s'\n", path.c_str());
+            return -1;
+        }
+    }
+    entry.mtime = info.mtime;
+    entry.size = info.size;
+    entry.name = read->d_name;
+    entry.type = TypeOfEntry(*read);
+    return 1;
+}
+
+void FSCloseDir(DIR_HANDLE& handle) {
+    handle.dir.reset();
+    handle.path.clear();
+}
+
+bool FSTimeEqual(long a, long b) {
+    return a == b;
+}
+
+bool isFileLocked(const ustring& path, int mode) {
+    return access(path.c_str(), mode) != 0 && (errno == EACCES || errno == EPERM);
+}
+
+bool isMountPoint(const ustring& path) {
+    std::string type;
+    if (platform::FileSystemType(path.c_str(), type) != 0) {
+        LOG_MSG(ERROR, "isMountPoint: Failed to get file system info '%s'. %s\n", path.c_str(),
+                strerror(errno));
+        return false;
+    }
+    return type == "nfs" || type == "smbfs" || type == "afpfs";
+}
+
+bool IsMSDOS(const ustring& path) {
+    std::string type;
+    if (platform::FileSystemType(path.c_str(), type) != 0) {
+        LOG_MSG(ERROR, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
+                path.c_str(), strerror(errno));
+        return false;
+    }
+    if (type != "msdos") {
+        return false;
+    }
+    LOG_MSG(WARNING, "Detect a MSDOS platform for path '%s'.\n", path.c_str());
+    return true;
+}

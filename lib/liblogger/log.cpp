@@ -1,0 +1,180 @@
+#include "lib/liblogger/log.h"
+
+#include <syslog.h>
+
+#include <cerrno>
+#include <ctime>
+
+#include "lib/config/config.h"
+
+namespace {
+
+const int kDefaultThreshold = Logger::LEVEL_WARNING;
+const int kRotateSize = 1024 * 1024;  // a file is rotated when it holds more, in bytes
+
+// Holds the log's mutex and keeps the thread from being cancelled meanwhile.
+class LogLock {
+  public:
+    explicit LogLock(pthread_mutex_t& mutex) : mutex_(mutex) {
+        pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &cancel_state_);
+        pthread_mutex_lock(&mutex_);
+    }
+    ~LogLock() {
+        pthread_mutex_unlock(&mutex_);
+        pthread_setcancelstate(cancel_state_, nullptr);
+    }
+    LogLock(const LogLock&) = delete;
+    LogLock& operator=(const LogLock&) = delete;
+
+  private:
+    pthread_mutex_t& mutex_;
+    int cancel_state_ = PTHREAD_CANCEL_ENABLE;
+};
+
+class RotatedName {
+  public:
+    RotatedName(const ustring& path, int number) {
+        std::snprintf(name_, sizeof name_, "%s_%d", path.c_str(), number);
+    }
+    const char* c_str() const { return name_; }
+
+  private:
+    char name_[1024];
+};
+
+}  // namespace
+
+Logger::Type Logger::log_type = Logger::TYPE_STDOUT;
+std::atomic<std::FILE*> Logger::log_fp(stderr);
+int Logger::log_size = -1;
+int Logger::rotate_cnt = 0;
+ustring Logger::log_path;
+std::map<ustring, int> Logger::log_level;
+pthread_mutex_t Logger::log_lock = PTHREAD_MUTEX_INITIALIZER;
+
+int Logger::Initialize(Type type, const ustring& path, const ustring& level_config_path,
+                       int rotation_count) {
+    log_level["default_component"] = kDefaultThreshold;
+    if (!level_config_path.empty()) {
+        Config levels;
+        levels.read(level_config_path);  // a file that can't be read has no entries
+        for (const auto& [component, value] : levels.entries) {
+            log_level[component] = levels.get_int(component);
+        }
+    }
+    log_type = type;
+    if (type == TYPE_SYSLOG || type == TYPE_STDOUT || type == TYPE_STDERR) {
+        log_fp = type == TYPE_STDERR ? stderr : type == TYPE_STDOUT ? stdout : nullptr;
+        log_path.clear();
+        log_size = -1;
+        return 0;
+    }
+    if (path.empty()) {
+        return -1;
+    }
+    std::FILE* const file = std::fopen(path.c_str(), "ae");
+    if (file == nullptr) {
+        return -1;
+    }
+    log_fp = file;
+    log_size = 0;
+    log_path = path;
+    rotate_cnt = rotation_count;
+    return 0;
+}
+
+void Logger::Destroy() {
+    if (log_type != TYPE_FILE) {
+        return;
+    }
+    std::FILE* const file = log_fp;
+    if (file != nullptr) {
+        std::fclose(file);  // every message has been flushed
+    }
+    log_type = TYPE_STDOUT;
+    log_fp = stdout;
+    log_size = -1;
+    log_path.clear();
+}
+
+void Logger::LogMsg(Level level, const ustring& component, const char* fmt, ...) {
+    va_list args;
+    va_start(args, fmt);
+    LogMsg2(level, component, fmt, args);
+    va_end(args);
+}
+
+void Logger::LogMsg2(Level level, const ustring& component, const char* fmt, va_list args) {
+    if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
+        return;
+    }
+    const int saved_errno = errno;
+    {
+        const LogLock lock(log_lock);
+        const auto entry = log_level.find(component);
+        const int threshold = entry == log_level.end() ? kDefaultThreshold : entry->second;
+        if (threshold >= level) {
+            Write(fmt, args);
+        }
+    }
+    errno = saved_errno;
+}
+
+// Writes to the destination of the moment and rotates a log file that has grown too large. The
+// caller holds the lock.
+void Logger::Write(const char* fmt, va_list args) {
+    switch (log_type) {
+        case TYPE_SYSLOG:
+            vsyslog(LOG_ERR, fmt, args);
+            return;
+        case TYPE_STDOUT:
+        case TYPE_STDERR:
+        case TYPE_FILE:
+            break;
+        default:
+            std::vfprintf(stderr, fmt, args);
+            return;
+    }
+    std::FILE* const stream = log_fp;
+    const int written = stream != nullptr ? WriteStamped(stream, fmt, args) : 0;
+    if (log_type == TYPE_FILE && log_size >= 0 && written >= 0) {
+        log_size += written;
+        if (log_size > kRotateSize) {
+            Rotate();  // when it fails there is no stream, and the later messages are dropped
+            log_size = 0;
+        }
+    }
+}
+
+// Returns the number of bytes, or a negative number after an output error.
+int Logger::WriteStamped(std::FILE* stream, const char* fmt, va_list args) {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    char stamp[512];
+    std::strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
+    const int stamp_bytes = std::fprintf(stream, "%s", stamp);
+    const int message_bytes = std::vfprintf(stream, fmt, args);
+    std::fflush(stream);
+    return stamp_bytes < 0 || message_bytes < 0 ? -1 : stamp_bytes + message_bytes;
+}
+
+// The stream is exchanged in one step, so that a thread that only looks whether there is one never
+// sees it missing in between.
+int Logger::Rotate() {
+    for (int i = rotate_cnt - 2; i >= 0; --i) {
+        std::rename(RotatedName(log_path, i).c_str(), RotatedName(log_path, i + 1).c_str());
+    }
+    std::remove(RotatedName(log_path, rotate_cnt - 1).c_str());
+    std::fclose(log_fp);
+    std::FILE* file = nullptr;
+    if (std::rename(log_path.c_str(), RotatedName(log_path, 0).c_str()) == 0) {
+        file = std::fopen(log_path.c_str(), "ae");
+    }
+    log_fp = file;
+    return file != nullptr ? 0 : -1;
+}
+
+void LogMSG_c(int level, char* component, const char* fmt, va_list args) {
+    Logger::LogMsg2(static_cast<Logger::Level>(level), ustring(component), fmt, args);
+}

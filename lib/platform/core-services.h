@@ -1,0 +1,48 @@
+#ifndef LIB_PLATFORM_CORE_SERVICES_H
+#define LIB_PLATFORM_CORE_SERVICES_H
+
+// References to file system objects and the canonical spelling of their paths. On macOS these are
+// the system's own calls; elsewhere the same few are declared here with the same meaning.
+#ifdef __APPLE__
+
+#include <CoreServices/CoreServices.h>
+
+#else
+
+#include <climits>
+#include <cstdint>
+
+typedef std::uint8_t UInt8;
+typedef std::uint32_t UInt32;
+typedef unsigned char Boolean;
+
+// 0, or one of these. The numbers are the system's.
+typedef std::int32_t OSStatus;
+enum : OSStatus {
+    noErr = 0,
+    ioErr = -36,             // anything that has no status of its own
+    bdNamErr = -37,          // the name is empty or too long
+    fnfErr = -43,            // the folder is there, the object isn't
+    dirNFErr = -120,         // a folder on the way isn't there
+    pathTooLongErr = -2110,  // the buffer is too small for the path and its terminator
+    afpAccessDenied = -5000
+};
+
+// Refers to an object that existed when the reference was made.
+struct FSRef {
+    char path[PATH_MAX];  // absolute, without links, as stored
+};
+
+// Makes a reference to the object at path (UTF-8, absolute or relative), following links, the last
+// one too. isDirectory may be null. ref is undefined unless the status is 0.
+// Threads: any.
+OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory);
+
+// Writes the object's absolute path, NUL-terminated UTF-8 without links, each component spelled as
+// it is stored.
+// Threads: any.
+OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 pathBufferSize);
+
+#endif
+
+#endif

@@ -1,0 +1,14 @@
+#ifndef LIB_PLATFORM_EXECUTABLE_PATH_H
+#define LIB_PLATFORM_EXECUTABLE_PATH_H
+
+#include <QString>
+
+namespace platform {
+
+// Where this process's executable really is, links followed, whatever name it was started by. Needs
+// no application object. Empty when the system doesn't say. Threads: any.
+QString ExecutablePath();
+
+}  // namespace platform
+
+#endif

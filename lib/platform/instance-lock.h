@@ -1,0 +1,39 @@
+#ifndef LIB_PLATFORM_INSTANCE_LOCK_H
+#define LIB_PLATFORM_INSTANCE_LOCK_H
+
+#include <string>
+
+namespace platform {
+
+// A lock that one process at a time holds. The kernel drops it when the process ends, however it
+// ends; a file that a killed process left behind blocks nobody.
+//
+// The lock is taken on the file at path, which is made if needed, only for its owner, and removed
+// when the lock is released. What stands in its place and isn't a regular file of this user's is
+// removed when that is possible and otherwise left alone.
+//
+// Threads: an object belongs to one thread.
+class InstanceLock {
+  public:
+    explicit InstanceLock(const std::string& path);
+    ~InstanceLock();
+    InstanceLock(const InstanceLock&) = delete;
+    InstanceLock& operator=(const InstanceLock&) = delete;
+
+    // True when another process held the lock. False when this one holds it, and also when no lock
+    // could be made (a read-only folder, another user's file): that must keep nobody from working.
+    bool heldElsewhere() const { return held_elsewhere_; }
+
+  private:
+    enum class Attempt { Locked, Held, Gone, Foreign, Impossible };
+
+    Attempt tryLock();
+
+    const std::string path_;
+    int fd_ = -1;
+    bool held_elsewhere_ = false;
+};
+
+}  // namespace platform
+
+#endif

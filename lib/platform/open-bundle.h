@@ -1,0 +1,22 @@
+#ifndef LIB_PLATFORM_OPEN_BUNDLE_H
+#define LIB_PLATFORM_OPEN_BUNDLE_H
+
+#include <QByteArray>
+#include <QString>
+
+namespace platform {
+
+// Asks the system to start the application bundle at path. Which executable runs is decided by the
+// bundle's Contents/Info.plist. It gets no arguments, starts in the home folder, and is neither
+// waited for nor watched. Returns false when the request wasn't accepted: no bundle, nothing in it
+// that can be started. Threads: any.
+bool OpenBundle(const QString& path);
+
+// The executable's name in the text of an Info.plist (XML): the value of the top-level key
+// CFBundleExecutable, empty when there is none, when it isn't a plain file name, and when the text
+// can't be read. Not needed, and not there, on macOS. Threads: any.
+QString BundleExecutable(const QByteArray& info_plist);
+
+}  // namespace platform
+
+#endif

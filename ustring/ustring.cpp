@@ -1,0 +1,602 @@
+#include "ustring/ustring.h"
+
+#include <unicode/unorm2.h>
+#include <unicode/ustring.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <new>
+#include <stdexcept>
+#include <vector>
+
+static_assert(sizeof(UChar) == sizeof(unsigned short), "ICU's code unit is our unit");
+
+namespace {
+
+const std::size_t kFirstCapacity = 4;  // of a new object's buffers, in bytes and in units
+
+// These numbers are part of the warnings' text.
+const int kFromUtf8Line = 921;
+const int kToUtf8Line = 888;
+const int kInstanceLine = 1014;
+const int kNormalizeLine = 1026;
+
+void Warn(const char* function, UErrorCode error, int line) {
+    std::cerr << "Warning: " << function << ": error code " << static_cast<int>(error)
+              << " at line " << line << std::endl;
+}
+
+bool Fits(std::size_t need, std::size_t capacity) {
+    return need <= capacity && capacity / 2 <= need;
+}
+
+template <typename Unit>
+Unit* Resize(Unit* buffer, std::size_t need) {
+    void* resized = std::realloc(buffer, need * sizeof(Unit));
+    if (resized == nullptr) {
+        throw std::bad_alloc();
+    }
+    return static_cast<Unit*>(resized);
+}
+
+// The length of an array that ends at its first zero or after n elements.
+template <typename Unit>
+std::size_t BoundedLength(const Unit* text, std::size_t n) {
+    std::size_t length = 0;
+    while (length < n && text[length] != 0) {
+        ++length;
+    }
+    return length;
+}
+
+std::size_t BoundedLength(const char* text, std::size_t n) {
+    return n == ustring::npos ? std::strlen(text) : ::strnlen(text, n);
+}
+
+template <typename Unit>
+bool PointsInto(const Unit* pointer, const Unit* buffer, std::size_t length) {
+    const std::less<const Unit*> before;
+    return !before(pointer, buffer) && !before(buffer + length, pointer);
+}
+
+class ByteSet {
+  public:
+    explicit ByteSet(std::string_view bytes) {
+        for (const char byte : bytes) {
+            has_[static_cast<unsigned char>(byte)] = true;
+        }
+    }
+    bool has(char byte) const { return has_[static_cast<unsigned char>(byte)]; }
+
+  private:
+    std::array<bool, 256> has_{};
+};
+
+// The position from which a backward search of a non-empty text starts.
+std::size_t BackwardStart(std::size_t length, std::size_t pos) {
+    return std::min(pos, length - 1);
+}
+
+std::size_t FindForward(std::string_view text, std::string_view needle, std::size_t pos) {
+    return pos >= text.size() ? ustring::npos : text.find(needle, pos);
+}
+
+std::size_t FindBackward(std::string_view text, std::string_view needle, std::size_t pos) {
+    return text.empty() ? ustring::npos : text.rfind(needle, BackwardStart(text.size(), pos));
+}
+
+std::size_t FindMemberForward(std::string_view text, std::string_view set, std::size_t pos,
+                              bool member) {
+    const ByteSet bytes(set);
+    for (; pos < text.size(); ++pos) {
+        if (bytes.has(text[pos]) == member) {
+            return pos;
+        }
+    }
+    return ustring::npos;
+}
+
+std::size_t FindMemberBackward(std::string_view text, std::string_view set, std::size_t pos,
+                               bool member) {
+    if (text.empty()) {
+        return ustring::npos;
+    }
+    const ByteSet bytes(set);
+    for (std::size_t i = BackwardStart(text.size(), pos) + 1; i-- > 0;) {
+        if (bytes.has(text[i]) == member) {
+            return i;
+        }
+    }
+    return ustring::npos;
+}
+
+unsigned char FoldAscii(unsigned char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte - 'A' + 'a') : byte;
+}
+
+std::string_view UpToNul(const std::string& bytes) {
+    return std::string_view(bytes.c_str());
+}
+
+std::string Part(const std::string& bytes, std::size_t pos, std::size_t n) {
+    if (pos > bytes.size()) {
+        throw std::out_of_range("basic_string::substr");
+    }
+    return bytes.substr(pos, n);
+}
+
+}  // namespace
+
+ustring::ustring() {
+    init();
+}
+
+ustring::ustring(const ustring& other) : ustring() {
+    assign_bytes(other.data, other.data_len);
+}
+
+ustring::ustring(const char* bytes) : ustring() {
+    assign(bytes);
+}
+
+ustring::ustring(const unsigned short* units) : ustring() {
+    assign(units);
+}
+
+ustring::ustring(const std::string& bytes) : ustring(bytes.c_str()) {}
+
+ustring::ustring(std::string_view bytes) : ustring() {
+    assign_bytes(bytes.data(), bytes.size());
+}
+
+ustring::ustring(char byte) : ustring() {
+    assign(byte, 1);
+}
+
+ustring::~ustring() {
+    std::free(data);
+    std::free(wdata);
+    data = nullptr;
+    wdata = nullptr;
+}
+
+ustring& ustring::operator=(ustring&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+void ustring::init() {
+    data = Resize<char>(nullptr, kFirstCapacity);
+    try {
+        wdata = Resize<unsigned short>(nullptr, kFirstCapacity);
+    } catch (const std::bad_alloc&) {
+        std::free(data);
+        throw;
+    }
+    data_cap = kFirstCapacity;
+    wdata_cap = kFirstCapacity;
+    clear();
+}
+
+void ustring::realloc_data(size_type need) {
+    if (!Fits(need, data_cap)) {
+        data = Resize(data, need);
+        data_cap = need;
+    }
+}
+
+void ustring::realloc_wdata(size_type need) const {
+    if (!Fits(need, wdata_cap)) {
+        wdata = Resize(wdata, need);
+        wdata_cap = need;
+    }
+}
+
+void ustring::clear_data() {
+    data_len = 0;
+    data[0] = 0;
+}
+
+void ustring::clear_wdata() const {
+    wdata_len = 0;
+    wdata[0] = 0;
+}
+
+void ustring::clear() {
+    clear_data();
+    clear_wdata();
+}
+
+void ustring::swap(ustring& other) noexcept {
+    std::swap(data, other.data);
+    std::swap(data_len, other.data_len);
+    std::swap(data_cap, other.data_cap);
+    std::swap(wdata, other.wdata);
+    std::swap(wdata_len, other.wdata_len);
+    std::swap(wdata_cap, other.wdata_cap);
+}
+
+// Ends the UTF-8 text after len bytes and drops the UTF-16 form.
+void ustring::set_data_len(size_type len) {
+    data_len = len;
+    data[len] = 0;
+    clear_wdata();
+}
+
+int ustring::convert_from_data() const {
+    int32_t length = 0;
+    UErrorCode error = U_ZERO_ERROR;
+    u_strFromUTF8(nullptr, 0, &length, data, -1, &error);
+    realloc_wdata(static_cast<size_type>(length) + 1);
+    error = U_ZERO_ERROR;
+    u_strFromUTF8(wdata, static_cast<int32_t>(wdata_cap), &length, data, -1, &error);
+    if (U_FAILURE(error)) {
+        Warn("u_strFromUTF8", error, kFromUtf8Line);
+        clear_wdata();
+        return -1;
+    }
+    wdata_len = static_cast<size_type>(length);
+    wdata[wdata_len] = 0;
+    return 0;
+}
+
+int ustring::convert_from_wdata() {
+    int32_t length = 0;
+    UErrorCode error = U_ZERO_ERROR;
+    u_strToUTF8(nullptr, 0, &length, wdata, -1, &error);
+    realloc_data(static_cast<size_type>(length) + 1);
+    error = U_ZERO_ERROR;
+    u_strToUTF8(data, static_cast<int32_t>(data_cap), &length, wdata, -1, &error);
+    if (U_FAILURE(error)) {
+        Warn("u_strToUTF8", error, kToUtf8Line);
+        clear();
+        return -1;
+    }
+    data_len = static_cast<size_type>(length);
+    data[data_len] = 0;
+    return 0;
+}
+
+void ustring::build_wdata() const {
+    if (wdata_len == 0) {
+        convert_from_data();
+    }
+}
+
+const unsigned short* ustring::c_str_utf16() const {
+    build_wdata();
+    return wdata;
+}
+
+// The bytes must not lie in this object's buffer, except at its start.
+ustring& ustring::assign_bytes(const char* bytes, size_type n) {
+    if (bytes == data) {
+        if (n < data_len) {
+            realloc_data(n + 1);
+            set_data_len(n);
+        }
+        return *this;
+    }
+    realloc_data(n + 1);
+    if (n != 0) {
+        std::memcpy(data, bytes, n);
+    }
+    set_data_len(n);
+    return *this;
+}
+
+ustring& ustring::assign(const ustring& other, size_type pos, size_type n) {
+    if (this == &other) {
+        ustring part = other.substr(pos, n);
+        swap(part);
+        return *this;
+    }
+    if (pos > other.data_len) {
+        throw std::out_of_range("substr");
+    }
+    return assign_bytes(other.data + pos, std::min(n, other.data_len - pos));
+}
+
+ustring& ustring::assign(const char* bytes) {
+    return bytes == data ? *this : assign(bytes, npos);
+}
+
+ustring& ustring::assign(const char* bytes, size_type n) {
+    const size_type length = BoundedLength(bytes, n);
+    if (bytes != data && PointsInto<char>(bytes, data, data_len)) {
+        return *this = ustring(std::string_view(bytes, length));
+    }
+    return assign_bytes(bytes, length);
+}
+
+ustring& ustring::assign(const std::string& bytes, size_type pos, size_type n) {
+    return assign(Part(bytes, pos, n).c_str());
+}
+
+ustring& ustring::assign(char byte, size_type n) {
+    realloc_data(n + 1);
+    std::memset(data, byte, n);
+    set_data_len(n);
+    return *this;
+}
+
+// The units must not lie in this object's buffer, except at its start.
+ustring& ustring::assign_units(const unsigned short* units, size_type n) {
+    if (units == wdata && n >= wdata_len) {
+        return *this;
+    }
+    realloc_wdata(n + 1);
+    if (units != wdata) {
+        std::copy_n(units, n, wdata);
+    }
+    wdata[n] = 0;
+    wdata_len = n;
+    convert_from_wdata();
+    return *this;
+}
+
+ustring& ustring::assign(const unsigned short* units) {
+    return units == wdata ? *this : assign(units, npos);
+}
+
+ustring& ustring::assign(const unsigned short* units, size_type n) {
+    const size_type length = BoundedLength(units, n);
+    if (units != wdata && PointsInto<unsigned short>(units, wdata, wdata_len)) {
+        const std::vector<unsigned short> copy(units, units + length);
+        return assign_units(copy.data(), length);
+    }
+    return assign_units(units, length);
+}
+
+ustring& ustring::assign(unsigned short unit, size_type n) {
+    clear();
+    return append(unit, n);
+}
+
+// The bytes may lie in this object's buffer, which can move when it grows.
+ustring& ustring::append_bytes(const char* bytes, size_type n) {
+    const bool own = PointsInto<char>(bytes, data, data_len);
+    const std::ptrdiff_t offset = own ? bytes - data : 0;
+    realloc_data(data_len + n + 1);
+    if (n != 0) {
+        std::memcpy(data + data_len, own ? data + offset : bytes, n);
+    }
+    set_data_len(data_len + n);
+    return *this;
+}
+
+ustring& ustring::append(const ustring& other, size_type pos, size_type n) {
+    if (pos > other.data_len) {
+        throw std::out_of_range("substr");
+    }
+    return append_bytes(other.data + pos, std::min(n, other.data_len - pos));
+}
+
+ustring& ustring::append(const char* bytes) {
+    return append(bytes, npos);
+}
+
+ustring& ustring::append(const char* bytes, size_type n) {
+    return append_bytes(bytes, BoundedLength(bytes, n));
+}
+
+ustring& ustring::append(const std::string& bytes, size_type pos, size_type n) {
+    return append(Part(bytes, pos, n).c_str());
+}
+
+ustring& ustring::append(char byte, size_type n) {
+    realloc_data(data_len + n + 1);
+    std::memset(data + data_len, byte, n);
+    set_data_len(data_len + n);
+    return *this;
+}
+
+// The units may lie in this object's buffer, which can move when it grows.
+ustring& ustring::append_units(const unsigned short* units, size_type n) {
+    const bool own = PointsInto<unsigned short>(units, wdata, wdata_len);
+    const std::ptrdiff_t offset = own ? units - wdata : 0;
+    build_wdata();
+    realloc_wdata(wdata_len + n + 1);
+    std::copy_n(own ? wdata + offset : units, n, wdata + wdata_len);
+    wdata_len += n;
+    wdata[wdata_len] = 0;
+    convert_from_wdata();
+    return *this;
+}
+
+ustring& ustring::append(const unsigned short* units) {
+    return append(units, npos);
+}
+
+ustring& ustring::append(const unsigned short* units, size_type n) {
+    return append_units(units, BoundedLength(units, n));
+}
+
+ustring& ustring::append(unsigned short unit, size_type n) {
+    build_wdata();
+    realloc_wdata(wdata_len + n + 1);
+    std::fill_n(wdata + wdata_len, n, unit);
+    wdata_len += n;
+    wdata[wdata_len] = 0;
+    convert_from_wdata();
+    return *this;
+}
+
+#define USTRING_SEARCH(name, search, ...)                                         \
+    ustring::size_type ustring::name(const ustring& x, size_type pos) const {     \
+        return search(view(), x.view(), pos __VA_ARGS__);                         \
+    }                                                                             \
+    ustring::size_type ustring::name(const std::string& x, size_type pos) const { \
+        return search(view(), UpToNul(x), pos __VA_ARGS__);                       \
+    }                                                                             \
+    ustring::size_type ustring::name(const char* x, size_type pos) const {        \
+        return search(view(), std::string_view(x), pos __VA_ARGS__);              \
+    }                                                                             \
+    ustring::size_type ustring::name(char x, size_type pos) const {               \
+        return search(view(), std::string_view(&x, 1), pos __VA_ARGS__);          \
+    }
+
+#define COMMA ,
+USTRING_SEARCH(find, FindForward, )
+USTRING_SEARCH(rfind, FindBackward, )
+USTRING_SEARCH(find_first_of, FindMemberForward, COMMA true)
+USTRING_SEARCH(find_first_not_of, FindMemberForward, COMMA false)
+USTRING_SEARCH(find_last_of, FindMemberBackward, COMMA true)
+USTRING_SEARCH(find_last_not_of, FindMemberBackward, COMMA false)
+#undef COMMA
+#undef USTRING_SEARCH
+
+ustring& ustring::ltrim(const char* set) {
+    const size_type first = std::min(find_first_not_of(set), data_len);
+    if (first != 0) {
+        std::memmove(data, data + first, data_len - first);
+        set_data_len(data_len - first);
+    }
+    return *this;
+}
+
+ustring& ustring::rtrim(const char* set) {
+    const size_type end = find_last_not_of(set) + 1;  // 0 when there is none: npos wraps around
+    if (end != data_len) {
+        set_data_len(end);
+    }
+    return *this;
+}
+
+ustring& ustring::trim(const char* set) {
+    if (PointsInto<char>(set, data, data_len)) {
+        return trim(ustring(set));  // ltrim moves the bytes that the set is made of
+    }
+    ltrim(set);
+    return rtrim(set);
+}
+
+ustring& ustring::replace(char from, char to) {
+    std::replace(data, data + data_len, from, to);
+    clear_wdata();
+    return *this;
+}
+
+ustring ustring::substr(size_type pos, size_type n) const {
+    if (pos > data_len) {
+        throw std::out_of_range("substr");
+    }
+    return ustring(view().substr(pos, n));
+}
+
+int ustring::compare(const ustring& other, size_type n) const {
+    const char* const end = data + std::min(n, std::max(data_len, other.data_len));
+    const char* a = data;
+    const char* b = other.data;
+    while (a != end && *a == *b && *a != 0) {
+        ++a, ++b;
+    }
+    return a == end ? 0 : static_cast<unsigned char>(*a) - static_cast<unsigned char>(*b);
+}
+
+int ustring::compare(const ustring& a, const ustring& b, bool ignore_case) {
+    if (!ignore_case) {
+        return a.compare(b, npos);
+    }
+    const unsigned char* x = reinterpret_cast<const unsigned char*>(a.data);
+    const unsigned char* y = reinterpret_cast<const unsigned char*>(b.data);
+    while (*x != 0 && FoldAscii(*x) == FoldAscii(*y)) {
+        ++x, ++y;
+    }
+    return FoldAscii(*x) - FoldAscii(*y);
+}
+
+bool ustring::is_valid(const ustring& text) {
+    if (text.empty()) {
+        return true;
+    }
+    int32_t length = 0;
+    UErrorCode error = U_ZERO_ERROR;
+    u_strFromUTF8(nullptr, 0, &length, text.data, -1, &error);
+    return error != U_INVALID_CHAR_FOUND;
+}
+
+ustring ustring::normalize(const ustring& source, normalization_form form) {
+    ustring result;
+    if (source.empty()) {
+        return result;
+    }
+    UErrorCode error = U_ZERO_ERROR;
+    const UNormalizer2* const normalizer =
+        unorm2_getInstance(nullptr, "nfc", form == NFC ? UNORM2_COMPOSE : UNORM2_DECOMPOSE, &error);
+    if (U_FAILURE(error) || normalizer == nullptr) {
+        Warn("unorm2_getInstance", error, kInstanceLine);
+        return result;
+    }
+    source.build_wdata();
+    const int32_t needed = unorm2_normalize(normalizer, source.wdata, -1, nullptr, 0, &error);
+    result.realloc_wdata(static_cast<size_type>(needed) + 1);
+    error = U_ZERO_ERROR;
+    source.build_wdata();
+    const int32_t length = unorm2_normalize(normalizer, source.wdata, -1, result.wdata,
+                                            static_cast<int32_t>(result.wdata_cap), &error);
+    if (U_FAILURE(error)) {
+        Warn("unorm2_normalize", error, kNormalizeLine);
+        result.clear();
+        return result;
+    }
+    result.wdata_len = static_cast<size_type>(length);
+    result.wdata[result.wdata_len] = 0;
+    result.convert_from_wdata();
+    return result;
+}
+
+bool operator==(const ustring& a, const ustring& b) {
+    return a.size() == b.size() && std::memcmp(a.c_str(), b.c_str(), a.size()) == 0;
+}
+
+bool operator<(const ustring& a, const ustring& b) {
+    const int order = std::memcmp(a.c_str(), b.c_str(), std::min(a.size(), b.size()));
+    return order != 0 ? order < 0 : a.size() < b.size();
+}
+
+namespace {
+
+template <typename Right>
+ustring Concatenate(const ustring& a, Right b) {
+    ustring result(a);
+    result += b;
+    return result;
+}
+
+}  // namespace
+
+ustring operator+(const ustring& a, const ustring& b) {
+    return Concatenate<const ustring&>(a, b);
+}
+
+ustring operator+(const ustring& a, const char* b) {
+    return Concatenate(a, b);
+}
+
+ustring operator+(const ustring& a, char b) {
+    return Concatenate(a, b);
+}
+
+ustring operator+(const ustring& a, const unsigned short* b) {
+    return Concatenate(a, b);
+}
+
+ustring operator+(const ustring& a, unsigned short b) {
+    return Concatenate(a, b);
+}
+
+std::ostream& operator<<(std::ostream& out, const ustring& text) {
+    return out.write(text.c_str(), static_cast<std::streamsize>(text.size()));
+}
+
+std::istream& operator>>(std::istream& in, ustring& text) {
+    std::string word;
+    if (in >> word) {
+        text = word;
+    }
+    return in;
+}
