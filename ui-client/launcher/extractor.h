@@ -1,0 +1,34 @@
+#ifndef UI_CLIENT_LAUNCHER_EXTRACTOR_H
+#define UI_CLIENT_LAUNCHER_EXTRACTOR_H
+
+#include <archive.h>
+
+#include "ustring/ustring.h"
+
+// Unpacks a package archive, in any format and compression that libarchive knows, into a folder.
+// Set both members, then call one operation; nothing is kept between calls. Paths are UTF-8.
+//
+// All return -1 on failure, after logging it. Threads: one object belongs to one thread; the
+// process-wide progress notifier is called from the thread that calls Extract.
+class Extractor {
+  public:
+    // Writes every entry below dest_dir, whatever folder its name begins with, and reports the
+    // progress after each. What stands in the way of an entry is unlinked first. Entries whose
+    // name holds ".." are refused. 0 when every entry was written; an archive without entries is a
+    // failure, and so is a warning of libarchive. A failure leaves the entries before it.
+    int Extract();
+
+    // The number of entries up to the end of the archive or to the first damaged one.
+    int Count();
+
+    // Prints the name of each entry to standard output, a line each; 0 at the end.
+    int List();
+
+    // Copies the data of in's current entry to out's; 0 at its end.
+    int copy_data(archive* in, archive* out);
+
+    ustring dest_dir;
+    ustring archive_path;
+};
+
+#endif

@@ -1,0 +1,139 @@
+#include "ui-client/launcher/mac/mac-service.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+#include "lib/config/config.h"
+#include "lib/libclient/file-op.h"
+#include "lib/liblogger/log.h"
+#include "lib/platform/open-bundle.h"
+
+#define LOG_SOURCE "mac/mac-service"
+
+namespace {
+
+const ustring log_component("service_debug");
+
+const int kTimeout = 10000;
+const int kProbes = 5;  // one a second, before SIGKILL
+
+int BuildNumber(const VerInfo& version) {
+    return version.build_version.empty() ? 0 : std::atoi(version.build_version.c_str());
+}
+
+// The process id in the pid file's entry, or -1 for what must not be signalled: no positive number
+// (0 and less address process groups), one that no process can have, and ourselves.
+pid_t ClientPid(const std::map<ustring, ustring>& entries, const ustring& pid_file) {
+    const auto entry = entries.find("pid");
+    const char* const text = entry != entries.end() ? entry->second.c_str() : "";
+    const long pid = std::strtol(text, nullptr, 10);
+    if (pid <= 0 || pid > std::numeric_limits<pid_t>::max() || pid == getpid()) {
+        LOG_MSG(WARNING, "pid file '%s' names no client: pid '%s'\n", pid_file.c_str(), text);
+        return -1;
+    }
+    return static_cast<pid_t>(pid);
+}
+
+bool IsGone(pid_t pid) {
+    return kill(pid, 0) != 0 && errno == ESRCH;
+}
+
+void EndProcess(pid_t pid) {
+    if (kill(pid, SIGTERM) != 0) {
+        if (errno == ESRCH) {
+            return;
+        }
+        LOG_MSG_AT(112, ERROR, "kill: %s (%d)\n", strerror(errno), errno);
+    }
+    for (int probe = 0; probe < kProbes; ++probe) {
+        if (IsGone(pid)) {
+            return;
+        }
+        sleep(1);
+    }
+    static_cast<void>(kill(pid, SIGKILL));  // it may have ended meanwhile
+}
+
+}  // namespace
+
+MacService::MacService() {
+    timeout = kTimeout;
+    user_app_path = Service::GetUserTarnwellAppInstallPath();
+}
+
+MacService* MacService::GetInstace() {
+    static MacService instance;
+    return &instance;
+}
+
+void MacService::PreUpgrade() {
+    Service::LoadTargetVersion();
+    Service::LoadSourceVersion();
+    LOG_MSG_AT(74, DEBUG, "Source version: ('%s', '%s')\n", source_version.build_version.c_str(),
+               source_version.icon_overlay_version.c_str());
+    LOG_MSG_AT(75, DEBUG, "Target version: ('%s', '%s')\n", target_version.build_version.c_str(),
+               target_version.icon_overlay_version.c_str());
+}
+
+bool MacService::IsNeedUpgrade() {
+    const int source = BuildNumber(source_version);
+    const int target = BuildNumber(target_version);
+    LOG_MSG_AT(141, DEBUG, "source version = %d, target version = %d\n", source, target);
+    return !PerUserBinPathExist() || target > source;
+}
+
+int MacService::HandlePackageUpgrade() {
+    if (PerUserBinPathExist()) {
+        LOG_MSG_AT(154, DEBUG, "local appdata exist\n");
+        StopService();
+    }
+    return PrepareUserEnv();
+}
+
+void MacService::StopService() {
+    const ustring pid_file = Service::GetUserTarnwellInstallPath() + "/ui.pid";
+    if (!IsFileExist(pid_file, false)) {
+        LOG_MSG_AT(92, DEBUG, "pid file '%s' does not exist, no need to terminate\n",
+                   pid_file.c_str());
+        return;
+    }
+    Config config;
+    if (config.read(pid_file) < 0) {
+        LOG_MSG_AT(97, NOTE, "Failed to read pid file '%s', not exist ?\n", pid_file.c_str());
+        return;
+    }
+    const pid_t pid = ClientPid(config.entries, pid_file);
+    if (pid > 0) {
+        EndProcess(pid);
+    }
+}
+
+void MacService::PostUpgrade() {
+    if (LaunchPerUserBin() < 0) {
+        LOG_MSG_AT(80, ERROR, "Failed to launch Tarnwell UI\n");
+    }
+}
+
+bool MacService::PerUserBinPathExist() {
+    const ustring path = user_app_path + "/" + "Contents/MacOS" + "/" + "tarnwell-ui";
+    return access(path.c_str_utf8(), F_OK) == 0;
+}
+
+int MacService::LaunchPerUserBin() {
+    const QString path = QDir::homePath() + QStringLiteral("/.Tarnwell/Tarnwell.app");
+    return platform::OpenBundle(path) ? 0 : -1;
+}
+
+void MacService::LoadSourceVerInfo() {
+    Service::LoadSourceVersion();
+}
+
+void MacService::LoadTargetVerInfo() {
+    Service::LoadTargetVersion();
+}

@@ -1,0 +1,284 @@
+#include "ui-client/launcher/tarnwell-service.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSettings>
+#include <cstdio>
+#include <vector>
+
+#include "lib/libclient/file-op.h"
+#include "lib/liblogger/log.h"
+#include "ui-client/launcher/extractor.h"
+
+#define LOG_SOURCE "tarnwell-service"
+
+namespace {
+
+const ustring log_component("service_debug");
+
+const int kMaxBackups = 10;
+
+ustring FromQt(const QString& text) {
+    return ustring(text.toUtf8().constData());
+}
+
+void LoadField(const QSettings& settings, const char* key, ustring& field) {
+    const QString name = QString::fromLatin1(key);
+    if (settings.contains(name)) {
+        field = FromQt(settings.value(name).toString());
+    }
+}
+
+void LoadVersion(const ustring& path, VerInfo& version) {
+    QSettings settings(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("Version"));
+    LoadField(settings, "major_version", version.major_version);
+    LoadField(settings, "minor_version", version.minor_version);
+    LoadField(settings, "build_version", version.build_version);
+    LoadField(settings, "icon_overlay_version", version.icon_overlay_version);
+}
+
+// The name under which the application folder is moved aside at attempt n (0 to 9).
+ustring GetAppBackupDir(ustring const& app, int n) {
+    ustring backup = app + "_tmp";
+    if (n == 0) {
+        return backup;
+    }
+    char postfix[8];
+    if (std::snprintf(postfix, sizeof postfix, "%d", n) < 0) {
+        LOG_MSG(ERROR, "snprintf failed (continuing without postfix)");
+        postfix[0] = 0;
+    }
+    return backup += postfix;
+}
+
+// Moves the application folder aside. Returns the number of the attempt that succeeded, or -1.
+int MoveAside(ustring const& app, ustring& backup) {
+    for (int n = 0; n < kMaxBackups; ++n) {
+        backup = GetAppBackupDir(app, n);
+        if (FSRename(app, backup, false) == 0) {
+            return n;
+        }
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app.c_str(), backup.c_str());
+    }
+    LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
+            backup.c_str());
+    return -1;
+}
+
+// After a failed extraction: puts the old installation back, if there was one.
+void RollBack(ustring const& app, ustring const& backup) {
+    if (backup.empty()) {
+        LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
+        return;
+    }
+    LOG_MSG(ERROR, "Failed to extract package, rollback to old installation\n");
+    FSRemove(app, false);
+    FSRename(backup, app, false);  // there is nothing left to try when it fails
+}
+
+// The canonical form of a path that need not exist: that of the deepest folder that does, followed
+// by the rest as it was given.
+ustring CanonicalForm(ustring const& path) {
+    ustring existing = path;
+    ustring rest;
+    while (FSGetRealPath(existing) != 0) {
+        existing.rtrim("/");
+        const ustring::size_type slash = existing.rfind('/');
+        if (slash == ustring::npos) {
+            rest = ustring("/") + existing + rest;
+            existing = ".";
+            continue;
+        }
+        rest = existing.substr(slash) + rest;
+        existing = slash == 0 ? ustring("/") : existing.substr(0, slash);
+    }
+    return existing + rest;
+}
+
+bool IsSameOrInside(ustring const& path, ustring const& folder) {
+    const ustring outer = CanonicalForm(folder) + "/";
+    return (CanonicalForm(path) + "/").compare(outer, outer.size()) == 0;
+}
+
+bool IsSpecial(std::int32_t type) {
+    return type == FILE_TYPE_DEV || type == FILE_TYPE_FIFO || type == FILE_TYPE_SOCK;
+}
+
+// Opening a pipe could wait for ever, so the type is looked at first, for a link that of its
+// target.
+int CopySingle(ustring const& src, ustring const& dst, std::int32_t type) {
+    if (type == FILE_TYPE_LNK || type == FILE_TYPE_UNKNOWN) {
+        ustring target = src;
+        _FILE_INFO_tag info;
+        if (FSGetRealPath(target) == 0 && GetFileInfo(target, info) == 0) {
+            type = info.type;
+        }
+    }
+    if (IsSpecial(type)) {
+        LOG_MSG(ERROR, "FSCopyPath: source path '%s' is a pipe, socket or device (%d)\n",
+                src.c_str(), type);
+        return -1;
+    }
+    return FSCopy(src, dst, false) < 0 ? -1 : 0;
+}
+
+// The entries of a folder, read to the end before the first is copied, so that a deep tree doesn't
+// hold a stream open at each level. A folder that can't be opened has none.
+std::vector<DIR_ENTRY> ListFolder(ustring const& path) {
+    std::vector<DIR_ENTRY> entries;
+    DIR_HANDLE handle;
+    if (FSOpenDir(path, 0, handle) != 0) {
+        LOG_MSG(WARNING, "FSCopyPath: failed to create handle  for src '%s' failed\n",
+                path.c_str());
+        return entries;
+    }
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) > 0) {
+        if (entry.name != "." && entry.name != "..") {
+            entries.push_back(entry);
+        }
+    }
+    FSCloseDir(handle);
+    return entries;
+}
+
+int CopyFolder(ustring const& src, ustring const& dst);
+
+// Copies what is at src. The destination of a whole tree is checked once, at its top.
+int CopyPath(ustring const& src, ustring const& dst, bool check_destination) {
+    LOG_MSG(DEBUG, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, false) != 0) {
+        LOG_MSG(ERROR, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
+        return -1;
+    }
+    if (!info.exists) {
+        LOG_MSG(ERROR, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
+        return -1;
+    }
+    if (info.type != FILE_TYPE_DIR) {
+        return CopySingle(src, dst, info.type);
+    }
+    if (check_destination && IsSameOrInside(dst, src)) {
+        LOG_MSG(ERROR, "FSCopyPath: destination '%s' lies inside source '%s'\n", dst.c_str(),
+                src.c_str());
+        return -1;
+    }
+    if (FSMKDir(dst, true) < 0) {
+        LOG_MSG(ERROR, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
+        return -1;
+    }
+    return CopyFolder(src, dst);
+}
+
+int CopyFolder(ustring const& src, ustring const& dst) {
+    for (const DIR_ENTRY& entry : ListFolder(src)) {
+        const ustring child_src = src + "/" + entry.name;
+        const ustring child_dst = dst + "/" + entry.name;
+        const int result = entry.type == FILE_TYPE_DIR
+                               ? CopyPath(child_src, child_dst, false)
+                               : CopySingle(child_src, child_dst, entry.type);
+        if (result < 0) {
+            LOG_MSG(ERROR, "FSCopyPath: failed to copy from '%s' to '%s'\n", child_src.c_str(),
+                    child_dst.c_str());
+            return -1;
+        }
+    }
+    return 0;
+}
+
+}  // namespace
+
+void Service::SetTimeout(int value) {
+    timeout = value;
+}
+
+int Service::ExtractPackage() {
+    const ustring package = GetRootTarnwellResourceInstallPath() + "/package/tarnwell.opk";
+    const ustring target = GetUserTarnwellAppInstallPath();
+    if (FSMKDir(target, true) < 0) {
+        LOG_MSG(ERROR, "failed to create folder: '%s'\n", target.c_str());
+        return -1;
+    }
+    LOG_MSG(INFO, "extract package: '%s' -> '%s'\n", package.c_str(), target.c_str());
+    Extractor extractor;
+    extractor.dest_dir = target;
+    extractor.archive_path = package;
+    return extractor.Extract();
+}
+
+void Service::LoadSourceVersion() {
+    const ustring path = GetUserTarnwellAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+    if (!IsFileExist(path, false)) {
+        LOG_MSG(INFO, "source does not exist\n");
+        return;
+    }
+    LoadVersion(path, source_version);
+    LOG_MSG(INFO, "source_version = (%s, %s, %s, %s)\n", source_version.major_version.c_str(),
+            source_version.minor_version.c_str(), source_version.build_version.c_str(),
+            source_version.icon_overlay_version.c_str());
+}
+
+void Service::LoadTargetVersion() {
+    LoadVersion(GetRootTarnwellResourceInstallPath() + "/" + "INFO", target_version);
+    LOG_MSG(INFO, "target_version = (%s, %s, %s, %s)\n", target_version.major_version.c_str(),
+            target_version.minor_version.c_str(), target_version.build_version.c_str(),
+            target_version.icon_overlay_version.c_str());
+}
+
+int Service::PrepareUserEnv() {
+    const ustring app = user_app_path;
+    ustring backup;
+    int attempt = 0;
+    if (IsFileExist(app, false)) {
+        attempt = MoveAside(app, backup);
+        if (attempt < 0) {
+            return -1;
+        }
+    }
+    if (ExtractPackage() != 0) {
+        RollBack(app, backup);
+        return -1;
+    }
+    LOG_MSG(INFO, "user installation is ready, removing backup app\n");
+    for (int n = 0; n <= attempt; ++n) {
+        FSRemove(GetAppBackupDir(app, n), false);  // what can't be removed is tried again next time
+    }
+    return 0;
+}
+
+void Service::RemoveAgedFolders() {
+    const ustring path = GetUserTarnwellInstallPath() + "/app";
+    LOG_MSG(INFO, "removing aged app folder %s\n", path.c_str());
+    FSRemove(path, false);  // tried again at the next start
+}
+
+int Service::FSCopyPath(ustring const& src, ustring const& dst) {
+    return CopyPath(src, dst, true);
+}
+
+ustring Service::GetUserInstallPath() {
+    return FromQt(QDir::homePath());
+}
+
+ustring Service::GetUserTarnwellInstallPath() {
+    return GetUserInstallPath() + "/" + ".Tarnwell";
+}
+
+ustring Service::GetUserTarnwellAppInstallPath() {
+    return GetUserTarnwellInstallPath() + "/" + "Tarnwell.app";
+}
+
+ustring Service::GetUserTarnwellDataInstallPath() {
+    return GetUserTarnwellInstallPath() + "/" + "data";
+}
+
+ustring Service::GetRootTarnwellInstallPath() {
+    return FromQt(QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/") +
+                                  QStringLiteral("../..")));
+}
+
+ustring Service::GetRootTarnwellResourceInstallPath() {
+    return GetRootTarnwellInstallPath() + "/Contents/Resources";
+}
