@@ -1,0 +1,131 @@
+// A small client for the demonstration package. It shows its version, leaves its process id in
+// ~/.Tarnwell/ui.pid for the launcher, and ends when its window is closed or on SIGTERM.
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QSettings>
+#include <QSocketNotifier>
+#include <QVBoxLayout>
+#include <QWidget>
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+int g_signal_pipe[2];
+
+void OnSignal(int) {
+    const char byte = 0;
+    static_cast<void>(write(g_signal_pipe[1], &byte, 1) == 1);  // a full pipe wakes us as well
+}
+
+// Turns SIGTERM and SIGINT into a regular end of the event loop.
+class QuitOnSignal {
+  public:
+    QuitOnSignal() : notifier_(openPipe(), QSocketNotifier::Read) {
+        QObject::connect(&notifier_, &QSocketNotifier::activated, qApp,
+                         [] { QCoreApplication::quit(); });
+        struct sigaction action = {};
+        action.sa_handler = OnSignal;
+        action.sa_flags = SA_RESTART;
+        sigaction(SIGTERM, &action, nullptr);
+        sigaction(SIGINT, &action, nullptr);
+    }
+
+  private:
+    static int openPipe() {
+        if (socketpair(AF_UNIX, SOCK_STREAM, 0, g_signal_pipe) != 0) {
+            qFatal("socketpair failed");
+        }
+        return g_signal_pipe[0];
+    }
+
+    QSocketNotifier notifier_;
+};
+
+// The pid file, there as long as the object lives. Its lock, which the kernel drops with the
+// process, keeps a second client from running beside the first.
+class PidFile {
+  public:
+    PidFile() : path_(QFile::encodeName(QDir::homePath() + QStringLiteral("/.Tarnwell/ui.pid"))) {
+        fd_ = open(path_.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+        if (fd_ < 0) {
+            qWarning("can't open %s: %s", path_.constData(), strerror(errno));
+            return;
+        }
+        running_elsewhere_ = flock(fd_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        if (!running_elsewhere_) {
+            writePid();
+        }
+    }
+    ~PidFile() {
+        if (fd_ < 0) {
+            return;
+        }
+        if (!running_elsewhere_) {
+            unlink(path_.constData());
+        }
+        close(fd_);
+    }
+
+    bool runningElsewhere() const { return running_elsewhere_; }
+
+  private:
+    void writePid() const {
+        const QByteArray text = "pid=" + QByteArray::number(getpid()) + '\n';
+        if (ftruncate(fd_, 0) != 0 || write(fd_, text.constData(), size_t(text.size())) < 0) {
+            qWarning("can't write %s: %s", path_.constData(), strerror(errno));
+        }
+    }
+
+    const QByteArray path_;
+    int fd_ = -1;
+    bool running_elsewhere_ = false;
+};
+
+QString VersionText() {
+    const QSettings info(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/INFO"),
+        QSettings::IniFormat);
+    return QStringLiteral("Version %1.%2, build %3")
+        .arg(info.value(QStringLiteral("Version/major_version")).toString(),
+             info.value(QStringLiteral("Version/minor_version")).toString(),
+             info.value(QStringLiteral("Version/build_version")).toString());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    const QuitOnSignal quit_on_signal;
+    const PidFile pid_file;
+    if (pid_file.runningElsewhere()) {
+        return 0;
+    }
+
+    QWidget window;
+    window.setWindowTitle(QStringLiteral("Orvane Tarnwell"));
+    QLabel icon;
+    icon.setPixmap(QPixmap(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../Resources/images/ico_72_tarnwell.png")));
+    icon.setAlignment(Qt::AlignCenter);
+    QLabel version(VersionText());
+    version.setAlignment(Qt::AlignCenter);
+    QLabel status(QStringLiteral("Up to date"));
+    status.setAlignment(Qt::AlignCenter);
+    QVBoxLayout layout(&window);
+    layout.addWidget(&icon);
+    layout.addWidget(&version);
+    layout.addWidget(&status);
+    window.setMinimumWidth(280);
+    window.show();
+    return QApplication::exec();
+}
