@@ -1,0 +1,181 @@
+// The controller, its worker and the dialog through the real event loop.
+
+#include "ui-client/launcher/launcher.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTimer>
+#include <filesystem>
+
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/tarnwell-service.h"
+#include "ui-client/launcher/translations/str-table.h"
+
+namespace {
+
+// This test's executable stands in a bundle of its own, whose package each test writes anew.
+class LauncherTest : public testing::Test {
+  protected:
+    LauncherTest() {
+        qputenv("HOME", QByteArray::fromStdString(home_.path()));
+        StrTable::InitStrTable();
+        writePackage(7);
+    }
+
+    static std::string bundle() { return Service::GetRootTarnwellInstallPath().c_str(); }
+
+    // entries of them, the last one the client
+    void writePackage(int entries) {
+        std::vector<Entry> package;
+        for (int i = 1; i < entries; ++i) {
+            package.push_back({"Contents/file" + std::to_string(i), "text"});
+        }
+        package.push_back({"Contents/MacOS/tarnwell-ui", "#!/bin/sh\n", 0755});
+        MakeFile(bundle() + "/Contents/Resources/INFO", "[Version]\nbuild_version=100\n");
+        MakeFolder(bundle() + "/Contents/Resources/package");
+        MakeArchive(bundle() + "/Contents/Resources/package/tarnwell.opk", "zip", package);
+    }
+
+    static ProcessingProgressDialog* dialog() {
+        for (QWidget* const widget : QApplication::topLevelWidgets()) {
+            if (auto* const found = qobject_cast<ProcessingProgressDialog*>(widget)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    bool installed() const { return Exists(home_ / ".Tarnwell/Tarnwell.app/Contents/MacOS"); }
+
+    Folder home_;
+};
+
+struct Watched {
+    std::vector<int> values;
+    std::vector<QString> labels;
+    bool was_visible = false;
+    int result = -1;
+};
+
+// Runs a launcher to the end of its event loop and keeps what the user would see.
+Watched RunAndWatch(Launcher& launcher, QProgressDialog* dialog) {
+    Watched watched;
+    QLabel* const label = dialog->findChild<QLabel*>();
+    QObject::connect(dialog->findChild<QProgressBar*>(), &QProgressBar::valueChanged,
+                     [&](int value) {
+                         watched.values.push_back(value);
+                         watched.labels.push_back(label->text());
+                         watched.was_visible |= dialog->isVisible();
+                     });
+    launcher.Run();
+    launcher.Start();
+    watched.result = QApplication::exec();
+    watched.labels.push_back(label->text());
+    return watched;
+}
+
+TEST_F(LauncherTest, TheDialogShowsAnUpgrade) {
+    Launcher launcher;
+    ASSERT_NE(dialog(), nullptr);
+    EXPECT_FALSE(dialog()->isVisible());
+    const Watched watched = RunAndWatch(launcher, dialog());
+    EXPECT_EQ(watched.result, 0);
+    EXPECT_EQ(watched.values, (std::vector<int>{14, 28, 42, 57, 71, 85, 100}));
+    EXPECT_EQ(watched.labels.front(), QStringLiteral("Tarnwell is initializing..."));
+    EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is ready."));
+    EXPECT_TRUE(watched.was_visible);
+    EXPECT_FALSE(dialog()->isVisible());
+    EXPECT_TRUE(installed());
+}
+
+TEST_F(LauncherTest, OneEntryFillsTheBarAtOnce) {
+    writePackage(1);
+    Launcher launcher;
+    EXPECT_EQ(RunAndWatch(launcher, dialog()).values, std::vector<int>{100});
+}
+
+TEST_F(LauncherTest, TheDialogIsBuiltAsDesigned) {
+    Launcher launcher;
+    const QProgressDialog* const built = dialog();
+    EXPECT_EQ(built->windowTitle(), QStringLiteral("Tarnwell Backup"));
+    EXPECT_EQ(built->labelText(), QStringLiteral("Tarnwell is initializing..."));
+    EXPECT_EQ(int(built->windowFlags() & ~Qt::Window), 0x3000);  // Qt adds that bit itself
+    EXPECT_EQ(built->minimum(), 0);
+    EXPECT_EQ(built->maximum(), 100);
+    EXPECT_EQ(built->value(), 0);
+    EXPECT_EQ(built->font().family(), QStringLiteral("Arial"));
+    EXPECT_EQ(built->minimumWidth(), 400);
+    EXPECT_EQ(built->maximumWidth(), 400);
+    EXPECT_EQ(built->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(built->styleSheet().size(), 77);
+    EXPECT_FALSE(built->autoReset());
+}
+
+TEST_F(LauncherTest, AFailedUpgradeKeepsTheLastLabel) {
+    MakeFile(bundle() + "/Contents/Resources/package/tarnwell.opk", "no archive");
+    Launcher launcher;
+    const Watched watched = RunAndWatch(launcher, dialog());
+    EXPECT_EQ(watched.result, 0);
+    EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is initializing..."));
+    EXPECT_FALSE(dialog()->isVisible());
+}
+
+// Qt shows a progress dialog by itself when its work takes long.
+TEST_F(LauncherTest, TheDialogNeverShowsItself) {
+    Launcher launcher;
+    const int longer_than_qt_waits = 4500;
+    bool seen = false;
+    QTimer::singleShot(longer_than_qt_waits, [&] {
+        seen = dialog()->isVisible();
+        QCoreApplication::quit();
+    });
+    QApplication::exec();
+    EXPECT_FALSE(seen);
+}
+
+TEST_F(LauncherTest, ClosingTheWindowStopsNothing) {
+    Launcher launcher;
+    QTimer::singleShot(0, [] {
+        dialog()->show();
+        dialog()->close();
+    });
+    const Watched watched = RunAndWatch(launcher, dialog());
+    EXPECT_EQ(watched.result, 0);
+    EXPECT_TRUE(installed());
+}
+
+TEST_F(LauncherTest, AnEndOfTheMainLoopWaitsForTheWork) {
+    writePackage(2000);
+    {
+        Launcher launcher;
+        QObject::connect(dialog()->findChild<QProgressBar*>(), &QProgressBar::valueChanged,
+                         [] { QCoreApplication::quit(); });
+        launcher.Run();
+        launcher.Start();
+        QApplication::exec();
+    }
+    EXPECT_TRUE(installed());
+}
+
+TEST_F(LauncherTest, OneNotifierServesAllThreads) {
+    Notify_Adapter* const here = Notify_Adapter::GetInstance();
+    Notify_Adapter* there = nullptr;
+    QThread* const thread = QThread::create([&] { there = Notify_Adapter::GetInstance(); });
+    thread->start();
+    thread->wait();
+    delete thread;
+    EXPECT_EQ(here, there);
+    EXPECT_EQ(here->thread(), QApplication::instance()->thread());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    QApplication app(argc, argv);
+    return RUN_ALL_TESTS();
+}

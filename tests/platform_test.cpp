@@ -1,0 +1,263 @@
+// What the operating system gives on macOS and this layer gives elsewhere.
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QString>
+
+#include "lib/platform/core-services.h"
+#include "lib/platform/file-system-type.h"
+#include "lib/platform/instance-lock.h"
+#include "lib/platform/open-bundle.h"
+#include "tests/support/scenario.h"
+
+namespace {
+
+OSStatus MakeRef(const std::string& path, FSRef& ref) {
+    return FSPathMakeRef(reinterpret_cast<const UInt8*>(path.c_str()), &ref, nullptr);
+}
+
+TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
+    const Folder folder;
+    MakeFile(folder / "folder/Name");
+    MakeLink("folder/Name", folder / "link");
+    MakeLink("folder", folder / "way");
+    for (const char* const path :
+         {"/folder/Name", "/link", "/way/Name", "/folder/../link", "//folder/.//Name"}) {
+        SCOPED_TRACE(path);
+        FSRef ref;
+        UInt8 text[PATH_MAX] = {};
+        ASSERT_EQ(MakeRef(folder.path() + path, ref), 0);
+        EXPECT_EQ(FSRefMakePath(&ref, text, sizeof text), 0);
+        EXPECT_EQ(reinterpret_cast<char*>(text), folder / "folder/Name");
+    }
+}
+
+TEST(FSRef, SaysWhetherItIsAFolder) {
+    const Folder folder;
+    MakeFile(folder / "file");
+    FSRef ref;
+    Boolean is_folder = 2;
+    const auto ask = [&](const std::string& path) {
+        return FSPathMakeRef(reinterpret_cast<const UInt8*>(path.c_str()), &ref, &is_folder);
+    };
+    EXPECT_EQ(ask(folder.path()), 0);
+    EXPECT_TRUE(is_folder);
+    EXPECT_EQ(ask(folder / "file"), 0);
+    EXPECT_FALSE(is_folder);
+}
+
+TEST(FSRef, TellsWhyThereIsNone) {
+    const Folder folder;
+    MakeFile(folder / "file");
+    MakeLink("nowhere", folder / "dangling");
+    MakeLink("loop", folder / "loop");
+    const struct {
+        std::string path;
+        OSStatus status;
+    } cases[] = {{folder / "missing", -43},
+                 {folder / "dangling", -43},
+                 {folder / "missing/", -43},
+                 {folder / "missing/file", -120},
+                 {folder / "file/below", -120},
+                 {"", -37},
+                 {folder / std::string(300, 'x'), -37},
+                 {folder / "loop", -36}};
+    for (const auto& row : cases) {
+        FSRef ref;
+        EXPECT_EQ(MakeRef(row.path, ref), row.status) << row.path.substr(0, 80);
+    }
+}
+
+TEST(FSRef, NeedsRoomForTheTerminator) {
+    FSRef ref;
+    ASSERT_EQ(MakeRef("/tmp", ref), 0);
+    UInt8 text[5];
+    EXPECT_EQ(FSRefMakePath(&ref, text, 4), -2110);
+    EXPECT_EQ(FSRefMakePath(&ref, text, 5), 0);
+}
+
+TEST(FileSystemType, NamesTheSystem) {
+    std::string name = "unchanged";
+    EXPECT_EQ(platform::FileSystemType("/proc/self", name), 0);
+    EXPECT_EQ(name, "proc");
+    EXPECT_EQ(platform::FileSystemType("/nowhere", name), -1);
+    EXPECT_EQ(errno, ENOENT);
+    EXPECT_EQ(name, "proc");
+}
+
+TEST(BundleExecutable, IsReadFromTheInfoPlist) {
+    const auto plist = [](const QByteArray& dict) {
+        return platform::BundleExecutable("<?xml version=\"1.0\"?><plist version=\"1.0\">" + dict +
+                                          "</plist>");
+    };
+    EXPECT_EQ(plist("<dict><key>A</key><true/><key>CFBundleExecutable</key><string>ui &amp; "
+                    "\xC3\xA9</string></dict>"),
+              QString::fromUtf8("ui & \xC3\xA9"));
+    for (const char* const refused :
+         {"", "<dict/>", "<array><string>CFBundleExecutable</string></array>",
+          "<dict><key>CFBundleExecutable</key><string></string></dict>",
+          "<dict><key>CFBundleExecutable</key><string>../ui</string></dict>",
+          "<dict><key>CFBundleExecutable</key><string>..</string></dict>",
+          "<dict><key>CFBundleExecutable</key><true/></dict>",
+          "<dict><key>D</key><dict><key>CFBundleExecutable</key><string>ui</string></dict></dict>",
+          "<dict><key>CFBundleExecutable</key><string>ui</strin"}) {
+        EXPECT_EQ(plist(refused), QString()) << refused;
+    }
+    EXPECT_EQ(platform::BundleExecutable("bplist00"), QString());
+}
+
+class OpenBundleTest : public testing::Test {
+  protected:
+    OpenBundleTest() { setenv("HOME", folder_.path().c_str(), 1); }
+
+    bool open() const { return platform::OpenBundle(QString::fromStdString(folder_ / "My.app")); }
+    void makeProgram(const std::string& name, mode_t mode = 0755) const {
+        MakeFile(folder_ / "My.app/Contents/MacOS/" + name,
+                 "#!/bin/sh\necho \"$(pwd) $# $0\" >there && mv there started\n", mode);
+    }
+    std::string started() const {
+        const std::string mark = folder_ / "started";
+        WaitFor([&] { return Exists(mark); });
+        return ReadFile(mark);
+    }
+
+    Folder folder_;
+};
+
+TEST_F(OpenBundleTest, StartsWhatTheInfoPlistNames) {
+    MakeFile(folder_ / "My.app/Contents/Info.plist",
+             "<plist><dict><key>CFBundleExecutable</key><string>prog</string></dict></plist>");
+    makeProgram("prog");
+    EXPECT_TRUE(open());
+    EXPECT_EQ(started(), folder_.path() + " 0 " + folder_ / "My.app/Contents/MacOS/prog\n");
+}
+
+TEST_F(OpenBundleTest, StartsTheBundlesOwnNameOtherwise) {
+    makeProgram("My");
+    EXPECT_TRUE(open());
+    EXPECT_NE(started(), "");
+}
+
+TEST_F(OpenBundleTest, SaysWhenThereIsNothingToStart) {
+    EXPECT_FALSE(open());
+    MakeFolder(folder_ / "My.app/Contents/MacOS/My");
+    EXPECT_FALSE(open());
+    rmdir((folder_ / "My.app/Contents/MacOS/My").c_str());
+    makeProgram("My", 0644);
+    EXPECT_FALSE(open());
+}
+
+class InstanceLockTest : public testing::Test {
+  protected:
+    // What another process finds that tries while we do what we do.
+    bool heldForAnotherProcess() const {
+        const pid_t pid = fork();
+        if (pid == 0) {
+            _exit(platform::InstanceLock(path_).heldElsewhere());
+        }
+        int status = 0;
+        waitpid(pid, &status, 0);
+        return WEXITSTATUS(status) != 0;
+    }
+
+    Folder folder_;
+    const std::string path_ = folder_ / "lock";
+};
+
+TEST_F(InstanceLockTest, OneProcessHoldsIt) {
+    {
+        const platform::InstanceLock lock(path_);
+        EXPECT_FALSE(lock.heldElsewhere());
+        EXPECT_TRUE(heldForAnotherProcess());
+        EXPECT_TRUE(heldForAnotherProcess());
+    }
+    EXPECT_FALSE(Exists(path_));
+    EXPECT_FALSE(heldForAnotherProcess());
+}
+
+TEST_F(InstanceLockTest, OfManyAtOnceOneGetsIt) {
+    const int starts = 30;
+    int ready[2];
+    int go[2];
+    ASSERT_EQ(pipe(ready) + pipe(go), 0);
+    std::vector<pid_t> pids;
+    for (int i = 0; i < starts; ++i) {
+        pids.push_back(fork());
+        if (pids.back() == 0) {
+            close(go[1]);
+            char byte = 0;
+            write(ready[1], &byte, 1);
+            read(go[0], &byte, 1);  // returns for all of them when the pipe is closed
+            const platform::InstanceLock lock(path_);
+            write(ready[1], &byte, 1);
+            while (!lock.heldElsewhere() && !Exists(folder_ / "done")) {
+                usleep(1000);
+            }
+            _exit(lock.heldElsewhere());
+        }
+    }
+    const auto wait_for_all = [&] {
+        char byte = 0;
+        for (int i = 0; i < starts; ++i) {
+            ASSERT_EQ(read(ready[0], &byte, 1), 1);
+        }
+    };
+    wait_for_all();
+    close(go[1]);
+    wait_for_all();
+    MakeFile(folder_ / "done");
+    int refused = 0;
+    for (const pid_t pid : pids) {
+        int status = 0;
+        waitpid(pid, &status, 0);
+        refused += WEXITSTATUS(status);
+    }
+    EXPECT_EQ(refused, starts - 1);
+}
+
+TEST_F(InstanceLockTest, WhatAKilledProcessLeftBlocksNobody) {
+    MakeFile(path_, "", 0600);
+    const platform::InstanceLock lock(path_);
+    EXPECT_FALSE(lock.heldElsewhere());
+    EXPECT_TRUE(heldForAnotherProcess());
+}
+
+TEST_F(InstanceLockTest, ForeignObjectsNeitherBlockNorFool) {
+    MakeLink("/etc/passwd", path_);
+    EXPECT_FALSE(platform::InstanceLock(path_).heldElsewhere());
+    EXPECT_FALSE(Exists(path_));
+
+    ASSERT_EQ(mkfifo(path_.c_str(), 0666), 0);
+    {
+        const platform::InstanceLock lock(path_);
+        EXPECT_TRUE(heldForAnotherProcess());
+    }
+    MakeFolder(path_);
+    EXPECT_FALSE(platform::InstanceLock(path_).heldElsewhere());
+    EXPECT_TRUE(Exists(path_));
+    EXPECT_FALSE(platform::InstanceLock("/proc/lock").heldElsewhere());
+    EXPECT_FALSE(platform::InstanceLock(folder_ / "no folder/lock").heldElsewhere());
+}
+
+TEST_F(InstanceLockTest, AnotherUsersLockedFileDoesNotBlock) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make another user's file";
+    }
+    MakeFile(path_, "", 0666);
+    ASSERT_EQ(chown(path_.c_str(), 65534, 65534), 0);
+    const int fd = open(path_.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(fd, LOCK_EX | LOCK_NB), 0);
+    {
+        const platform::InstanceLock lock(path_);
+        EXPECT_FALSE(lock.heldElsewhere());
+        EXPECT_TRUE(heldForAnotherProcess());
+    }
+    close(fd);
+}
+
+}  // namespace

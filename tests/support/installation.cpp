@@ -1,0 +1,224 @@
+#include "tests/support/installation.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const uid_t kNobody = 65534;
+
+const char kInfoPlist[] =
+    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
+const char kClient[] = "#!/bin/sh\necho $$ >>\"$HOME/started\"\n";
+
+int WaitStatus(pid_t pid) {
+    int status = 0;
+    if (waitpid(pid, &status, 0) != pid) {
+        return -1;
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
+}
+
+void EndAfterTwoSeconds(int) {
+    sleep(2);
+    _exit(0);
+}
+
+std::vector<Entry> PackageEntries(const std::string& number) {
+    return {{"Contents/"},
+            {"Contents/Info.plist", kInfoPlist},
+            {"Contents/Resources/"},
+            {"Contents/Resources/INFO",
+             "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + number +
+                 "\nicon_overlay_version=7\n"},
+            {"Contents/Resources/data.bin", std::string(200000, 'x') + number},
+            {"Contents/Resources/\xC3\xA9t\xC3\xA9", "summer"},
+            {"Contents/Resources/latest", "", 0777, "data.bin"},
+            {"Contents/MacOS/"},
+            {"Contents/MacOS/tarnwell-ui", kClient, 0755}};
+}
+
+}  // namespace
+
+Client::Client(Behaviour behaviour) : pid_(fork()) {
+    if (pid_ == 0) {
+        signal(SIGTERM, behaviour == EndsAtOnce       ? SIG_DFL
+                        : behaviour == IgnoresSigterm ? SIG_IGN
+                                                      : EndAfterTwoSeconds);
+        for (;;) {
+            pause();
+        }
+    }
+    std::packaged_task<int()> task([pid = pid_] { return WaitStatus(pid); });
+    end_ = task.get_future().share();
+    std::thread(std::move(task)).detach();
+}
+
+Client::~Client() {
+    if (running()) {
+        kill(pid_, SIGKILL);
+        wait();
+    }
+}
+
+bool Client::running() const {
+    return end_.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
+int Client::wait() {
+    return end_.get();
+}
+
+Installation::Installation() : home_(folder_ / "home") {
+    MakeFolder(home_);
+    MakeFolder(bundle("Contents/MacOS"));
+    MakeFolder(bundle("Contents/Frameworks/plugins/platforms"));
+    fs::copy(BUNDLE "/Contents/MacOS/tarnwell-launcher", bundle("Contents/MacOS"));
+    fs::copy(BUNDLE "/Contents/Frameworks/plugins/platforms/libqoffscreen.so",
+             bundle("Contents/Frameworks/plugins/platforms"));
+    setEnvironment("PATH", "/usr/bin:/bin");
+    setEnvironment("HOME", home_);
+    setEnvironment("QT_QPA_PLATFORM", "offscreen");
+    for (const char* const options : {"ASAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS"}) {
+        if (const char* const value = getenv(options)) {
+            setEnvironment(options, value);
+        }
+    }
+    setBuild("100");
+}
+
+Installation::~Installation() = default;
+
+std::string Installation::user(const std::string& name) const {
+    return home_ + "/.Tarnwell" + (name.empty() ? "" : "/" + name);
+}
+
+std::string Installation::app(const std::string& name) const {
+    return user("Tarnwell.app") + (name.empty() ? "" : "/" + name);
+}
+
+std::string Installation::bundle(const std::string& name) const {
+    return bundle_ + "/" + name;
+}
+
+std::string Installation::package() const {
+    return bundle("Contents/Resources/package/tarnwell.opk");
+}
+
+void Installation::setBuild(const std::string& number, const std::string& format) {
+    MakeFile(bundle("Contents/Resources/INFO"),
+             "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + number +
+                 "\nicon_overlay_version=7\n");
+    MakeFolder(fs::path(package()).parent_path());
+    MakeArchive(package(), format, PackageEntries(number));
+}
+
+void Installation::install(const std::string& number) {
+    MakeFile(app("Contents/Resources/INFO"), "[Version]\nbuild_version=" + number + "\n");
+    MakeFile(app("Contents/MacOS/tarnwell-ui"), kClient, 0755);
+    MakeFile(app("Contents/Info.plist"), kInfoPlist);
+    MakeFile(app("old"), "of build " + number);
+}
+
+void Installation::setClientPid(const std::string& text) const {
+    MakeFile(user("ui.pid"), text);
+}
+
+void Installation::logEverything() const {
+    MakeFile(bundle("log/launcher.debug"),
+             "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n");
+}
+
+void Installation::setEnvironment(const std::string& name, const std::string& value) {
+    environment_[name] = value;
+}
+
+void Installation::runAsNobody() {
+    if (geteuid() != 0) {
+        return;
+    }
+    nobody_ = true;
+    for (const auto& entry : fs::recursive_directory_iterator(home_)) {
+        lchown(entry.path().c_str(), kNobody, kNobody);
+    }
+    chown(home_.c_str(), kNobody, kNobody);
+}
+
+void Installation::moveBundle(const std::string& folder) {
+    const std::string target = folder_ / folder;
+    MakeFolder(target);
+    fs::rename(bundle_, target + "/Tarnwell.app");
+    bundle_ = target + "/Tarnwell.app";
+}
+
+void Installation::startAs(const std::string& name) {
+    started_as_ = name;
+}
+
+pid_t Installation::start() {
+    const std::string program = bundle("Contents/MacOS/tarnwell-launcher");
+    const std::string out = folder_ / "out";
+    const std::string err = folder_ / "err";
+    std::vector<std::string> variables;
+    std::vector<char*> environment;
+    for (const auto& [name, value] : environment_) {
+        variables.push_back(name + "=" + value);
+    }
+    for (std::string& variable : variables) {
+        environment.push_back(variable.data());
+    }
+    environment.push_back(nullptr);
+    const pid_t pid = fork();
+    if (pid == 0) {
+        dup2(open(out.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDOUT_FILENO);
+        dup2(open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDERR_FILENO);
+        if (nobody_ && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
+            _exit(126);
+        }
+        const std::string& name = started_as_.empty() ? program : started_as_;
+        char* const arguments[] = {const_cast<char*>(name.c_str()), nullptr};
+        execve(program.c_str(), arguments, environment.data());
+        _exit(127);
+    }
+    return pid;
+}
+
+int Installation::wait(pid_t pid) {
+    return WaitStatus(pid);
+}
+
+Installation::Result Installation::run() {
+    const std::size_t logged = ReadFile(user("log/launcher.log")).size();
+    Result result;
+    result.exit_code = wait(start());
+    result.log = ReadFile(user("log/launcher.log"));
+    result.log.erase(0, logged);
+    result.out = ReadFile(folder_ / "out");
+    result.err = ReadFile(folder_ / "err");
+    EXPECT_EQ(result.exit_code, 0) << result.err;
+    return result;
+}
+
+bool Installation::clientStarted() {
+    const std::string mark = home_ + "/started";
+    return WaitFor([&] { return Exists(mark); }) && fs::remove(mark);
+}
+
+FileTree Installation::expectedApp(const std::string& number) const {
+    FileTree tree;
+    for (const Entry& entry : PackageEntries(number)) {
+        const std::string name = entry.name.substr(0, entry.name.find_last_not_of('/') + 1);
+        tree[name] = name != entry.name       ? "folder"
+                     : !entry.symlink.empty() ? "link: " + entry.symlink
+                                              : DescribeFile(entry.mode, entry.content);
+    }
+    return tree;
+}

@@ -1,0 +1,80 @@
+#ifndef TESTS_SUPPORT_INSTALLATION_H
+#define TESTS_SUPPORT_INSTALLATION_H
+
+#include <future>
+#include <map>
+#include <string>
+
+#include "tests/support/scenario.h"
+
+// A process that stands for a running client. It is waited for in the background, so that it
+// vanishes when it ends, as it would on a user's machine.
+class Client {
+  public:
+    enum Behaviour { EndsAtOnce, EndsAfterTwoSeconds, IgnoresSigterm };
+
+    explicit Client(Behaviour behaviour);
+    ~Client();
+
+    pid_t pid() const { return pid_; }
+    bool running() const;
+    int wait();  // how it ended: its exit code, or 1000 plus the signal
+
+  private:
+    pid_t pid_;
+    std::shared_future<int> end_;
+};
+
+// A launcher's bundle and a home folder, both on a disk of their own, and what a test does with
+// them through the real executable.
+class Installation {
+  public:
+    Installation();
+    ~Installation();
+
+    const std::string& home() const { return home_; }
+    std::string user(const std::string& name = "") const;  // below ~/.Tarnwell
+    std::string app(const std::string& name = "") const;   // below the per-user application
+    std::string bundle(const std::string& name) const;     // below the launcher's bundle
+    std::string package() const;
+
+    // Gives the bundle this build number and a package of a client with it.
+    void setBuild(const std::string& number, const std::string& format = "zip");
+    // Puts an application of this build in place, as an earlier run would have.
+    void install(const std::string& number);
+    void setClientPid(const std::string& text) const;
+    void logEverything() const;  // otherwise errors and warnings only
+
+    // Started with the environment of a user who has set nothing but what is given.
+    void setEnvironment(const std::string& name, const std::string& value);
+    void runAsNobody();  // from now on, when we are root
+    // Moves the bundle to a folder of this name beside the home folder, and starts it by this name
+    // of its executable instead of its path.
+    void moveBundle(const std::string& folder);
+    void startAs(const std::string& name);
+
+    struct Result {
+        int exit_code;    // or 1000 plus the signal
+        std::string log;  // what this run added to the log file
+        std::string out;
+        std::string err;
+    };
+    // Runs the launcher to its end and checks what holds for every run: the exit code is 0.
+    Result run();
+    // Starts it and returns at once.
+    pid_t start();
+    static int wait(pid_t pid);
+
+    bool clientStarted();  // since the last call; waits for it
+    FileTree expectedApp(const std::string& number) const;
+
+  private:
+    Folder folder_;
+    std::string home_;
+    std::string bundle_ = folder_ / "Tarnwell.app";
+    std::string started_as_;
+    std::map<std::string, std::string> environment_;
+    bool nobody_ = false;
+};
+
+#endif

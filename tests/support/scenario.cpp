@@ -1,0 +1,157 @@
+#include "tests/support/scenario.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <clocale>
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <sstream>
+#include <stdexcept>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void Check(bool ok, const std::string& what) {
+    if (!ok) {
+        throw std::runtime_error(what);
+    }
+}
+
+}  // namespace
+
+Folder::Folder(const std::string& parent) : path_(parent + "/tarnwell-test-XXXXXX") {
+    Check(mkdtemp(path_.data()) != nullptr, "can't make a folder in " + parent);
+    Check(chmod(path_.c_str(), 0755) == 0, "can't open " + path_);
+}
+
+Folder::~Folder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+void MakeFolder(const std::string& path) {
+    fs::create_directories(path);
+}
+
+void MakeFile(const std::string& path, const std::string& content, mode_t mode) {
+    fs::create_directories(fs::path(path).parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file << content;
+    file.close();
+    Check(file.good() && chmod(path.c_str(), mode) == 0, "can't write " + path);
+}
+
+void MakeLink(const std::string& target, const std::string& path) {
+    fs::create_directories(fs::path(path).parent_path());
+    fs::create_symlink(target, path);
+}
+
+std::string ReadFile(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+bool Exists(const std::string& path) {
+    return fs::exists(fs::symlink_status(path));
+}
+
+std::string DescribeFile(mode_t mode, const std::string& content) {
+    std::ostringstream text;
+    text << "file " << std::oct << std::setfill('0') << std::setw(4) << mode << ": " << std::dec;
+    if (content.size() <= 60) {
+        text << content;
+    } else {
+        text << content.size() << " bytes, hash " << std::hash<std::string>()(content);
+    }
+    return text.str();
+}
+
+FileTree Tree(const std::string& path) {
+    FileTree tree;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(path)) {
+        std::string& description = tree[entry.path().lexically_relative(path).string()];
+        if (entry.is_symlink()) {
+            description = "link: " + fs::read_symlink(entry.path()).string();
+        } else if (entry.is_directory()) {
+            description = "folder";
+        } else {
+            description = DescribeFile(static_cast<mode_t>(entry.status().permissions()),
+                                       ReadFile(entry.path()));
+        }
+    }
+    return tree;
+}
+
+bool WaitFor(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return true;
+}
+
+std::vector<std::string> LinesWith(const std::string& text, const std::string& fragment) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        if (line.find(fragment) != std::string::npos) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+std::string CaptureStderr(const std::function<void()>& code) {
+    testing::internal::CaptureStderr();
+    code();
+    return testing::internal::GetCapturedStderr();
+}
+
+void MakeArchive(const std::string& path, const std::string& format,
+                 const std::vector<Entry>& entries) {
+    setlocale(LC_CTYPE, "C.UTF-8");  // names are UTF-8
+    archive* const out = archive_write_new();
+    const std::map<std::string, std::pair<const char*, const char*>> formats = {
+        {"zip", {"zip", nullptr}},      {"7z", {"7zip", nullptr}},
+        {"cpio", {"newc", nullptr}},    {"tar", {"gnutar", nullptr}},
+        {"tar.gz", {"gnutar", "gzip"}}, {"tar.xz", {"gnutar", "xz"}},
+        {"tar.zst", {"gnutar", "zstd"}}};
+    const auto& [container, filter] = formats.at(format);
+    Check(archive_write_set_format_by_name(out, container) == ARCHIVE_OK &&
+              (!filter || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&
+              archive_write_open_filename(out, path.c_str()) == ARCHIVE_OK,
+          "can't write " + path);
+    for (const Entry& from : entries) {
+        archive_entry* const entry = archive_entry_new();
+        const bool folder = from.name.back() == '/';
+        archive_entry_set_pathname(entry, from.name.c_str());
+        archive_entry_set_filetype(entry, folder ? AE_IFDIR : AE_IFREG);
+        archive_entry_set_perm(entry, folder ? from.mode | 0111 : from.mode);
+        archive_entry_set_size(entry, static_cast<la_int64_t>(from.content.size()));
+        if (!from.symlink.empty()) {
+            archive_entry_set_filetype(entry, AE_IFLNK);
+            archive_entry_set_symlink(entry, from.symlink.c_str());
+        }
+        if (!from.hardlink.empty()) {
+            archive_entry_set_hardlink(entry, from.hardlink.c_str());
+        }
+        const bool written = archive_write_header(out, entry) == ARCHIVE_OK &&
+                             archive_write_data(out, from.content.data(), from.content.size()) ==
+                                 static_cast<la_ssize_t>(from.content.size());
+        archive_entry_free(entry);
+        Check(written, "can't add " + from.name);
+    }
+    Check(archive_write_close(out) == ARCHIVE_OK, "can't finish " + path);
+    archive_write_free(out);
+}

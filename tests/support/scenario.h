@@ -1,0 +1,66 @@
+#ifndef TESTS_SUPPORT_SCENARIO_H
+#define TESTS_SUPPORT_SCENARIO_H
+
+#include <gtest/gtest.h>
+#include <sys/types.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+// A small vocabulary for tests on real files. Whatever can't be arranged throws, which fails the
+// test with the reason.
+
+// A folder of one's own, removed with all it holds at the end. It can be entered by every user.
+class Folder {
+  public:
+    explicit Folder(const std::string& parent = "/tmp");
+    ~Folder();
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    const std::string& path() const { return path_; }
+    std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+  private:
+    std::string path_;
+};
+
+// These make the folders above as well.
+void MakeFolder(const std::string& path);
+void MakeFile(const std::string& path, const std::string& content = "", mode_t mode = 0644);
+void MakeLink(const std::string& target, const std::string& path);
+
+std::string ReadFile(const std::string& path);  // empty when there is none
+bool Exists(const std::string& path);           // a dangling link does
+
+// A folder's content by relative path: "folder", "file 0644: content" or "link: target". Content
+// that is too long to be read is told by its size and hash.
+typedef std::map<std::string, std::string> FileTree;
+FileTree Tree(const std::string& path);
+std::string DescribeFile(mode_t mode, const std::string& content);
+
+// Waits until the condition holds; false after ten seconds.
+bool WaitFor(const std::function<bool()>& condition);
+
+// The lines of a text that hold a fragment.
+std::vector<std::string> LinesWith(const std::string& text, const std::string& fragment);
+
+// What the code under test writes to standard error.
+std::string CaptureStderr(const std::function<void()>& code);
+
+// An entry of an archive: a folder when the name ends in "/", a link when there is a target.
+struct Entry {
+    std::string name;
+    std::string content = {};
+    mode_t mode = 0644;
+    std::string symlink = {};
+    std::string hardlink = {};
+};
+
+// Writes an archive: zip, 7z, cpio, tar, tar.gz, tar.xz or tar.zst.
+void MakeArchive(const std::string& path, const std::string& format,
+                 const std::vector<Entry>& entries);
+
+#endif
