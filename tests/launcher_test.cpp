@@ -144,6 +144,7 @@ TEST_F(LauncherTest, ClosingTheWindowStopsNothing) {
     });
     const Watched watched = RunAndWatch(launcher, dialog());
     EXPECT_EQ(watched.result, 0);
+    EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is ready."));
     EXPECT_TRUE(installed());
 }
 

@@ -35,7 +35,8 @@ class LocaleTest : public testing::Test {
         }
         int status = 0;
         waitpid(pid, &status, 0);
-        return OrvLocale::getLanguageAbbrByID(WEXITSTATUS(status));
+        return WIFEXITED(status) ? OrvLocale::getLanguageAbbrByID(WEXITSTATUS(status))
+                                 : QStringLiteral("crashed");
     }
 };
 

@@ -156,7 +156,6 @@ TEST_F(RunTest, StopsARunningClient) {
             std::chrono::steady_clock::now() - begin);
         EXPECT_EQ(client.wait(), row.end);
         EXPECT_GE(seconds.count(), row.least_seconds);
-        EXPECT_LE(seconds.count(), row.least_seconds + 2);
         expectBuild("100");
         EXPECT_TRUE(Exists(installation_.user("ui.pid"))) << "the pid file is the client's";
     }
@@ -195,7 +194,9 @@ TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
         installation_.install("99");
         installation_.setClientPid(row.pid_file);
         const Installation::Result result = installation_.run();
-        EXPECT_TRUE(Logged(result, row.message)) << result.log;
+        const bool silent = *row.message == 0;
+        EXPECT_EQ(Logged(result, silent ? "pid" : row.message), !silent) << result.log;
+        EXPECT_FALSE(Logged(result, "kill:")) << result.log;
         EXPECT_TRUE(Logged(result, "mac/mac-service(154): local appdata exist"));
         expectBuild("100");
     }
@@ -240,6 +241,12 @@ TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
     } cases[] = {
         {"cut off", [this] { damagePackage(); }, "rollback to old installation"},
         {"empty", [this] { MakeFile(installation_.package()); }, "total file numbers, ret: 0"},
+        {"short zip",
+         [this] {
+             installation_.setBuild("100");
+             damagePackage();
+         },
+         "archive_read_next_header failed: 'Truncated ZIP"},
         {"garbage", [this] { MakeFile(installation_.package(), std::string(5000, 'g')); },
          "archive_read_open_filename failed: 'Unrecognized archive format'"},
         {"missing", [this] { fs::remove(installation_.package()); }, "total file numbers, ret: -1"},
@@ -321,34 +328,46 @@ TEST_F(RunTest, AReadOnlyHomeStillStartsTheClient) {
 // A package that is a pipe holds the launcher in the middle of an upgrade for as long as we like.
 class HeldRunTest : public RunTest {
   protected:
+    ~HeldRunTest() override {
+        if (held_ > 0) {
+            kill(held_, SIGKILL);
+            Installation::wait(held_);
+        }
+    }
     HeldRunTest() {
         installation_.logEverything();
         fs::remove(installation_.package());
         EXPECT_EQ(mkfifo(installation_.package().c_str(), 0644), 0);
     }
-    pid_t startAndHold() {
-        const pid_t pid = installation_.start();
+    void startAndHold() {
+        held_ = installation_.start();
         EXPECT_TRUE(WaitFor([this] {
             return !LinesWith(ReadFile(installation_.user("log/launcher.log")), "decompress from")
                         .empty();
         }));
-        return pid;
     }
+    int endOfHeld() {
+        const int end = Installation::wait(held_);
+        held_ = 0;
+        return end;
+    }
+
+    pid_t held_ = 0;
 };
 
 TEST_F(HeldRunTest, ASecondStartEndsAtOnce) {
-    const pid_t first = startAndHold();
+    startAndHold();
     const Installation::Result second = installation_.run();
     ASSERT_EQ(Messages(second.log).size(), 1u);
     EXPECT_EQ(Messages(second.log)[0], "[DEBUG] main(80): app has already launched, return");
     MakeFile(installation_.package(), "no archive");  // lets the first one go on
-    EXPECT_EQ(Installation::wait(first), 0);
+    EXPECT_EQ(endOfHeld(), 0);
 }
 
 TEST_F(HeldRunTest, AKilledRunBlocksNobody) {
-    const pid_t first = startAndHold();
-    kill(first, SIGKILL);
-    EXPECT_EQ(Installation::wait(first), 1000 + SIGKILL);
+    startAndHold();
+    kill(held_, SIGKILL);
+    EXPECT_EQ(endOfHeld(), 1000 + SIGKILL);
     fs::remove(installation_.package());
     installation_.setBuild("100");
     installation_.run();
@@ -356,22 +375,32 @@ TEST_F(HeldRunTest, AKilledRunBlocksNobody) {
     EXPECT_EQ(UserFolder(installation_), kCleanFolder);
 }
 
-TEST_F(RunTest, OfManyStartsAtOnceOneWorks) {
-    installation_.logEverything();
+TEST_F(HeldRunTest, OfManyStartsAtOnceOneWorks) {
     std::vector<pid_t> starts;
-    Client client(Client::EndsAfterTwoSeconds);
-    installation_.install("99");
-    installation_.setClientPid(PidFile(client.pid()));
     for (int i = 0; i < 10; ++i) {
         starts.push_back(installation_.start());
     }
+    const auto logged = [this](const char* fragment) {
+        return LinesWith(ReadFile(installation_.user("log/launcher.log")), fragment).size();
+    };
+    EXPECT_TRUE(WaitFor([&] {
+        return logged("app has already launched") == 9u && logged("decompress from") == 1u;
+    }));
+    MakeFile(installation_.package(), "no archive");
     for (const pid_t pid : starts) {
         EXPECT_EQ(Installation::wait(pid), 0);
     }
-    const std::string log = ReadFile(installation_.user("log/launcher.log"));
-    EXPECT_EQ(LinesWith(log, "app has already launched").size(), 9u);
-    EXPECT_EQ(LinesWith(log, "extract package").size(), 1u);
-    expectBuild("100");
+    EXPECT_EQ(logged("): extract package"), 1u);
+}
+
+TEST_F(RunTest, TheClientGetsTheUsersEnvironment) {
+    installation_.setEnvironment("QT_QPA_PLATFORM_PLUGIN_PATH", "/somewhere");
+    installation_.install("100");
+    MakeFile(installation_.app("Contents/MacOS/tarnwell-ui"),
+             "#!/bin/sh\necho \"$QT_QPA_PLATFORM_PLUGIN_PATH\" >\"$HOME/seen\"\n", 0755);
+    installation_.run();
+    EXPECT_TRUE(
+        WaitFor([this] { return ReadFile(installation_.home() + "/seen") == "/somewhere\n"; }));
 }
 
 TEST_F(RunTest, WorksWhateverItsExecutableIsCalled) {

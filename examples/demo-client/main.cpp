@@ -5,6 +5,7 @@
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QApplication>
@@ -23,8 +24,10 @@ namespace {
 int g_signal_pipe[2];
 
 void OnSignal(int) {
+    const int saved_errno = errno;
     const char byte = 0;
-    static_cast<void>(write(g_signal_pipe[1], &byte, 1) == 1);  // a full pipe wakes us as well
+    static_cast<void>(write(g_signal_pipe[1], &byte, 1) == 1);  // a full one wakes us as well
+    errno = saved_errno;
 }
 
 // Turns SIGTERM and SIGINT into a regular end of the event loop.
@@ -42,7 +45,8 @@ class QuitOnSignal {
 
   private:
     static int openPipe() {
-        if (socketpair(AF_UNIX, SOCK_STREAM, 0, g_signal_pipe) != 0) {
+        if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0, g_signal_pipe) !=
+            0) {
             qFatal("socketpair failed");
         }
         return g_signal_pipe[0];
@@ -56,12 +60,17 @@ class QuitOnSignal {
 class PidFile {
   public:
     PidFile() : path_(QFile::encodeName(QDir::homePath() + QStringLiteral("/.Tarnwell/ui.pid"))) {
-        fd_ = open(path_.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-        if (fd_ < 0) {
-            qWarning("can't open %s: %s", path_.constData(), strerror(errno));
-            return;
-        }
-        running_elsewhere_ = flock(fd_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        do {
+            if (fd_ >= 0) {
+                close(fd_);
+            }
+            fd_ = open(path_.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+            if (fd_ < 0) {
+                qWarning("can't open %s: %s", path_.constData(), strerror(errno));
+                return;
+            }
+            running_elsewhere_ = flock(fd_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        } while (!running_elsewhere_ && wasRemoved());
         if (!running_elsewhere_) {
             writePid();
         }
@@ -79,6 +88,15 @@ class PidFile {
     bool runningElsewhere() const { return running_elsewhere_; }
 
   private:
+    // Whether an earlier client has removed the file between our opening and our locking it.
+    bool wasRemoved() const {
+        struct stat ours;
+        struct stat there;
+        return fstat(fd_, &ours) == 0 &&
+               (stat(path_.constData(), &there) != 0 || ours.st_dev != there.st_dev ||
+                ours.st_ino != there.st_ino);
+    }
+
     void writePid() const {
         const QByteArray text = "pid=" + QByteArray::number(getpid()) + '\n';
         if (ftruncate(fd_, 0) != 0 || write(fd_, text.constData(), size_t(text.size())) < 0) {

@@ -87,8 +87,8 @@ int FSChown(const ustring& path);
 // volume that ignores letter case this refuses other spellings, everywhere it refuses links.
 bool IsFileExist(const ustring& path, bool exact);
 
-// Describes the object at path, a link itself and not its target. Nothing there is a success: then
-// exists is false, the type regular, the time now, and the numbers are 0.
+// Describes the object at path, a link itself and not its target. Nothing there, an empty path
+// too, is a success: then exists is false, the type regular, the time now, and the numbers are 0.
 // Returns -1 when the system doesn't say, with info unchanged, or when the type is none of ours.
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info);
 
@@ -109,12 +109,11 @@ int FSCopy(const ustring& src, const ustring& dst, bool remove_src);
 
 // Moves src to dst. On one volume this is atomic and replaces an existing file or empty folder.
 // Across volumes it copies and deletes, entry by entry: a file replaces a file, a folder is merged
-// into an existing one. There, links, pipes, sockets and devices stay where they are, which is a
-// success for such an object alone and a failure for the folder that holds it. Not atomic there:
-// what was moved before a failure is at dst, the rest at src. Depth and size of a tree are not
-// limited.
-// Returns -1 for an empty path, -2 when src is missing (see IsFileExist for exact) or can't be
-// examined, -100 for a name that is too long, -3 for any other failure.
+// into an existing one, which must be readable. There, links, pipes, sockets and devices stay where
+// they are, which is a success for such an object alone and a failure for the folder that holds it.
+// Not atomic there: what was moved before a failure is at dst, the rest at src. Depth and size of a
+// tree are not limited. Returns -1 for an empty path, -2 when src is missing (see IsFileExist for
+// exact) or can't be examined, -100 for a name that is too long, -3 for any other failure.
 int FSRename(const ustring& src, const ustring& dst, bool exact);
 
 // Creates a folder with the mode 0777 under the umask, with parents the missing ones above it too.
@@ -138,11 +137,12 @@ int FSMKDirP(const ustring& path, char** end_out, bool force, std::uint16_t mode
 // Returns -1 for an empty path and for one that can't be examined, -3 for any other failure.
 int FSRemove(const ustring& path, bool flag);
 
-// Creates an empty file with a fresh name and the mode 0644 in the folder dir, on the disk when
-// the call returns; out is its path. Returns -1, with out unchanged, on failure.
+// Creates an empty file with a fresh name and the mode 0644 in the folder dir (empty: the root), on
+// the disk when the call returns; out is its path. Returns -1, with out unchanged, on failure.
 int FSMktemp(const ustring& dir, ustring& out);
 
-// Makes up a fresh path in dir; nothing is created. Returns -1 when none was produced.
+// Makes up a fresh path in dir (empty: the root); nothing is created. Returns -1 when none was
+// produced.
 int FSCreateTempPath(const ustring& dir, ustring& out);
 
 // Sets the times of the object at path, in seconds since the epoch. Returns -1 on failure.

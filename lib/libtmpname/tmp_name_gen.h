@@ -35,11 +35,12 @@ class TmpNameGen {
     // goes on. Nothing is written for an n of 0 or less.
     static void rc4_randomize(unsigned char* state, unsigned char* out, int n);
 
-  private:
+  protected:
     unsigned char state[256];
     unsigned char key[256];  // the key text, then zero bytes
     unsigned char rand_buf[6];
 
+  private:
     static pthread_mutex_t m_lock;
 };
 

@@ -10,8 +10,8 @@
 #include "lib/platform/instance-lock.h"
 
 // The application object of a program that runs once per user and per installed copy. The guard is
-// a lock in ~/.Tarnwell, so it covers every start that would work on that folder, whatever the
-// session or the temporary folder.
+// a lock in ~/.Tarnwell, the folder that the program works on, so neither the session nor the
+// temporary folder matters.
 //
 // Defined in the header: only the program that uses it knows Qt Widgets.
 class QtSingleApplication : public QApplication {

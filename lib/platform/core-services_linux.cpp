@@ -1,4 +1,8 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <strings.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -39,6 +43,65 @@ OSStatus StatusOf(int error, const char* path) {
     }
 }
 
+bool IsSameObject(const struct stat& a, const struct stat& b) {
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+// Whether the folder takes a name in other letter cases for the same object. Most names answer with
+// one call: spelled the other way they lead nowhere.
+bool IgnoresCase(int folder, const std::string& name) {
+    std::string swapped = name;
+    for (char& byte : swapped) {
+        const bool is_letter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+        byte = static_cast<char>(is_letter ? byte ^ 0x20 : byte);
+    }
+    struct stat object;
+    struct stat other;
+    return swapped != name && fstatat(folder, swapped.c_str(), &other, AT_SYMLINK_NOFOLLOW) == 0 &&
+           fstatat(folder, name.c_str(), &object, AT_SYMLINK_NOFOLLOW) == 0 &&
+           IsSameObject(object, other);
+}
+
+// The name under which a folder that ignores letter case holds an object.
+std::string StoredName(int folder, const std::string& name) {
+    std::string stored = name;
+    const int fd = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* const stream = fd >= 0 ? fdopendir(fd) : nullptr;
+    while (const dirent* const entry = stream != nullptr ? readdir(stream) : nullptr) {
+        if (name == entry->d_name) {
+            stored = name;  // one of two links that differ in their letter case
+            break;
+        }
+        if (strcasecmp(name.c_str(), entry->d_name) == 0) {
+            stored = entry->d_name;
+        }
+    }
+    if (stream != nullptr) {
+        closedir(stream);
+    }
+    return stored;
+}
+
+// realpath() spells a path as it was asked for. That is as it is stored, except in folders that
+// ignore letter case. Goes down from folder to folder, so that each step costs the same.
+void SpellAsStored(char* path) {
+    int folder = open("/", O_PATH | O_DIRECTORY | O_CLOEXEC);
+    for (char* begin = path + 1; folder >= 0 && *begin != 0;) {
+        char* const end = begin + std::strcspn(begin, "/");
+        const std::string name(begin, end);
+        if (IgnoresCase(folder, name)) {
+            std::memcpy(begin, StoredName(folder, name).c_str(), name.size());
+        }
+        const int next = *end != 0 ? openat(folder, name.c_str(), O_PATH | O_CLOEXEC) : -1;
+        close(folder);
+        folder = next;
+        begin = *end != 0 ? end + 1 : end;
+    }
+    if (folder >= 0) {
+        close(folder);
+    }
+}
+
 }  // namespace
 
 OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
@@ -49,6 +112,7 @@ OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
     if (realpath(text, ref->path) == nullptr) {
         return StatusOf(errno, text);
     }
+    SpellAsStored(ref->path);
     if (isDirectory != nullptr) {
         struct stat status;
         if (stat(ref->path, &status) != 0) {

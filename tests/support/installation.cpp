@@ -87,7 +87,7 @@ Installation::Installation() : home_(folder_ / "home") {
     setEnvironment("PATH", "/usr/bin:/bin");
     setEnvironment("HOME", home_);
     setEnvironment("QT_QPA_PLATFORM", "offscreen");
-    for (const char* const options : {"ASAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS"}) {
+    for (const char* const options : {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS"}) {
         if (const char* const value = getenv(options)) {
             setEnvironment(options, value);
         }
@@ -178,6 +178,7 @@ pid_t Installation::start() {
     environment.push_back(nullptr);
     const pid_t pid = fork();
     if (pid == 0) {
+        umask(022);
         dup2(open(out.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDOUT_FILENO);
         dup2(open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDERR_FILENO);
         if (nobody_ && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) {

@@ -36,6 +36,15 @@ int Open(archive* reader, const ustring& path) {
     return archive_read_open_filename(reader, path.c_str_utf8(), kBlockSize);
 }
 
+// The message of the object that failed; for a failed extraction it can be either's.
+const char* ErrorText(archive* failed, archive* other = nullptr) {
+    const char* text = archive_error_string(failed);
+    if (text == nullptr && other != nullptr) {
+        text = archive_error_string(other);
+    }
+    return text != nullptr ? text : "";
+}
+
 // Opens the archive for reading its entries' headers; null after a failure, which is logged.
 Reader OpenForListing(const Extractor& extractor) {
     if (extractor.dest_dir.empty() || extractor.archive_path.empty()) {
@@ -48,8 +57,7 @@ Reader OpenForListing(const Extractor& extractor) {
         return nullptr;
     }
     if (Open(reader.get(), extractor.archive_path) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n",
-                archive_error_string(reader.get()));
+        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
         return nullptr;
     }
     return reader;
@@ -95,12 +103,12 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Rewrite
         return -1;
     }
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", archive_error_string(writer));
+        LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader));
         return -1;
     }
     Notify_Adapter::GetInstance()->UpdateProgress(total, number);
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", archive_error_string(writer));
+        LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
         return -1;
     }
     return 0;
@@ -115,7 +123,7 @@ int ExtractEntries(archive* reader, archive* writer, const ustring& dest_dir, in
             return 0;
         }
         if (result != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", archive_error_string(reader));
+            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
             return -1;
         }
         if (ExtractEntry(reader, entry, writer, rewriter, total, number) != 0) {
@@ -148,7 +156,7 @@ int Extractor::Extract() {
     archive_write_disk_set_options(writer.get(), kWriteOptions);
     if (Open(reader.get(), archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "Failed to read file '%s' ('%s')\n", archive_path.c_str(),
-                archive_error_string(reader.get()));
+                ErrorText(reader.get()));
         return -1;
     }
     if (ExtractEntries(reader.get(), writer.get(), dest_dir, total) != 0) {
@@ -156,7 +164,7 @@ int Extractor::Extract() {
     }
     // Closing applies what was put off until now: the permissions of folders.
     if (archive_write_close(writer.get()) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_write_close failed: '%s'\n", archive_error_string(writer.get()));
+        LOG_MSG(ERROR, "archive_write_close failed: '%s'\n", ErrorText(writer.get()));
         return -1;
     }
     return 0;
@@ -205,11 +213,11 @@ int Extractor::copy_data(archive* in, archive* out) {
             return 0;
         }
         if (read != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_read_data_block failed: '%s'\n", archive_error_string(in));
+            LOG_MSG(ERROR, "archive_read_data_block failed: '%s'\n", ErrorText(in));
             return -1;
         }
         if (archive_write_data_block(out, buffer, size, offset) != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_write_data_block failed: '%s'\n", archive_error_string(out));
+            LOG_MSG(ERROR, "archive_write_data_block failed: '%s'\n", ErrorText(out));
             return -1;
         }
     }

@@ -54,7 +54,9 @@ void HandlerThread::run() {
     exec();
 }
 
-Worker::Worker() : thread(new HandlerThread), service(new MacService) {
+Worker::Worker() {
+    service.reset(new MacService);
+    thread.reset(new HandlerThread);
     moveToThread(thread.get());
 }
 

@@ -1,10 +1,12 @@
+#include <langinfo.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QTextCodec>
 #include <QTranslator>
 #include <clocale>
 #include <cstdio>
-#include <cstdlib>
+#include <cstring>
 
 #include "lib/liblogger/log.h"
 #include "lib/platform/QtSingleApplication.h"
@@ -23,7 +25,6 @@ namespace {
 const ustring log_component("launcher_debug");
 
 const int kRotateCount = 50;
-const char kPlatformPluginPath[] = "QT_QPA_PLATFORM_PLUGIN_PATH";
 
 // File names are UTF-8, whatever character set the environment names: a package unpacks the same
 // for every user. Qt reads the environment again while the application object is made, so the C
@@ -33,27 +34,47 @@ void UseUtf8InQt() {
 }
 
 void UseUtf8InLibC() {
-    if (MB_CUR_MAX == 1 && setlocale(LC_CTYPE, "C.UTF-8") == nullptr) {
+    const bool is_utf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+    if (!is_utf8 && setlocale(LC_CTYPE, "C.UTF-8") == nullptr) {
         setlocale(LC_CTYPE, "UTF-8");  // its name on macOS
     }
 }
 
 // Makes the bundle's plug-in folder the only place where Qt looks for plug-ins.
-void SetLibraryPath(const char* program_path) {
+QString SetLibraryPath(const char* program_path) {
     const QString plugins = QDir::cleanPath(QString::fromLatin1(program_path) +
                                             QStringLiteral("/../../Frameworks/plugins"));
     QCoreApplication::setLibraryPaths(QStringList(plugins));
-    // A name found in PATH, or one that isn't ASCII, doesn't lead there; without its platform
-    // plug-in Qt would end the process.
-    if (!QFileInfo(plugins).isDir() && !qEnvironmentVariableIsSet(kPlatformPluginPath)) {
-        const QFileInfo executable(platform::ExecutablePath());
-        qputenv(kPlatformPluginPath,
-                QFile::encodeName(executable.path() +
-                                  QStringLiteral("/../Frameworks/plugins/platforms")));
-    }
     std::printf("lib path = '%s'\n", plugins.toUtf8().constData());
     std::fflush(stdout);  // to be seen also when Qt finds no plug-in there and gives up
+    return plugins;
 }
+
+// Names the platform plug-in's folder to Qt while the application object is made, where the library
+// path doesn't lead there: for a program name that was found in PATH, or that isn't ASCII. Without
+// that plug-in Qt would end the process.
+class PlatformPluginPath {
+  public:
+    explicit PlatformPluginPath(const QString& library_path)
+        : needed_(!QFileInfo(library_path).isDir() && !qEnvironmentVariableIsSet(kVariable)) {
+        if (needed_) {
+            const QFileInfo executable(platform::ExecutablePath());
+            qputenv(kVariable,
+                    QFile::encodeName(executable.path() +
+                                      QStringLiteral("/../Frameworks/plugins/platforms")));
+        }
+    }
+    // It is for us, not for the client that we start.
+    void release() const {
+        if (needed_) {
+            qunsetenv(kVariable);
+        }
+    }
+
+  private:
+    static constexpr char kVariable[] = "QT_QPA_PLATFORM_PLUGIN_PATH";
+    const bool needed_;
+};
 
 void InitializeLog() {
     const ustring level_file = Service::GetRootTarnwellInstallPath() + "/log/launcher.debug";
@@ -70,9 +91,9 @@ int main(int argc, char** argv) {
     setlocale(LC_ALL, "");
     qInitResources_texts();
     UseUtf8InQt();
-    SetLibraryPath(argc > 0 ? argv[0] : "");
+    const PlatformPluginPath plugin_path(SetLibraryPath(argc > 0 ? argv[0] : ""));
     QtSingleApplication app(argc, argv, true);
-    qunsetenv(kPlatformPluginPath);  // for us, not for the client that we start
+    plugin_path.release();
     UseUtf8InLibC();
     InitializeLog();
     if (app.isRunning()) {

@@ -77,28 +77,22 @@ void RollBack(ustring const& app, ustring const& backup) {
     FSRename(backup, app, false);  // there is nothing left to try when it fails
 }
 
-// The canonical form of a path that need not exist: that of the deepest folder that does, followed
-// by the rest as it was given.
-ustring CanonicalForm(ustring const& path) {
-    ustring existing = path;
-    ustring rest;
-    while (FSGetRealPath(existing) != 0) {
-        existing.rtrim("/");
-        const ustring::size_type slash = existing.rfind('/');
-        if (slash == ustring::npos) {
-            rest = ustring("/") + existing + rest;
-            existing = ".";
-            continue;
-        }
-        rest = existing.substr(slash) + rest;
-        existing = slash == 0 ? ustring("/") : existing.substr(0, slash);
+// Whether a copy of the folder at path would be made inside it: whether the deepest folder that
+// exists already on the way to its destination is that folder, or lies in it.
+bool WouldCopyIntoItself(ustring path, ustring destination) {
+    if (FSGetRealPath(path) != 0) {
+        return false;
     }
-    return existing + rest;
-}
-
-bool IsSameOrInside(ustring const& path, ustring const& folder) {
-    const ustring outer = CanonicalForm(folder) + "/";
-    return (CanonicalForm(path) + "/").compare(outer, outer.size()) == 0;
+    while (FSGetRealPath(destination) != 0) {
+        destination.rtrim("/");
+        const ustring::size_type name = destination.rfind('/') + 1;  // 0 when there is no folder
+        if (destination == "." || destination.substr(name) == "..") {
+            return true;  // it can't be told where that would lead once the way is made
+        }
+        destination = name == 0 ? ustring(".") : destination.substr(0, name);
+    }
+    const ustring inside = path == "/" ? path : path + "/";
+    return (destination + "/").compare(inside, inside.size()) == 0;
 }
 
 bool IsSpecial(std::int32_t type) {
@@ -143,42 +137,27 @@ std::vector<DIR_ENTRY> ListFolder(ustring const& path) {
     return entries;
 }
 
-int CopyFolder(ustring const& src, ustring const& dst);
-
-// Copies what is at src. The destination of a whole tree is checked once, at its top.
-int CopyPath(ustring const& src, ustring const& dst, bool check_destination) {
+void LogCopy(ustring const& src, ustring const& dst) {
     LOG_MSG(DEBUG, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
-    _FILE_INFO_tag info;
-    if (FSStat(src, info, false) != 0) {
-        LOG_MSG(ERROR, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
-        return -1;
-    }
-    if (!info.exists) {
-        LOG_MSG(ERROR, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
-        return -1;
-    }
-    if (info.type != FILE_TYPE_DIR) {
-        return CopySingle(src, dst, info.type);
-    }
-    if (check_destination && IsSameOrInside(dst, src)) {
-        LOG_MSG(ERROR, "FSCopyPath: destination '%s' lies inside source '%s'\n", dst.c_str(),
-                src.c_str());
-        return -1;
-    }
-    if (FSMKDir(dst, true) < 0) {
+}
+
+// Copies a folder into another, which is made when it isn't there. Below the first level the folder
+// above it is known to exist, and nothing is looked up that the listing has told already.
+int CopyFolder(ustring const& src, ustring const& dst, bool make_parents) {
+    if (FSMKDir(dst, make_parents) < 0) {
         LOG_MSG(ERROR, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
         return -1;
     }
-    return CopyFolder(src, dst);
-}
-
-int CopyFolder(ustring const& src, ustring const& dst) {
     for (const DIR_ENTRY& entry : ListFolder(src)) {
         const ustring child_src = src + "/" + entry.name;
         const ustring child_dst = dst + "/" + entry.name;
-        const int result = entry.type == FILE_TYPE_DIR
-                               ? CopyPath(child_src, child_dst, false)
-                               : CopySingle(child_src, child_dst, entry.type);
+        int result = 0;
+        if (entry.type == FILE_TYPE_DIR) {
+            LogCopy(child_src, child_dst);
+            result = CopyFolder(child_src, child_dst, false);
+        } else {
+            result = CopySingle(child_src, child_dst, entry.type);
+        }
         if (result < 0) {
             LOG_MSG(ERROR, "FSCopyPath: failed to copy from '%s' to '%s'\n", child_src.c_str(),
                     child_dst.c_str());
@@ -255,7 +234,25 @@ void Service::RemoveAgedFolders() {
 }
 
 int Service::FSCopyPath(ustring const& src, ustring const& dst) {
-    return CopyPath(src, dst, true);
+    LogCopy(src, dst);
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, false) != 0) {
+        LOG_MSG(ERROR, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
+        return -1;
+    }
+    if (!info.exists) {
+        LOG_MSG(ERROR, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
+        return -1;
+    }
+    if (info.type != FILE_TYPE_DIR) {
+        return CopySingle(src, dst, info.type);
+    }
+    if (WouldCopyIntoItself(src, dst)) {
+        LOG_MSG(ERROR, "FSCopyPath: destination '%s' lies inside source '%s'\n", dst.c_str(),
+                src.c_str());
+        return -1;
+    }
+    return CopyFolder(src, dst, true);
 }
 
 ustring Service::GetUserInstallPath() {
