@@ -37,6 +37,18 @@ TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
     }
 }
 
+// Two links that differ in their letter case look like a folder that ignores it.
+TEST(FSRef, KeepsTheSpellingOfALinkThatIsThere) {
+    const Folder folder;
+    MakeFile(folder / "Name");
+    ASSERT_EQ(link((folder / "Name").c_str(), (folder / "nAME").c_str()), 0);
+    for (const char* const name : {"Name", "nAME"}) {
+        FSRef ref;
+        ASSERT_EQ(MakeRef(folder / name, ref), 0);
+        EXPECT_EQ(ref.path, folder / name);
+    }
+}
+
 TEST(FSRef, SaysWhetherItIsAFolder) {
     const Folder folder;
     MakeFile(folder / "file");
@@ -71,6 +83,14 @@ TEST(FSRef, TellsWhyThereIsNone) {
         FSRef ref;
         EXPECT_EQ(MakeRef(row.path, ref), row.status) << row.path.substr(0, 80);
     }
+    FSRef ref;
+    MakeFile(folder / "closed/file");
+    chmod((folder / "closed").c_str(), 0);
+    const bool root = geteuid() == 0;
+    ASSERT_EQ(root ? seteuid(65534) : 0, 0);
+    EXPECT_EQ(MakeRef(folder / "closed/file", ref), -5000);
+    ASSERT_EQ(root ? seteuid(0) : 0, 0);
+    chmod((folder / "closed").c_str(), 0755);
 }
 
 TEST(FSRef, NeedsRoomForTheTerminator) {
@@ -162,6 +182,7 @@ class InstanceLockTest : public testing::Test {
         }
         int status = 0;
         waitpid(pid, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status));
         return WEXITSTATUS(status) != 0;
     }
 

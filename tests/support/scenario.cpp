@@ -90,6 +90,17 @@ FileTree Tree(const std::string& path) {
     return tree;
 }
 
+FewDescriptors::FewDescriptors() {
+    getrlimit(RLIMIT_NOFILE, &saved_);
+    rlimit few = saved_;
+    few.rlim_cur = 100;
+    setrlimit(RLIMIT_NOFILE, &few);
+}
+
+FewDescriptors::~FewDescriptors() {
+    setrlimit(RLIMIT_NOFILE, &saved_);
+}
+
 bool WaitFor(const std::function<bool()>& condition) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     while (!condition()) {

@@ -2,6 +2,7 @@
 #define TESTS_SUPPORT_SCENARIO_H
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/types.h>
 
 #include <functional>
@@ -40,6 +41,16 @@ bool Exists(const std::string& path);           // a dangling link does
 typedef std::map<std::string, std::string> FileTree;
 FileTree Tree(const std::string& path);
 std::string DescribeFile(mode_t mode, const std::string& content);
+
+// Lets this process open no more than a hundred files at a time.
+class FewDescriptors {
+  public:
+    FewDescriptors();
+    ~FewDescriptors();
+
+  private:
+    rlimit saved_;
+};
 
 // Waits until the condition holds; false after ten seconds.
 bool WaitFor(const std::function<bool()>& condition);

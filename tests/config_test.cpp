@@ -1,0 +1,100 @@
+#include "lib/config/config.h"
+
+#include "tests/support/scenario.h"
+
+namespace {
+
+class ConfigTest : public testing::Test {
+  protected:
+    int read(const std::string& text) {
+        MakeFile(folder_ / "file", text);
+        return config_.read((folder_ / "file").c_str());
+    }
+
+    Folder folder_;
+    Config config_;
+};
+
+TEST_F(ConfigTest, Accepts) {
+    const struct {
+        const char* text;
+        const char* key;
+        const char* value;
+    } cases[] = {{"pid=1234\n", "pid", "1234"},
+                 {"pid=1234", "pid", "1234"},
+                 {" \t key \v= value  # note\n", "key", "value"},
+                 {"key='two words'\n", "key", "two words"},
+                 {"key=\"it's\"#note\n", "key", "it's"},
+                 {"key=''\n", "key", ""},
+                 {"a.b-c_d=1\n", "a.b-c_d", "1"},
+                 {"key=abc#def\n", "key", "abc#def"},
+                 {"key=abc #def\n", "key", "abc"},
+                 {"key= #x\n", "key", "#x"},
+                 {"key=a=b\n", "key", "a=b"},
+                 {"key=it's\n", "key", "it's"},
+                 {"key=\xC3\xA9\r\n", "key", "\xC3\xA9"},
+                 {"=x\n", "", "x"},
+                 {"\n  \n# comment\nlast#comment\nkey=1\nkey=2\nrest", "key", "2"}};
+    for (const auto& row : cases) {
+        config_.entries.clear();
+        EXPECT_EQ(read(row.text), 0) << row.text;
+        EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{row.key, row.value}})) << row.text;
+    }
+}
+
+TEST_F(ConfigTest, RefusesTheWholeFile) {
+    for (const char* const text :
+         {"key=two words\n", "key=\n", "key=   \n", "key", "a/b=1\n", "key= # comment\n",
+          "\xEF\xBB\xBFkey=1\n", "[Version]\n", "key\n", "key 1\n", "key='open\n", "key='a\tb'\n",
+          "key='a'b\n", "key=a\x01\n", "key=a\x7F", "key:1\n", "\xC3\xA9=1\n"}) {
+        config_.entries = {{"earlier", "entry"}};
+        if (std::string(text) == "key") {
+            EXPECT_EQ(read(text), 0) << "a key that the file ends with is ignored";
+            continue;
+        }
+        EXPECT_EQ(read(std::string("good=1\n") + text), -1) << text;
+        EXPECT_TRUE(config_.entries.empty()) << text;
+    }
+}
+
+TEST_F(ConfigTest, AddsToWhatItHolds) {
+    EXPECT_EQ(read("a=1\nb=2\n"), 0);
+    EXPECT_EQ(read("b=3\nc=4\n"), 0);
+    EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"b", "3"}, {"c", "4"}}));
+    EXPECT_EQ(config_.read(""), -1);
+    EXPECT_EQ(config_.read((folder_ / "missing").c_str()), -1);
+    EXPECT_EQ(config_.entries.size(), 3u);
+    EXPECT_EQ(read("bad line\n"), -1);
+    EXPECT_TRUE(config_.entries.empty());
+}
+
+TEST_F(ConfigTest, ReadsALongLineInPieces) {
+    const std::string piece = "k=" + std::string(8189, 'v');  // just what one reading takes
+    EXPECT_EQ(read(piece + "\n"), 0);
+    EXPECT_EQ(config_.entries["k"].size(), 8189u);
+    EXPECT_EQ(read(piece + "x=1\n"), 0);
+    EXPECT_EQ(config_.entries["x"], "1");
+    EXPECT_EQ(read(piece + "/\n"), -1);
+}
+
+TEST_F(ConfigTest, ReadsIntegers) {
+    const std::vector<std::pair<const char*, int>> cases = {{"12abc", 12},
+                                                            {"abc", 0},
+                                                            {"-7", -7},
+                                                            {"+5", 5},
+                                                            {"''", 0},
+                                                            {"' 8'", 8},
+                                                            {"0x10", 0},
+                                                            {"2147483647", 2147483647},
+                                                            {"2147483648", 0},
+                                                            {"-2147483648", -2147483647 - 1},
+                                                            {"99999999999999999999", 0}};
+    for (const auto& [text, number] : cases) {
+        ASSERT_EQ(read(std::string("x= ") + text + "\n"), 0) << text;
+        EXPECT_EQ(config_.get_int("x"), number) << text;
+    }
+    EXPECT_EQ(config_.get_int("absent"), 0);
+    EXPECT_EQ(config_.entries.count("absent"), 1u);
+}
+
+}  // namespace

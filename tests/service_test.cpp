@@ -1,0 +1,237 @@
+// The service's tree copy and the extractor, below what whole runs show.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include <archive_entry.h>
+
+#include "lib/liblogger/log.h"
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/mac/mac-service.h"
+#include "ui-client/launcher/translations/str-table.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+class CopyTest : public testing::Test {
+  protected:
+    CopyTest() { umask(022); }
+
+    int copy(const std::string& src, const std::string& dst) {
+        int result = 0;
+        log_ = CaptureStderr([&] { result = service_.FSCopyPath(src.c_str(), dst.c_str()); });
+        return result;
+    }
+
+    Folder folder_;
+    MacService service_;
+    std::string log_;
+};
+
+TEST_F(CopyTest, MergesATreeIntoAnother) {
+    MakeFile(folder_ / "src/a/file", "new", 0600);
+    MakeFile(folder_ / "src/run", "x", 0755);
+    MakeLink("run", folder_ / "src/link");
+    MakeFolder(folder_ / "src/empty");
+    MakeFile(folder_ / "dst/a/file", "older", 0640);
+    MakeFile(folder_ / "dst/kept", "kept");
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
+    EXPECT_EQ(Tree(folder_ / "dst"), (FileTree{{"a", "folder"},
+                                               {"a/file", "file 0640: new"},
+                                               {"empty", "folder"},
+                                               {"kept", "file 0644: kept"},
+                                               {"link", "file 0644: x"},
+                                               {"run", "file 0644: x"}}));
+    EXPECT_EQ(copy(folder_ / "src/run", folder_ / "file"), 0);
+    EXPECT_EQ(ReadFile(folder_ / "file"), "x");
+}
+
+TEST_F(CopyTest, RefusesWhatIsMissing) {
+    EXPECT_EQ(copy(folder_ / "missing", folder_ / "dst"), -1);
+    EXPECT_EQ(
+        LinesWith(log_, "FSCopyPath: source path '" + folder_ / "missing" + "' does not exist")
+            .size(),
+        1u);
+    EXPECT_EQ(copy("", folder_ / "dst"), -1);
+    EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to stat source ''").size(), 1u);
+    EXPECT_TRUE(Tree(folder_.path()).empty());
+}
+
+TEST_F(CopyTest, RefusesADestinationInsideTheSource) {
+    MakeFile(folder_ / "src/file");
+    MakeLink("src", folder_ / "way");
+    for (const char* const inside : {"src", "src/", "src/new", "src/new/deeper", "way/new",
+                                     "src/../src/new", "way/../src/x", "new/../src/x"}) {
+        EXPECT_EQ(copy(folder_ / "src", folder_ / inside), -1) << inside;
+        EXPECT_EQ(LinesWith(log_, "lies inside source").size(), 1u) << inside;
+    }
+    EXPECT_EQ(Tree(folder_ / "src").size(), 1u);
+    ASSERT_EQ(chdir((folder_ / "src").c_str()), 0);
+    EXPECT_EQ(copy(folder_ / "src", "new"), -1);
+    MakeFolder(folder_ / "gone");
+    ASSERT_EQ(chdir((folder_ / "gone").c_str()), 0);
+    rmdir((folder_ / "gone").c_str());
+    EXPECT_EQ(copy(folder_ / "src", "new"), -1);
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "src-evil"), 0);
+    EXPECT_TRUE(Exists(folder_ / "src-evil/file"));
+}
+
+TEST_F(CopyTest, NeverOpensAPipe) {
+    MakeFolder(folder_ / "src");
+    ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0644), 0);
+    EXPECT_EQ(copy(folder_ / "pipe", folder_ / "dst"), -1);
+    MakeLink("../pipe", folder_ / "src/link to pipe");
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), -1);
+    EXPECT_EQ(LinesWith(log_, "is a pipe, socket or device (6)").size(), 1u);
+    EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to copy from").size(), 1u);
+    EXPECT_FALSE(Exists(folder_ / "dst/link to pipe"));
+}
+
+TEST_F(CopyTest, EveryLevelReportsAFailure) {
+    MakeLink("nowhere", folder_ / "src/a/b/dangling");
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), -1);
+    EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to copy from").size(), 3u) << log_;
+    MakeLink(".", folder_ / "src/a/b/dangling folder");
+    MakeFile(folder_ / "file");
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "file"), -1);
+    EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to create dest folder").size(), 1u);
+}
+
+TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
+    MakeFile(folder_ / "src/file");
+    chmod((folder_ / "src").c_str(), 0);
+    chmod(folder_.path().c_str(), 0777);
+    const bool root = geteuid() == 0;
+    ASSERT_EQ(root ? seteuid(65534) : 0, 0);
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
+    ASSERT_EQ(root ? seteuid(0) : 0, 0);
+    EXPECT_EQ(LinesWith(log_, "[WARNING] tarnwell-service(").size(), 1u) << log_;
+    EXPECT_EQ(LinesWith(log_, "failed to create handle  for src").size(), 1u);
+    EXPECT_TRUE(Exists(folder_ / "dst"));
+    chmod((folder_ / "src").c_str(), 0755);
+}
+
+TEST_F(CopyTest, ADeepTreeNeedsFewDescriptors) {
+    std::string deep = folder_ / "src";
+    MakeFolder(deep);
+    for (int i = 0; i < 1000; ++i) {
+        ASSERT_EQ(mkdir((deep += "/d").c_str(), 0755), 0);
+    }
+    std::ofstream(deep + "/file") << "bottom";
+    const FewDescriptors few;
+    EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
+    EXPECT_EQ(ReadFile(folder_ / "dst" + deep.substr((folder_ / "src").size()) + "/file"),
+              "bottom");
+}
+
+class ExtractorTest : public testing::Test {
+  protected:
+    ExtractorTest() {
+        StrTable::InitStrTable();
+        extractor_.dest_dir = (folder_ / "dest").c_str();
+        extractor_.archive_path = (folder_ / "package").c_str();
+        MakeFolder(folder_ / "dest");
+    }
+    // What the operation returns and logs.
+    std::pair<int, std::string> call(int (Extractor::*operation)()) {
+        std::pair<int, std::string> result;
+        result.second = CaptureStderr([&] { result.first = (extractor_.*operation)(); });
+        return result;
+    }
+
+    Folder folder_;
+    Extractor extractor_;
+};
+
+TEST_F(ExtractorTest, CountsAndLists) {
+    MakeArchive(folder_ / "package", "tar.gz", {{"a/"}, {"a/b", "text"}, {"c"}});
+    EXPECT_EQ(call(&Extractor::Count).first, 3);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(call(&Extractor::List).first, 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "a/\na/b\nc\n");
+    EXPECT_TRUE(Tree(folder_ / "dest").empty());
+}
+
+TEST_F(ExtractorTest, NeedsBothPaths) {
+    extractor_.dest_dir = "";
+    EXPECT_EQ(LinesWith(call(&Extractor::Extract).second, "): Invalid Argument").size(), 1u);
+    EXPECT_EQ(LinesWith(call(&Extractor::Count).second, "): Invalid argument").size(), 1u);
+    EXPECT_EQ(call(&Extractor::List).first, -1);
+    extractor_.dest_dir = "/nowhere";
+    EXPECT_EQ(
+        LinesWith(call(&Extractor::List).second, "archive_read_open_filename failed: '").size(),
+        1u);
+    EXPECT_EQ(extractor_.copy_data(nullptr, nullptr), -1);
+}
+
+TEST_F(ExtractorTest, ReportsEachEntryOnce) {
+    MakeArchive(folder_ / "package", "zip", {{"a", "1"}, {"b", "2"}, {"c", "3"}});
+    std::vector<std::pair<int, int>> reports;
+    QStringList texts;
+    Notify_Adapter* const adapter = Notify_Adapter::GetInstance();
+    QObject context;
+    QObject::connect(adapter, &Notify_Adapter::sigUpdateProgress, &context,
+                     [&](int total, int current) { reports.emplace_back(total, current); });
+    QObject::connect(adapter, &Notify_Adapter::sigUpdateDialogText, &context,
+                     [&](const QString& text) { texts << text; });
+    EXPECT_EQ(call(&Extractor::Extract).first, 0);
+    EXPECT_EQ(reports, (std::vector<std::pair<int, int>>{{3, 1}, {3, 2}, {3, 3}}));
+    EXPECT_EQ(texts, QStringList(QStringLiteral("Tarnwell is initializing...")));
+}
+
+TEST_F(ExtractorTest, ReplacesWhatIsThereAndStripsRights) {
+    MakeFile(folder_ / "dest/file", "old and longer", 0400);
+    MakeLink("elsewhere", folder_ / "dest/link");
+    MakeArchive(folder_ / "package", "tar",
+                {{"file", "new", 0600}, {"link", "file now"}, {"/absolute", "in", 06755}});
+    umask(022);
+    EXPECT_EQ(call(&Extractor::Extract).first, 0);
+    EXPECT_EQ(Tree(folder_ / "dest"), (FileTree{{"absolute", "file 0755: in"},
+                                                {"file", "file 0600: new"},
+                                                {"link", "file 0644: file now"}}));
+}
+
+TEST_F(ExtractorTest, SaysWhatIsWrongWithAnEntry) {
+    const std::string content = "stored text, the size of which is known";
+    MakeArchive(folder_ / "package", "zip", {{"file", content}});
+    std::string bytes = ReadFile(folder_ / "package");
+    const std::size_t data = 30 + std::size_t(bytes[26]) + std::size_t(bytes[28]);
+    bytes[data + 3] = static_cast<char>(bytes[data + 3] ^ 0x55);
+    MakeFile(folder_ / "package", bytes);
+    const auto [result, log] = call(&Extractor::Extract);
+    EXPECT_EQ(result, -1);
+    const std::vector<std::string> lines = LinesWith(log, "archive_read_extract2 failed: '");
+    ASSERT_EQ(lines.size(), 1u) << log;
+    EXPECT_EQ(LinesWith(log, "(null)").size() + LinesWith(log, "failed: ''").size(), 0u) << log;
+}
+
+TEST_F(ExtractorTest, CopiesTheDataOfAnEntry) {
+    const std::string content(100000, 'd');
+    MakeArchive(folder_ / "package", "tar", {{"file", content}});
+    archive* const in = archive_read_new();
+    archive_read_support_format_all(in);
+    ASSERT_EQ(archive_read_open_filename(in, (folder_ / "package").c_str(), 10240), ARCHIVE_OK);
+    archive_entry* entry = nullptr;
+    ASSERT_EQ(archive_read_next_header(in, &entry), ARCHIVE_OK);
+    archive* const out = archive_write_disk_new();
+    const std::string path = folder_ / "dest/copy";
+    archive_entry_set_pathname(entry, path.c_str());
+    ASSERT_EQ(archive_write_header(out, entry), ARCHIVE_OK);
+    EXPECT_EQ(extractor_.copy_data(in, out), 0);
+    archive_write_free(out);
+    archive_read_free(in);
+    EXPECT_TRUE(ReadFile(path) == content);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    QCoreApplication app(argc, argv);
+    return RUN_ALL_TESTS();
+}
