@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>正在备份 %1</translation>
+        <translation>正在备份“%1”</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
-        <translation>要解除 %1 的任务关联吗？此电脑和服务器上已有的文件不会被删除。</translation>
+        <translation>要解除“%1”的任务关联吗？此电脑和服务器上已有的文件不会被删除。</translation>
     </message>
     <message>
         <source>Information</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation>%1 已下载。</translation>
+        <translation>“%1”已下载。</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
-        <translation>要从列表中移除 %1 吗？文件夹本身不会被删除。</translation>
+        <translation>要从列表中移除“%1”吗？文件夹本身不会被删除。</translation>
     </message>
     <message>
         <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder %1 is ready to be synced.</source>
-        <translation>共享文件夹 %1 已可同步。</translation>
+        <translation>共享文件夹“%1”已可同步。</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
-        <translation>无法创建文件夹 %1。请检查您的权限，或选择其他位置。</translation>
+        <translation>无法创建文件夹“%1”。请检查您的权限，或选择其他位置。</translation>
     </message>
     <message>
         <source>Options</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
-        <translation>让这些程序保持打开（需要重新启动）</translation>
+        <translation>让这些程序保持打开（需要重新启动电脑）</translation>
     </message>
     <message>
         <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>You have read-only permission for this shared folder. Files will only be downloaded. Do you want to use it?</source>
-        <translation>您对此共享文件夹只有只读权限。文件只会被下载。要使用此文件夹吗？</translation>
+        <translation>您对此共享文件夹仅有只读权限，文件将只下载、不上传。要使用此文件夹吗？</translation>
     </message>
     <message>
         <source>This version of Tarnwell is already installed. Do you want to install it again?</source>
@@ -1069,7 +1069,7 @@
     </message>
     <message>
         <source>You have read-only permission for this folder, so nothing can be backed up to it. Choose a folder you can write to.</source>
-        <translation>您对此文件夹只有只读权限，因此无法将任何内容备份到其中。请选择您可以写入的文件夹。</translation>
+        <translation>您对此文件夹仅有只读权限，因此无法将任何内容备份到其中。请选择您可以写入的文件夹。</translation>
     </message>
     <message>
         <source>Before you begin, make sure that your server is turned on.</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
-        <translation>无法从列表中移除 %1。请稍后重试。</translation>
+        <translation>无法从列表中移除“%1”。请稍后重试。</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>正在下载 %1</translation>
+        <translation>正在下载“%1”</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell 备份</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
-        <translation>无法下载 %1。请检查与服务器的连接，然后重试。</translation>
+        <translation>无法下载“%1”。请检查与服务器的连接，然后重试。</translation>
     </message>
     <message>
         <source>Monday</source>

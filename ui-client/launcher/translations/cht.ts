@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>Exclude files and folders whose names start with a period</source>
-        <translation>排除名稱以句點開頭的檔案與資料夾</translation>
+        <translation>排除名稱以句點（.）開頭的檔案與資料夾</translation>
     </message>
     <message>
         <source>Trust and continue</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>Choose what happens when a file was changed on both the computer and the server.</source>
-        <translation>選擇檔案在這台電腦與伺服器上都有變更時的處理方式。</translation>
+        <translation>請選擇檔案在這台電腦與伺服器上都有變更時的處理方式。</translation>
     </message>
     <message>
         <source>The installer is ready to remove [ProductName].</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>This task is inactive. Resume it to sync its files again.</source>
-        <translation>此任務目前為非使用中狀態。請恢復任務，以再次同步其檔案。</translation>
+        <translation>此任務目前未執行。請恢復任務，以再次同步其檔案。</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
-        <translation>使用您自己的伺服器備份並同步電腦。</translation>
+        <translation>使用您自己的伺服器來備份及同步電腦。</translation>
     </message>
     <message>
         <source>Tarnwell is starting...</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>You have read-only permission for this shared folder. Files will only be downloaded. Do you want to use it?</source>
-        <translation>您對此共用資料夾只有唯讀權限，檔案只會下載。要使用此資料夾嗎？</translation>
+        <translation>您對此共用資料夾只有唯讀權限，檔案只會下載，不會上傳。要使用此資料夾嗎？</translation>
     </message>
     <message>
         <source>This version of Tarnwell is already installed. Do you want to install it again?</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>Inactive</source>
-        <translation>非使用中</translation>
+        <translation>未執行</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder, so nothing can be backed up to it. Choose a folder you can write to.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Select what to back up and where to store it on the server.</source>
-        <translation>選取要備份的內容，以及在伺服器上的儲存位置。</translation>
+        <translation>請選取要備份的內容，以及在伺服器上的儲存位置。</translation>
     </message>
     <message>
         <source>Some files that need to be changed are in use.</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>Choose how Tarnwell connects to the server.</source>
-        <translation>選擇 Tarnwell 連線到伺服器的方式。</translation>
+        <translation>請選擇 Tarnwell 連線到伺服器的方式。</translation>
     </message>
     <message>
         <source>Linking to the server...</source>
@@ -1557,7 +1557,7 @@
     </message>
     <message>
         <source>Add a task to sync another folder with this server.</source>
-        <translation>新增任務，與此伺服器同步其他資料夾。</translation>
+        <translation>新增任務，即可將其他資料夾與此伺服器同步。</translation>
     </message>
     <message>
         <source>An error occurred</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>The server rejected the request as invalid. Update Tarnwell and try again.</source>
-        <translation>伺服器將此要求視為無效而拒絕。請更新 Tarnwell，然後再試一次。</translation>
+        <translation>此要求無效，已遭伺服器拒絕。請更新 Tarnwell，然後再試一次。</translation>
     </message>
     <message>
         <source>Version mismatch</source>
@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>Choose a folder on the server and the local folder to sync it with.</source>
-        <translation>選擇伺服器上的資料夾，以及要與其同步的本機資料夾。</translation>
+        <translation>請選擇伺服器上的資料夾，以及要與其同步的本機資料夾。</translation>
     </message>
     <message>
         <source>has been shared with you.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell 備份</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
-        <translation>[ProductName] 安裝程式因發生錯誤，在完成前已停止。您的電腦未做任何變更。若要再試一次，請重新啟動安裝程式。</translation>
+        <translation>[ProductName] 安裝程式因發生錯誤而在完成前停止。您的電腦未做任何變更。若要再試一次，請重新啟動安裝程式。</translation>
     </message>
     <message>
         <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>

@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Problém synchronizace</translation>
+        <translation>Problém se synchronizací</translation>
     </message>
     <message>
         <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Start [ProductName] now</source>
-        <translation>Hned spustit aplikaci [ProductName]</translation>
+        <translation>Spustit nyní aplikaci [ProductName]</translation>
     </message>
     <message>
         <source>Enter the username for the proxy.</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
-        <translation>Nechat tyto programy spuštěné (vyžaduje restart)</translation>
+        <translation>Nechat tyto programy spuštěné (vyžaduje restart počítače)</translation>
     </message>
     <message>
         <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Backing up %1 file(s)</source>
-        <translation>Zálohování, počet souborů: %1</translation>
+        <translation>Zálohování souborů: %1</translation>
     </message>
     <message>
         <source>The connection to the server was lost. Tarnwell will reconnect as soon as possible.</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message>
         <source>About Tarnwell</source>
-        <translation>O Tarnwellu</translation>
+        <translation>O aplikaci Tarnwell</translation>
     </message>
     <message>
         <source>Sign-in failed</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>Správce vyžaduje dvoufázové ověření. Nejprve se přihlaste k serveru v prohlížeči a zapněte ho.</translation>
+        <translation>Správce vyžaduje dvoufázové ověření. Nejprve se v prohlížeči přihlaste k serveru a toto ověření zapněte.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Zálohování Tarnwell</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1809,7 +1809,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>Pokročilý průvodce nastavením</translation>
+        <translation>Průvodce pokročilým nastavením</translation>
     </message>
     <message>
         <source>Use a black and white tray icon</source>

@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>Trust and continue</source>
-        <translation>Hav tillid og fortsæt</translation>
+        <translation>Godkend og fortsæt</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>[ProductName] installer</source>
-        <translation>[ProductName]-installationsprogram</translation>
+        <translation>Installationsprogram til [ProductName]</translation>
     </message>
     <message>
         <source>The [ProductName] installer has finished</source>
@@ -1217,7 +1217,7 @@
     </message>
     <message>
         <source>The SSL certificate of the server has changed. Check with your administrator before you trust the new certificate.</source>
-        <translation>Serverens SSL-certifikat er blevet ændret. Spørg din administrator, før du vælger at have tillid til det nye certifikat.</translation>
+        <translation>Serverens SSL-certifikat er blevet ændret. Spørg din administrator, før du godkender det nye certifikat.</translation>
     </message>
     <message>
         <source>The connection was lost while the task was being set up. Check your network and try again.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1773,7 +1773,7 @@
     </message>
     <message>
         <source>The server now uses a different SSL certificate. Do you want to trust it?</source>
-        <translation>Serveren bruger nu et andet SSL-certifikat. Vil du have tillid til det?</translation>
+        <translation>Serveren bruger nu et andet SSL-certifikat. Vil du godkende det?</translation>
     </message>
     <message>
         <source>%1 hour(s) ago</source>
@@ -1961,7 +1961,7 @@
     </message>
     <message>
         <source>You can sync up to %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Du kan synkronisere op til %1 delte mapper. Stop synkroniseringen af en af dem, før du tilføjer en ny.</translation>
+        <translation>Antallet af delte mapper, du kan synkronisere, er begrænset til %1. Stop synkroniseringen af en mappe, før du tilføjer en ny.</translation>
     </message>
     <message>
         <source>Open containing folder</source>

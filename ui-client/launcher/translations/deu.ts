@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Uhrzeit</translation>
+        <translation>Zeitpunkt</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>Waiting for the file to be unlocked</source>
-        <translation>Warten, bis die Datei entsperrt wird</translation>
+        <translation>Wartet, bis die Datei entsperrt ist</translation>
     </message>
     <message>
         <source>Downloading...</source>
@@ -889,7 +889,7 @@
     </message>
     <message>
         <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
-        <translation>Der Serverordner liegt auf einem entfernten Speicher, der derzeit nicht verbunden ist. Bitten Sie Ihren Administrator, ihn wieder zu verbinden.</translation>
+        <translation>Der Serverordner liegt auf einem Remote-Speicher, der derzeit nicht verbunden ist. Bitten Sie Ihren Administrator, ihn wieder zu verbinden.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Do you want to merge the two folders?</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>See the state of every file</source>
-        <translation>Den Status jeder Datei sehen</translation>
+        <translation>Dateistatus auf einen Blick</translation>
     </message>
     <message>
         <source>October</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>%1 Seite(n) zurück</translation>
+        <translation>%1 Seiten zurück</translation>
     </message>
     <message>
         <source>July</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>%1 Seite(n) vor</translation>
+        <translation>%1 Seiten vor</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -1573,7 +1573,7 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation>Unpassende Version</translation>
+        <translation>Version passt nicht</translation>
     </message>
     <message>
         <source>To sync more folders, add a task in Tarnwell at any time.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>

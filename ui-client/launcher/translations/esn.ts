@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Hora</translation>
+        <translation>Fecha y hora</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Choose another</source>
-        <translation>Elegir otra</translation>
+        <translation>Elegir otra opción</translation>
     </message>
     <message>
         <source>Find Orvane Station</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>Keep the version that was modified last</source>
-        <translation>Conservar la última versión modificada</translation>
+        <translation>Conservar la versión modificada más recientemente</translation>
     </message>
     <message>
         <source>None of the chosen folders can be synced. Choose at least one other folder.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again. If the problem continues, restart Tarnwell.</source>
-        <translation>Algo ha ido mal. Inténtelo de nuevo. Si el problema continúa, reinicie Tarnwell.</translation>
+        <translation>Se ha producido un problema. Inténtelo de nuevo. Si el problema continúa, reinicie Tarnwell.</translation>
     </message>
     <message>
         <source>Keep both versions and rename the older one</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
-        <translation>No se ha podido actualizar Tarnwell. Inténtelo de nuevo más tarde o descargue usted la versión más reciente.</translation>
+        <translation>No se ha podido actualizar Tarnwell. Inténtelo de nuevo más tarde o descargue manualmente la versión más reciente.</translation>
     </message>
     <message>
         <source>You have read-only permission for this shared folder. Files will only be downloaded. Do you want to use it?</source>
@@ -1065,7 +1065,7 @@
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactivo</translation>
+        <translation>Inactiva</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder, so nothing can be backed up to it. Choose a folder you can write to.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>Something went wrong</source>
-        <translation>Algo ha ido mal</translation>
+        <translation>Se ha producido un problema</translation>
     </message>
     <message>
         <source>Password</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation>Error de sesión</translation>
+        <translation>Error al iniciar sesión</translation>
     </message>
     <message>
         <source>You are now connected to the server.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>Use a black and white tray icon</source>
-        <translation>Usar un icono de la bandeja en blanco y negro</translation>
+        <translation>Usar un icono en blanco y negro en la bandeja</translation>
     </message>
     <message>
         <source>Connection type</source>

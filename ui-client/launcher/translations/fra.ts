@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Heure</translation>
+        <translation>Date et heure</translation>
     </message>
     <message>
         <source>Tray icon</source>
-        <translation>Zone de notification</translation>
+        <translation>Icône de notification</translation>
     </message>
     <message>
         <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Check your settings</source>
-        <translation>Vérifiez vos réglages</translation>
+        <translation>Vérifier les réglages</translation>
     </message>
     <message>
         <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
-        <translation>Les dossiers que vous décochez ici seront retirés de cet ordinateur. Ils restent sur le serveur.</translation>
+        <translation>Les dossiers que vous décochez ici seront retirés de cet ordinateur. Ils resteront sur le serveur.</translation>
     </message>
     <message>
         <source>The sync package on the server is too old.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Sauvegarde Tarnwell</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1961,7 +1961,7 @@
     </message>
     <message>
         <source>You can sync up to %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Vous pouvez synchroniser jusqu’à %1 dossiers partagés. Arrêtez la synchronisation de l’un d’eux avant d’en ajouter un autre.</translation>
+        <translation>Le nombre de dossiers partagés synchronisés est limité à %1. Arrêtez la synchronisation de l’un d’eux avant d’en ajouter un autre.</translation>
     </message>
     <message>
         <source>Open containing folder</source>

@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>[ProductName] installer</source>
-        <translation>[ProductName] telepítő</translation>
+        <translation>[ProductName] telepítője</translation>
     </message>
     <message>
         <source>The [ProductName] installer has finished</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Visszaállítás</translation>
+        <translation>Alaphelyzet</translation>
     </message>
     <message>
         <source>Ready to remove</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Összekapcsolás újra</translation>
+        <translation>Újbóli összekapcsolás</translation>
     </message>
     <message>
         <source>Include this folder in sync again</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>A rendszergazda kétlépéses hitelesítést ír elő. Előbb jelentkezzen be a szerverre egy böngészőben, és kapcsolja be.</translation>
+        <translation>A rendszergazda kétlépéses hitelesítést ír elő. Előbb jelentkezzen be a szerverre egy böngészőben, és kapcsolja be ezt a hitelesítést.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell biztonsági mentés</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>

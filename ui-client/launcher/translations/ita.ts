@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Ora</translation>
+        <translation>Data e ora</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -889,7 +889,7 @@
     </message>
     <message>
         <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
-        <translation>La cartella sul server si trova su uno spazio remoto al momento non connesso. Chiedi all’amministratore di riconnetterlo.</translation>
+        <translation>La cartella sul server si trova su uno spazio di archiviazione remoto al momento non connesso. Chiedi all’amministratore di riconnetterlo.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Do you want to merge the two folders?</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>Files in your local folder are now backed up to the server automatically.</source>
-        <translation>Da ora il backup sul server dei file della cartella locale è automatico.</translation>
+        <translation>Ora il backup dei file della tua cartella locale sul server viene eseguito automaticamente.</translation>
     </message>
     <message>
         <source>The SSL certificate of the server has changed. Check with your administrator before you trust the new certificate.</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>%1 pag. indietro</translation>
+        <translation>Indietro di %1 pagine</translation>
     </message>
     <message>
         <source>July</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>%1 pag. avanti</translation>
+        <translation>Avanti di %1 pagine</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1685,7 +1685,7 @@
     </message>
     <message>
         <source>Sync direction mismatch</source>
-        <translation>Direzione di sincronizzazione discordante</translation>
+        <translation>Direzione di sincronizzazione incompatibile</translation>
     </message>
     <message>
         <source>Resume connection</source>

@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
-        <translation>サーバのSSL証明書を確認できませんでした。サーバのアドレスを確認するか、管理者に問い合わせてください。</translation>
+        <translation>サーバのSSL証明書を検証できませんでした。サーバのアドレスを確認するか、管理者に問い合わせてください。</translation>
     </message>
     <message>
         <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>時刻</translation>
+        <translation>日時</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>The [ProductName] installer has finished</source>
-        <translation>[ProductName]のインストーラが完了しました</translation>
+        <translation>[ProductName]インストーラの処理が完了しました</translation>
     </message>
     <message>
         <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>This version of Tarnwell is too old for the server. Update Tarnwell to version %1 or later.</source>
-        <translation>このバージョンのTarnwellは、サーバに対して古すぎます。Tarnwellをバージョン%1以降にアップデートしてください。</translation>
+        <translation>このバージョンのTarnwellは古いため、このサーバでは使用できません。Tarnwellをバージョン%1以降にアップデートしてください。</translation>
     </message>
     <message>
         <source>Tarnwell %1 is available. Click here to update.</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Choose the shared folder on the server to sync with.</source>
-        <translation>同期するサーバ上の共有フォルダを選択してください。</translation>
+        <translation>同期先にするサーバ上の共有フォルダを選択してください。</translation>
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
@@ -1333,7 +1333,7 @@
     </message>
     <message>
         <source>Send to</source>
-        <translation>送信先</translation>
+        <translation>送信先：</translation>
     </message>
     <message>
         <source>You have unsaved changes. Do you want to discard them?</source>
@@ -1353,7 +1353,7 @@
     </message>
     <message>
         <source>Unlink connection</source>
-        <translation>接続の連携を解除</translation>
+        <translation>サーバとの連携を解除</translation>
     </message>
     <message>
         <source>Updating to version %1...</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
-        <translation>サーバから、Tarnwellが理解できない応答がありました。両方が最新であることを確認してください。</translation>
+        <translation>Tarnwellが認識できない応答をサーバから受信しました。両方が最新の状態であることを確認してください。</translation>
     </message>
     <message>
         <source>Mount point</source>
@@ -1557,7 +1557,7 @@
     </message>
     <message>
         <source>Add a task to sync another folder with this server.</source>
-        <translation>このサーバと別のフォルダを同期するには、タスクを追加してください。</translation>
+        <translation>別のフォルダをこのサーバと同期するには、タスクを追加してください。</translation>
     </message>
     <message>
         <source>An error occurred</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>The server rejected the request as invalid. Update Tarnwell and try again.</source>
-        <translation>サーバは要求を無効として拒否しました。Tarnwellをアップデートして、もう一度お試しください。</translation>
+        <translation>要求が無効なため、サーバに拒否されました。Tarnwellをアップデートして、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Version mismatch</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwellバックアップ</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1721,7 +1721,7 @@
     </message>
     <message>
         <source>The SSL certificate couldn&apos;t be verified.</source>
-        <translation>SSL証明書を確認できませんでした。</translation>
+        <translation>SSL証明書を検証できませんでした。</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -1825,7 +1825,7 @@
     </message>
     <message>
         <source>Do you want to exit the [ProductName] installer before it has finished?</source>
-        <translation>[ProductName]のインストーラは完了していません。終了しますか？</translation>
+        <translation>[ProductName]のインストーラの処理がまだ完了していません。インストーラを終了しますか？</translation>
     </message>
     <message>
         <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>%1 백업 중</translation>
+        <translation>‘%1’ 백업 중</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>시간</translation>
+        <translation>일시</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
-        <translation>%1 작업의 연동을 해제하시겠습니까? 이 컴퓨터와 서버에 이미 있는 파일은 삭제되지 않습니다.</translation>
+        <translation>‘%1’ 작업의 연동을 해제하시겠습니까? 이 컴퓨터와 서버에 이미 있는 파일은 삭제되지 않습니다.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
-        <translation>트레이 아이콘을 오른쪽 클릭하여 작업을 일시 정지하거나, 작업 폴더를 열거나, 작업 설정을 변경하십시오.</translation>
+        <translation>트레이 아이콘을 오른쪽 클릭하면 작업을 일시 정지하거나, 작업 폴더를 열거나, 작업 설정을 변경할 수 있습니다.</translation>
     </message>
     <message>
         <source>Enter 0 if you don&apos;t want to limit the file size.</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation>%1을(를) 다운로드했습니다.</translation>
+        <translation>‘%1’을(를) 다운로드했습니다.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
-        <translation>%1을(를) 목록에서 제거하시겠습니까? 폴더 자체는 삭제되지 않습니다.</translation>
+        <translation>‘%1’을(를) 목록에서 제거하시겠습니까? 폴더 자체는 삭제되지 않습니다.</translation>
     </message>
     <message>
         <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Files with exactly this name are never synced, whatever folder they are in.</source>
-        <translation>이름이 정확히 일치하는 파일은 어느 폴더에 있든 동기화되지 않습니다.</translation>
+        <translation>이 이름과 정확히 일치하는 파일은 어느 폴더에 있든 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
-        <translation>시스템 오류로 인해 서버를 찾을 수 없습니다. 다시 시도하거나 서버 주소를 대신 입력하십시오.</translation>
+        <translation>시스템 오류로 인해 서버를 찾을 수 없습니다. 다시 시도하거나 대신 서버 주소를 입력하십시오.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Enter the OrvaneLink ID of your Orvane Station. Tarnwell connects to it through OrvaneLink, even when you are away.</source>
-        <translation>Orvane Station의 OrvaneLink ID를 입력하십시오. Tarnwell은 외부에서도 OrvaneLink를 통해 연결합니다.</translation>
+        <translation>Orvane Station의 OrvaneLink ID를 입력하십시오. 외부에 있을 때도 Tarnwell이 OrvaneLink를 통해 연결합니다.</translation>
     </message>
     <message>
         <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder %1 is ready to be synced.</source>
-        <translation>%1 공유 폴더를 동기화할 준비가 되었습니다.</translation>
+        <translation>‘%1’ 공유 폴더를 동기화할 준비가 되었습니다.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>None of the chosen folders can be synced. Choose at least one other folder.</source>
-        <translation>선택한 폴더를 모두 동기화할 수 없습니다. 다른 폴더를 하나 이상 선택하십시오.</translation>
+        <translation>선택한 폴더 중 동기화할 수 있는 폴더가 없습니다. 다른 폴더를 하나 이상 선택하십시오.</translation>
     </message>
     <message>
         <source>Click Install to start. Click Back to check your choices, or Cancel to exit the installer.</source>
-        <translation>설치를 시작하려면 ‘설치’를 클릭하십시오. 선택 사항을 확인하려면 ‘뒤로’를, 설치 프로그램을 끝내려면 ‘취소’를 클릭하십시오.</translation>
+        <translation>설치를 시작하려면 ‘설치’를 클릭하십시오. 선택한 내용을 확인하려면 ‘뒤로’를, 설치 프로그램을 끝내려면 ‘취소’를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Tarnwell keeps earlier versions of your files, so a mistake is quickly undone.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
-        <translation>%1 폴더를 생성할 수 없습니다. 권한을 확인하거나 다른 위치를 선택하십시오.</translation>
+        <translation>‘%1’ 폴더를 생성할 수 없습니다. 권한을 확인하거나 다른 위치를 선택하십시오.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Choose the shared folder on the server to sync with.</source>
-        <translation>동기화할 서버의 공유 폴더를 선택하십시오.</translation>
+        <translation>서버에서 동기화할 공유 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
-        <translation>이 프로그램들을 열어 두기(다시 시작 필요)</translation>
+        <translation>이 프로그램들을 열어 두기(컴퓨터 다시 시작 필요)</translation>
     </message>
     <message>
         <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Files with these names are never uploaded or downloaded.</source>
-        <translation>이름이 다음과 같은 파일은 업로드되거나 다운로드되지 않습니다.</translation>
+        <translation>이름이 다음과 같은 파일은 업로드와 다운로드에서 제외됩니다.</translation>
     </message>
     <message>
         <source>This folder is on a network drive. Changes that others make there may not be noticed right away.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>실패한 시도가 너무 많습니다. 몇 분 후 다시 시도하십시오.</translation>
+        <translation>실패 횟수가 너무 많습니다. 몇 분 후 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>History</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
-        <translation>%1을(를) 목록에서 제거할 수 없습니다. 나중에 다시 시도하십시오.</translation>
+        <translation>‘%1’을(를) 목록에서 제거할 수 없습니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1265,7 +1265,7 @@
     </message>
     <message>
         <source>Backing up file %1 of %2</source>
-        <translation>파일 %1/%2 백업 중</translation>
+        <translation>파일 %2개 중 %1번째 백업 중</translation>
     </message>
     <message>
         <source>Edit connection</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>%1 다운로드 중</translation>
+        <translation>‘%1’ 다운로드 중</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>No Orvane Station was found on your local network. Enter its address or its OrvaneLink ID instead.</source>
-        <translation>로컬 네트워크에서 Orvane Station을 찾을 수 없습니다. 주소 또는 OrvaneLink ID를 대신 입력하십시오.</translation>
+        <translation>로컬 네트워크에서 Orvane Station을 찾을 수 없습니다. 대신 주소 또는 OrvaneLink ID를 입력하십시오.</translation>
     </message>
     <message>
         <source>Welcome to the [ProductName] installer</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
-        <translation>Tarnwell이 이해할 수 없는 응답을 서버에서 보냈습니다. 양쪽 모두 최신 버전인지 확인하십시오.</translation>
+        <translation>서버에서 Tarnwell이 인식할 수 없는 응답을 보냈습니다. 양쪽 모두 최신 버전인지 확인하십시오.</translation>
     </message>
     <message>
         <source>Mount point</source>
@@ -1593,7 +1593,7 @@
     </message>
     <message>
         <source>OrvaneLink is unavailable right now. Try again later or enter the address of your Orvane Station instead.</source>
-        <translation>현재 OrvaneLink를 사용할 수 없습니다. 나중에 다시 시도하거나 Orvane Station의 주소를 대신 입력하십시오.</translation>
+        <translation>현재 OrvaneLink를 사용할 수 없습니다. 나중에 다시 시도하거나 대신 Orvane Station의 주소를 입력하십시오.</translation>
     </message>
     <message>
         <source>%1 minute(s) ago</source>
@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>Choose a folder on the server and the local folder to sync it with.</source>
-        <translation>서버의 폴더와 그 폴더와 동기화할 로컬 폴더를 선택하십시오.</translation>
+        <translation>서버 폴더 및 해당 폴더와 동기화할 로컬 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>has been shared with you.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell 백업</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
-        <translation>%1을(를) 다운로드할 수 없습니다. 서버 연결을 확인하고 다시 시도하십시오.</translation>
+        <translation>‘%1’을(를) 다운로드할 수 없습니다. 서버 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1965,7 +1965,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>포함하는 폴더 열기</translation>
+        <translation>상위 폴더 열기</translation>
     </message>
     <message>
         <source>Open local folder</source>

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Tijd</translation>
+        <translation>Tijdstip</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>Tarnwell keeps earlier versions of your files, so a mistake is quickly undone.</source>
-        <translation>Tarnwell bewaart eerdere versies van je bestanden, zodat je een vergissing snel ongedaan maakt.</translation>
+        <translation>Tarnwell bewaart eerdere versies van je bestanden, zodat je een vergissing snel ongedaan kunt maken.</translation>
     </message>
     <message>
         <source>Link another server</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Opnieuw instellen</translation>
+        <translation>Resetten</translation>
     </message>
     <message>
         <source>Ready to remove</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Back-up</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1961,7 +1961,7 @@
     </message>
     <message>
         <source>You can sync up to %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Je kunt maximaal %1 gedeelde map(pen) synchroniseren. Stop de synchronisatie van een van die mappen voordat je een andere toevoegt.</translation>
+        <translation>Het aantal gedeelde mappen dat je kunt synchroniseren, is beperkt tot %1. Stop de synchronisatie van een map voordat je een andere toevoegt.</translation>
     </message>
     <message>
         <source>Open containing folder</source>

@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>June</source>
-        <translation>Juni</translation>
+        <translation>juni</translation>
     </message>
     <message>
         <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>August</source>
-        <translation>August</translation>
+        <translation>august</translation>
     </message>
     <message>
         <source>File type</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Tid</translation>
+        <translation>Tidspunkt</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Saturday</source>
-        <translation>Lørdag</translation>
+        <translation>lørdag</translation>
     </message>
     <message>
         <source>Recently changed files</source>
@@ -693,7 +693,7 @@
     </message>
     <message>
         <source>November</source>
-        <translation>November</translation>
+        <translation>november</translation>
     </message>
     <message>
         <source>No suitable folder found</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>December</source>
-        <translation>Desember</translation>
+        <translation>desember</translation>
     </message>
     <message>
         <source>Read the license agreement carefully before you continue.</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>May</source>
-        <translation>Mai</translation>
+        <translation>mai</translation>
     </message>
     <message>
         <source>Your account on the server has been disabled. Ask your administrator to enable it.</source>
@@ -777,11 +777,11 @@
     </message>
     <message>
         <source>Friday</source>
-        <translation>Fredag</translation>
+        <translation>fredag</translation>
     </message>
     <message>
         <source>March</source>
-        <translation>Mars</translation>
+        <translation>mars</translation>
     </message>
     <message>
         <source>These settings will be used:</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>February</source>
-        <translation>Februar</translation>
+        <translation>februar</translation>
     </message>
     <message>
         <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Sunday</source>
-        <translation>Søndag</translation>
+        <translation>søndag</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
@@ -1057,7 +1057,7 @@
     </message>
     <message>
         <source>January</source>
-        <translation>Januar</translation>
+        <translation>januar</translation>
     </message>
     <message>
         <source>First page</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
-        <translation>Lukk disse programmene og klikk på Prøv igjen, eller klikk på Ignorer for å fortsette og starte datamaskinen på nytt etterpå.</translation>
+        <translation>Lukk disse programmene, og klikk på Prøv igjen, eller klikk på Ignorer for å fortsette og starte datamaskinen på nytt etterpå.</translation>
     </message>
     <message>
         <source>Tarnwell does the backup of the files on your computer to your server and keeps them the same in both places.</source>
@@ -1313,7 +1313,7 @@
     </message>
     <message>
         <source>October</source>
-        <translation>Oktober</translation>
+        <translation>oktober</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Close these programs and restart them afterwards</source>
-        <translation>Lukk disse programmene og start dem på nytt etterpå</translation>
+        <translation>Lukk disse programmene, og start dem på nytt etterpå</translation>
     </message>
     <message>
         <source>Checking the password...</source>
@@ -1473,7 +1473,7 @@
     </message>
     <message>
         <source>July</source>
-        <translation>Juli</translation>
+        <translation>juli</translation>
     </message>
     <message>
         <source>Click anywhere to begin.</source>
@@ -1589,7 +1589,7 @@
     </message>
     <message>
         <source>Thursday</source>
-        <translation>Torsdag</translation>
+        <translation>torsdag</translation>
     </message>
     <message>
         <source>OrvaneLink is unavailable right now. Try again later or enter the address of your Orvane Station instead.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>Tuesday</source>
-        <translation>Tirsdag</translation>
+        <translation>tirsdag</translation>
     </message>
     <message>
         <source>The sync package on the server is too old. Ask your administrator to update it to version %1 or later.</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>Monday</source>
-        <translation>Mandag</translation>
+        <translation>mandag</translation>
     </message>
     <message>
         <source>Your backup starts here</source>
@@ -1845,7 +1845,7 @@
     </message>
     <message>
         <source>April</source>
-        <translation>April</translation>
+        <translation>april</translation>
     </message>
     <message>
         <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
@@ -1953,15 +1953,15 @@
     </message>
     <message>
         <source>Wednesday</source>
-        <translation>Onsdag</translation>
+        <translation>onsdag</translation>
     </message>
     <message>
         <source>September</source>
-        <translation>September</translation>
+        <translation>september</translation>
     </message>
     <message>
         <source>You can sync up to %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Du kan synkronisere opptil %1 delte mapper. Slutt å synkronisere en av dem før du legger til en ny.</translation>
+        <translation>Antallet delte mapper du kan synkronisere, er begrenset til %1. Slutt å synkronisere en mappe før du legger til en ny.</translation>
     </message>
     <message>
         <source>Open containing folder</source>

@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
-        <translation>Nie udało się sprawdzić tej nazwy użytkownika. Upewnij się, że serwer jest osiągalny, i spróbuj ponownie.</translation>
+        <translation>Nie udało się sprawdzić tej nazwy użytkownika. Upewnij się, że serwer jest dostępny, i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>The Orvane Station with this OrvaneLink ID is offline. Make sure that it is turned on and connected to the internet.</source>
-        <translation>Orvane Station z tym OrvaneLink ID jest w trybie offline. Upewnij się, że urządzenie jest włączone i połączone z internetem.</translation>
+        <translation>Serwer Orvane Station z tym OrvaneLink ID jest w trybie offline. Upewnij się, że jest włączony i połączony z internetem.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
-        <translation>Nie udało się znaleźć serwera z powodu błędu systemu. Spróbuj ponownie lub zamiast tego wpisz adres serwera.</translation>
+        <translation>Nie udało się znaleźć serwera z powodu błędu systemu. Spróbuj ponownie lub wpisz adres serwera.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Pokazuj powiadomienia na biurku</translation>
+        <translation>Pokazuj powiadomienia na pulpicie</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Enter the OrvaneLink ID of your Orvane Station. Tarnwell connects to it through OrvaneLink, even when you are away.</source>
-        <translation>Wpisz OrvaneLink ID swojego Orvane Station. Tarnwell łączy się z nim przez OrvaneLink, nawet gdy jesteś daleko.</translation>
+        <translation>Wpisz OrvaneLink ID swojego serwera Orvane Station. Tarnwell łączy się z nim przez OrvaneLink, nawet gdy jesteś daleko.</translation>
     </message>
     <message>
         <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
-        <translation>Ten folder pokrywa się z folderem, który jest już synchronizowany. Wybierz folder, który nie leży ani wewnątrz niego, ani nad nim.</translation>
+        <translation>Ten folder pokrywa się z folderem, który jest już synchronizowany. Wybierz folder, który nie leży wewnątrz niego ani go nie zawiera.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
-        <translation>Instalator programu [ProductName] został anulowany przed zakończeniem. W komputerze nie wprowadzono żadnych zmian. Możesz uruchomić instalator ponownie w dowolnej chwili.</translation>
+        <translation>Praca instalatora programu [ProductName] została anulowana przed zakończeniem. W komputerze nie wprowadzono żadnych zmian. Możesz uruchomić instalator ponownie w dowolnej chwili.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
-        <translation>Pozostaw te programy otwarte (wymaga ponownego uruchomienia)</translation>
+        <translation>Nie zamykaj tych programów (konieczny restart komputera)</translation>
     </message>
     <message>
         <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
-        <translation>Ten folder możesz tylko odczytywać. Pliki będą pobierane, ale twoje zmiany nie będą wysyłane.</translation>
+        <translation>Masz do tego folderu dostęp tylko do odczytu. Pliki będą pobierane, ale twoje zmiany nie będą wysyłane.</translation>
     </message>
     <message>
         <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>Administrator wymaga weryfikacji dwuetapowej. Zaloguj się najpierw na serwerze w przeglądarce i włącz ją.</translation>
+        <translation>Administrator wymaga weryfikacji dwuetapowej. Najpierw zaloguj się na serwerze w przeglądarce i włącz tę weryfikację.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>No Orvane Station was found on your local network. Enter its address or its OrvaneLink ID instead.</source>
-        <translation>W sieci lokalnej nie znaleziono żadnego Orvane Station. Wpisz zamiast tego adres lub OrvaneLink ID.</translation>
+        <translation>W sieci lokalnej nie znaleziono żadnego serwera Orvane Station. Wpisz adres serwera lub jego OrvaneLink ID.</translation>
     </message>
     <message>
         <source>Welcome to the [ProductName] installer</source>
@@ -1593,7 +1593,7 @@
     </message>
     <message>
         <source>OrvaneLink is unavailable right now. Try again later or enter the address of your Orvane Station instead.</source>
-        <translation>OrvaneLink jest teraz niedostępny. Spróbuj ponownie później lub zamiast tego wpisz adres swojego Orvane Station.</translation>
+        <translation>OrvaneLink jest teraz niedostępny. Spróbuj ponownie później lub wpisz adres swojego serwera Orvane Station.</translation>
     </message>
     <message>
         <source>%1 minute(s) ago</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>Instalator został anulowany</translation>
+        <translation>Praca instalatora została anulowana</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1809,7 +1809,7 @@
     </message>
     <message>
         <source>Advanced setup wizard</source>
-        <translation>Zaawansowany asystent konfiguracji</translation>
+        <translation>Asystent konfiguracji zaawansowanej</translation>
     </message>
     <message>
         <source>Use a black and white tray icon</source>

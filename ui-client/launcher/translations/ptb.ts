@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Hora</translation>
+        <translation>Data e hora</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Choose another</source>
-        <translation>Escolher outra</translation>
+        <translation>Escolher outra opção</translation>
     </message>
     <message>
         <source>Find Orvane Station</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>Voltar %1 página(s)</translation>
+        <translation>Voltar %1 páginas</translation>
     </message>
     <message>
         <source>July</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Avançar %1 página(s)</translation>
+        <translation>Avançar %1 páginas</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>

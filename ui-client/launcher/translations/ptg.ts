@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Keep files on the server when they are deleted on this computer</source>
-        <translation>Manter os ficheiros no servidor quando são apagados neste computador</translation>
+        <translation>Manter os ficheiros no servidor quando forem apagados neste computador</translation>
     </message>
     <message>
         <source>Deleted</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Hora</translation>
+        <translation>Data e hora</translation>
     </message>
     <message>
         <source>Tray icon</source>
-        <translation>Área de notificação</translation>
+        <translation>Ícone de notificação</translation>
     </message>
     <message>
         <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>Don&apos;t show this message again</source>
-        <translation>Não mostrar esta mensagem novamente</translation>
+        <translation>Não voltar a mostrar esta mensagem</translation>
     </message>
     <message>
         <source>To use selective sync, update the sync package on the server first.</source>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>Go back in time</source>
-        <translation>Voltar atrás no tempo</translation>
+        <translation>Recuar no tempo</translation>
     </message>
     <message>
         <source>May</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
-        <translation>As pastas que desmarcar aqui serão removidas deste computador. Permanecem no servidor.</translation>
+        <translation>As pastas que desmarcar aqui serão removidas deste computador, mas permanecem no servidor.</translation>
     </message>
     <message>
         <source>The sync package on the server is too old.</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation>Falha na autenticação</translation>
+        <translation>Falha ao iniciar sessão</translation>
     </message>
     <message>
         <source>You are now connected to the server.</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1961,7 +1961,7 @@
     </message>
     <message>
         <source>You can sync up to %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Pode sincronizar até %1 pastas partilhadas. Pare de sincronizar uma delas antes de adicionar outra.</translation>
+        <translation>O limite de pastas partilhadas sincronizadas é %1. Pare de sincronizar uma delas antes de adicionar outra.</translation>
     </message>
     <message>
         <source>Open containing folder</source>

@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
-        <translation>Не удалось найти сервер из-за системной ошибки. Повторите попытку или введите вместо этого адрес сервера.</translation>
+        <translation>Не удалось найти сервер из-за системной ошибки. Повторите попытку или введите адрес сервера.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
-        <translation>Эту папку вы можете только читать. Файлы будут загружаться, но ваши изменения не будут выгружаться.</translation>
+        <translation>Эта папка доступна вам только для чтения. Файлы будут загружаться, но ваши изменения не будут выгружаться.</translation>
     </message>
     <message>
         <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
@@ -1069,7 +1069,7 @@
     </message>
     <message>
         <source>You have read-only permission for this folder, so nothing can be backed up to it. Choose a folder you can write to.</source>
-        <translation>У вас есть право только на чтение этой папки, поэтому сохранять в нее резервные копии нельзя. Выберите папку, в которую вы можете записывать.</translation>
+        <translation>У вас есть право только на чтение этой папки, поэтому сохранять в нее резервные копии нельзя. Выберите папку, доступную для записи.</translation>
     </message>
     <message>
         <source>Before you begin, make sure that your server is turned on.</source>
@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>Backing up %1 file(s)</source>
-        <translation>Резервное копирование, файлов: %1</translation>
+        <translation>Резервное копирование файлов: %1</translation>
     </message>
     <message>
         <source>The connection to the server was lost. Tarnwell will reconnect as soon as possible.</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>No Orvane Station was found on your local network. Enter its address or its OrvaneLink ID instead.</source>
-        <translation>В вашей локальной сети не найден сервер Orvane Station. Введите вместо этого его адрес или ID OrvaneLink.</translation>
+        <translation>В вашей локальной сети не найден сервер Orvane Station. Введите его адрес или ID OrvaneLink.</translation>
     </message>
     <message>
         <source>Welcome to the [ProductName] installer</source>
@@ -1593,7 +1593,7 @@
     </message>
     <message>
         <source>OrvaneLink is unavailable right now. Try again later or enter the address of your Orvane Station instead.</source>
-        <translation>Служба OrvaneLink сейчас недоступна. Повторите попытку позже или введите вместо этого адрес вашего сервера Orvane Station.</translation>
+        <translation>Служба OrvaneLink сейчас недоступна. Повторите попытку позже или введите адрес вашего сервера Orvane Station.</translation>
     </message>
     <message>
         <source>%1 minute(s) ago</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1693,7 +1693,7 @@
     </message>
     <message>
         <source>Connect to your server</source>
-        <translation>Подключитесь к вашему серверу</translation>
+        <translation>Подключитесь к своему серверу</translation>
     </message>
     <message>
         <source>Enter the server address and sign in with your account.</source>
@@ -1837,7 +1837,7 @@
     </message>
     <message>
         <source>Your backup starts here</source>
-        <translation>Ваша первая резервная копия</translation>
+        <translation>Резервное копирование начинается здесь</translation>
     </message>
     <message>
         <source>Value</source>

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Tid</translation>
+        <translation>Tidpunkt</translation>
     </message>
     <message>
         <source>Tray icon</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Enter the OrvaneLink ID of your Orvane Station. Tarnwell connects to it through OrvaneLink, even when you are away.</source>
-        <translation>Ange OrvaneLink-ID för din Orvane Station. Tarnwell ansluter till den via OrvaneLink, även när du är på annan plats.</translation>
+        <translation>Ange OrvaneLink-ID för din Orvane Station. Tarnwell ansluter till den via OrvaneLink, även när du är på en annan plats.</translation>
     </message>
     <message>
         <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>Koppla till en ny server</translation>
+        <translation>Koppla ytterligare en server</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>[ProductName] is already installed</source>
-        <translation>Du har redan installerat [ProductName]</translation>
+        <translation>[ProductName] finns redan på datorn</translation>
     </message>
     <message>
         <source>%1 item(s)</source>
@@ -1121,7 +1121,7 @@
     </message>
     <message>
         <source>Sync is on</source>
-        <translation>Synkronisering på</translation>
+        <translation>Synkroniseringen är på</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Backup</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
@@ -1893,7 +1893,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Nyckelord</translation>
+        <translation>Sökord</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -1961,7 +1961,7 @@
     </message>
     <message>
         <source>You can sync up to %1 shared folders. Stop syncing one of them before you add another.</source>
-        <translation>Du kan synkronisera högst så här många delade mappar: %1. Sluta synkronisera en av dem innan du lägger till en till.</translation>
+        <translation>Antalet delade mappar som du kan synkronisera är begränsat till %1. Sluta synkronisera en mapp innan du lägger till en till.</translation>
     </message>
     <message>
         <source>Open containing folder</source>

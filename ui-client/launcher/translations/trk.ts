@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
-        <translation>Bu klasör, eşzamanlanmakta olan bir klasörle iç içe. O klasörün içinde de üstünde de olmayan bir klasör seçin.</translation>
+        <translation>Bu klasör, eşzamanlanmakta olan bir klasörle iç içe. O klasörün içinde olmayan ve onu içermeyen bir klasör seçin.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Include these folders in sync again</source>
-        <translation>Bu klasörleri yeniden eşzamanlamaya dahil et</translation>
+        <translation>Bu klasörleri eşzamanlamaya yeniden dahil et</translation>
     </message>
     <message>
         <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Include this folder in sync again</source>
-        <translation>Bu klasörü yeniden eşzamanlamaya dahil et</translation>
+        <translation>Bu klasörü eşzamanlamaya yeniden dahil et</translation>
     </message>
     <message>
         <source>Repair</source>
@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>Folder shared with you</source>
-        <translation>Sizinle klasör paylaşıldı</translation>
+        <translation>Sizinle bir klasör paylaşıldı</translation>
     </message>
     <message>
         <source>When the tray icon is double-clicked</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>Tarnwell Backup</source>
-        <translation>Tarnwell Yedekleme</translation>
+        <translation>Orvane Tarnwell</translation>
     </message>
     <message>
         <source>Sync this folder</source>
