@@ -393,6 +393,46 @@ TEST_F(HeldRunTest, OfManyStartsAtOnceOneWorks) {
     EXPECT_EQ(logged("): extract package"), 1u);
 }
 
+TEST_F(RunTest, SpeaksTheUsersLanguage) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"en_US.UTF-8", "Tarnwell is initializing..."},
+        {"zh_TW.UTF-8", "Tarnwell 正在初始化…"},
+        {"zh_HK", "Tarnwell 正在初始化…"},
+        {"zh_CN", "Tarnwell 正在初始化…"},
+        {"ja_JP", "Tarnwellを初期化中…"},
+        {"de_CH", "Tarnwell wird initialisiert\u00A0…"},
+        {"ko_KR", "Tarnwell 초기화 중…"},
+        {"fr_FR", "Initialisation de Tarnwell…"},
+        {"it_IT", "Preparazione di Tarnwell…"},
+        {"es_ES", "Preparando Tarnwell…"},
+        {"pt_BR", "Inicializando o Tarnwell…"},
+        {"pt_PT", "A inicializar o Tarnwell…"},
+        {"ru_RU", "Инициализация Tarnwell…"},
+        {"da_DK", "Tarnwell klargøres…"},
+        {"nb_NO", "Tarnwell klargjøres\u00A0…"},
+        {"nn_NO", "Tarnwell klargjøres\u00A0…"},
+        {"sv_SE", "Tarnwell förbereds…"},
+        {"nl_NL", "Tarnwell wordt voorbereid…"},
+        {"pl_PL", "Inicjowanie programu Tarnwell…"},
+        {"hu_HU", "A Tarnwell előkészítése…"},
+        {"tr_TR", "Tarnwell hazırlanıyor…"},
+        {"cs_CZ", "Tarnwell se inicializuje…"},
+        {"el_GR", "Tarnwell is initializing..."},
+        {"C", "Tarnwell is initializing..."}};
+    const std::string plugin = installation_.bundle("Contents/Frameworks/plugins/generic");
+    MakeFolder(plugin);
+    fs::copy(WINDOW_READER, plugin);
+    const std::string seen = installation_.home() + "/window";
+    installation_.setEnvironment("QT_QPA_GENERIC_PLUGINS", "window-reader");
+    installation_.setEnvironment("WINDOW_READER_FILE", seen);
+    for (const auto& [locale, label] : cases) {
+        fs::remove_all(installation_.user());
+        installation_.setEnvironment("LANG", locale);
+        installation_.run();
+        EXPECT_EQ(ReadFile(seen), std::string("Orvane Tarnwell\n") + label) << locale;
+    }
+}
+
 TEST_F(RunTest, TheClientGetsTheUsersEnvironment) {
     installation_.setEnvironment("QT_QPA_PLATFORM_PLUGIN_PATH", "/somewhere");
     installation_.install("100");

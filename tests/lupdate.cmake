@@ -1,0 +1,8 @@
+# The tool that collects the texts must find just those that the catalogs hold. Works on a copy.
+file(COPY "${CATALOG}" DESTINATION "${CMAKE_CURRENT_BINARY_DIR}")
+get_filename_component(name "${CATALOG}" NAME)
+execute_process(COMMAND "${LUPDATE}" "${SOURCE_DIR}" -ts "${CMAKE_CURRENT_BINARY_DIR}/${name}"
+    OUTPUT_VARIABLE output ERROR_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+if(NOT output MATCHES "Found 496 source text\\(s\\) \\(0 new and 496 already existing\\)")
+    message(FATAL_ERROR "${output}")
+endif()
