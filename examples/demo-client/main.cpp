@@ -2,9 +2,7 @@
 // ~/.Tarnwell/ui.pid for the launcher, and ends when its window is closed or on SIGTERM.
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/file.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,47 +11,14 @@
 #include <QFile>
 #include <QLabel>
 #include <QSettings>
-#include <QSocketNotifier>
 #include <QVBoxLayout>
 #include <QWidget>
 #include <cerrno>
 #include <cstring>
 
+#include "lib/platform/quit-on-signal.h"
+
 namespace {
-
-int g_signal_pipe[2];
-
-void OnSignal(int) {
-    const int saved_errno = errno;
-    const char byte = 0;
-    static_cast<void>(write(g_signal_pipe[1], &byte, 1) == 1);  // a full one wakes us as well
-    errno = saved_errno;
-}
-
-// Turns SIGTERM and SIGINT into a regular end of the event loop.
-class QuitOnSignal {
-  public:
-    QuitOnSignal() : notifier_(openPipe(), QSocketNotifier::Read) {
-        QObject::connect(&notifier_, &QSocketNotifier::activated, qApp,
-                         [] { QCoreApplication::quit(); });
-        struct sigaction action = {};
-        action.sa_handler = OnSignal;
-        action.sa_flags = SA_RESTART;
-        sigaction(SIGTERM, &action, nullptr);
-        sigaction(SIGINT, &action, nullptr);
-    }
-
-  private:
-    static int openPipe() {
-        if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0, g_signal_pipe) !=
-            0) {
-            qFatal("socketpair failed");
-        }
-        return g_signal_pipe[0];
-    }
-
-    QSocketNotifier notifier_;
-};
 
 // The pid file, there as long as the object lives. Its lock, which the kernel drops with the
 // process, keeps a second client from running beside the first.
@@ -123,7 +88,7 @@ QString VersionText() {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    const QuitOnSignal quit_on_signal;
+    platform::QuitOnSignal();
     const PidFile pid_file;
     if (pid_file.runningElsewhere()) {
         return 0;

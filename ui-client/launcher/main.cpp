@@ -11,6 +11,7 @@
 #include "lib/liblogger/log.h"
 #include "lib/platform/QtSingleApplication.h"
 #include "lib/platform/executable-path.h"
+#include "lib/platform/quit-on-signal.h"
 #include "libcommon/OrvLocale.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/tarnwell-service.h"
@@ -106,6 +107,7 @@ int main(int argc, char** argv) {
         QCoreApplication::installTranslator(&translator);
     }
     StrTable::InitStrTable();
+    platform::QuitOnSignal();  // an upgrade that has begun is finished first
 
     Launcher* const launcher = new Launcher;
     launcher->Run();

@@ -3,20 +3,22 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <vector>
 
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
+#include "lib/platform/durability.h"
 #include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/upgrade-journal.h"
 
 #define LOG_SOURCE "tarnwell-service"
 
 namespace {
 
 const ustring log_component("service_debug");
-
-const int kMaxBackups = 10;
 
 ustring FromQt(const QString& text) {
     return ustring(text.toUtf8().constData());
@@ -38,43 +40,75 @@ void LoadVersion(const ustring& path, VerInfo& version) {
     LoadField(settings, "icon_overlay_version", version.icon_overlay_version);
 }
 
-// The name under which the application folder is moved aside at attempt n (0 to 9).
-ustring GetAppBackupDir(ustring const& app, int n) {
-    ustring backup = app + "_tmp";
-    if (n == 0) {
-        return backup;
-    }
-    char postfix[8];
-    if (std::snprintf(postfix, sizeof postfix, "%d", n) < 0) {
-        LOG_MSG(ERROR, "snprintf failed (continuing without postfix)");
-        postfix[0] = 0;
-    }
-    return backup += postfix;
-}
-
-// Moves the application folder aside. Returns the number of the attempt that succeeded, or -1.
-int MoveAside(ustring const& app, ustring& backup) {
-    for (int n = 0; n < kMaxBackups; ++n) {
-        backup = GetAppBackupDir(app, n);
-        if (FSRename(app, backup, false) == 0) {
+// Moves the application folder aside, each attempt announced in the journal, and keeps in record
+// where it went. Returns the number of the attempt that succeeded, or -1.
+int MoveAside(ustring const& app, const UpgradeJournal& journal, UpgradeJournal::Record& record) {
+    record.object = UpgradeJournal::Identify(app);
+    for (int n = 0; n < kMaxAppBackups; ++n) {
+        record.backup = GetAppBackupDir(app, n);
+        journal.write(record);  // without a record the upgrade goes on, only less protected
+        if (FSRename(app, record.backup, false) == 0) {
+            const ustring object = UpgradeJournal::Identify(record.backup);
+            if (object != record.object) {
+                record.object = object;  // it was copied, not renamed
+                journal.write(record);
+            }
             return n;
         }
-        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app.c_str(), backup.c_str());
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app.c_str(),
+                record.backup.c_str());
     }
     LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
-            backup.c_str());
+            record.backup.c_str());
     return -1;
 }
 
-// After a failed extraction: puts the old installation back, if there was one.
-void RollBack(ustring const& app, ustring const& backup) {
-    if (backup.empty()) {
+// Puts the old application back in the place of what an unfinished upgrade has left there.
+int PutBack(ustring const& app, ustring const& backup) {
+    FSRemove(app, false);
+    // A rename keeps everything; the move that follows only where it is impossible doesn't.
+    return std::rename(backup.c_str(), app.c_str()) == 0 ? 0 : FSRename(backup, app, false);
+}
+
+// After a failed extraction: puts the old installation back, if there was one. As long as the
+// journal holds the record, the next run knows that this one hasn't got to the end.
+void RollBack(ustring const& app, const UpgradeJournal& journal,
+              const UpgradeJournal::Record& record) {
+    if (record.backup.empty()) {
         LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
         return;
     }
     LOG_MSG(ERROR, "Failed to extract package, rollback to old installation\n");
-    FSRemove(app, false);
-    FSRename(backup, app, false);  // there is nothing left to try when it fails
+    if (PutBack(app, record.backup) == 0) {
+        journal.remove();
+    }
+}
+
+// Makes the unpacked application outlast a power cut.
+int SyncApp(ustring const& app) {
+    const int result = platform::SyncVolume(app.c_str());
+    if (result != 0) {
+        LOG_MSG(ERROR, "failed to put '%s' on the disk: %s (%d)\n", app.c_str(), strerror(errno),
+                errno);
+    }
+    return result;
+}
+
+// Removes the backups of attempts 0 to last, and then the record, which up to now says that they
+// are no longer needed.
+void RemoveBackups(ustring const& app, int last, const UpgradeJournal& journal) {
+    for (int n = 0; n <= last; ++n) {
+        FSRemove(GetAppBackupDir(app, n), false);  // what can't be removed is tried again next time
+    }
+    journal.remove();
+}
+
+int AttemptOf(ustring const& app, ustring const& backup) {
+    int n = 0;
+    while (n < kMaxAppBackups - 1 && GetAppBackupDir(app, n) != backup) {
+        ++n;
+    }
+    return n;
 }
 
 // Whether a copy of the folder at path would be made inside it: whether the deepest folder that
@@ -208,23 +242,60 @@ void Service::LoadTargetVersion() {
 
 int Service::PrepareUserEnv() {
     const ustring app = user_app_path;
-    ustring backup;
+    const UpgradeJournal journal(app);
+    UpgradeJournal::Record record;
     int attempt = 0;
     if (IsFileExist(app, false)) {
-        attempt = MoveAside(app, backup);
+        attempt = MoveAside(app, journal, record);
         if (attempt < 0) {
+            journal.remove();
             return -1;
         }
+    } else if (UpgradeJournal::Identify(app).empty()) {
+        journal.write(record);
     }
-    if (ExtractPackage() != 0) {
-        RollBack(app, backup);
+    if (ExtractPackage() != 0 || SyncApp(app) != 0) {
+        RollBack(app, journal, record);
         return -1;
     }
+    record.state = UpgradeJournal::Installed;
+    journal.write(record);
     LOG_MSG(INFO, "user installation is ready, removing backup app\n");
-    for (int n = 0; n <= attempt; ++n) {
-        FSRemove(GetAppBackupDir(app, n), false);  // what can't be removed is tried again next time
-    }
+    RemoveBackups(app, attempt, journal);
     return 0;
+}
+
+void Service::FinishCutOffUpgrade() {
+    const ustring app = user_app_path;
+    const UpgradeJournal journal(app);
+    UpgradeJournal::Record record;
+    const UpgradeJournal::Finding finding = journal.read(record);
+    if (finding == UpgradeJournal::None) {
+        return;
+    }
+    if (finding == UpgradeJournal::Damaged) {
+        LOG_MSG(WARNING, "removing '%s', which is no record of an upgrade\n",
+                journal.path().c_str());
+    } else if (record.state == UpgradeJournal::Installed) {
+        LOG_MSG(WARNING, "an upgrade was cut off after its end, removing backup app\n");
+        RemoveBackups(app, record.backup.empty() ? 0 : AttemptOf(app, record.backup), journal);
+        return;
+    } else if (record.backup.empty()) {
+        LOG_MSG(WARNING, "a first installation was cut off, removing '%s'\n", app.c_str());
+        if (FSRemove(app, false) != 0) {
+            return;
+        }
+    } else if (UpgradeJournal::Identify(record.backup) == record.object) {
+        LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
+                record.backup.c_str());
+        if (PutBack(app, record.backup) != 0) {
+            LOG_MSG(ERROR, "failed to put '%s' back\n", record.backup.c_str());
+            return;
+        }
+    } else {
+        LOG_MSG(WARNING, "an upgrade was cut off before it moved anything\n");
+    }
+    journal.remove();
 }
 
 void Service::RemoveAgedFolders() {

@@ -44,6 +44,10 @@ class Service {
     // place, else -1.
     virtual int PrepareUserEnv();
 
+    // Undoes or finishes an upgrade that an earlier run could not, as the journal tells; without a
+    // record it does nothing. Must run before anything looks at the per-user application.
+    void FinishCutOffUpgrade();
+
     // Removes the application folder of an older layout, if it is there.
     void RemoveAgedFolders();
 

@@ -13,6 +13,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/open-bundle.h"
+#include "lib/platform/process-info.h"
 
 #define LOG_SOURCE "mac/mac-service"
 
@@ -21,7 +22,12 @@ namespace {
 const ustring log_component("service_debug");
 
 const int kTimeout = 10000;
-const int kProbes = 5;  // one a second, before SIGKILL
+const int kProbes = 5;              // one a second, before SIGKILL
+const std::time_t kStartGrace = 5;  // seconds by which the clocks of files and processes may differ
+
+ustring ClientPath(const ustring& app) {
+    return app + "/" + "Contents/MacOS" + "/" + "tarnwell-ui";
+}
 
 int BuildNumber(const VerInfo& version) {
     return version.build_version.empty() ? 0 : std::atoi(version.build_version.c_str());
@@ -38,6 +44,18 @@ pid_t ClientPid(const std::map<ustring, ustring>& entries, const ustring& pid_fi
         return -1;
     }
     return static_cast<pid_t>(pid);
+}
+
+// Whether the process can't be the one that wrote the pid file: it was started after that, and it
+// isn't the client. Its id was given to it when the client's was free again. In doubt it may be.
+bool IsAnother(pid_t pid, const ustring& pid_file, ustring client) {
+    platform::ProcessInfo process;
+    _FILE_INFO_tag file;
+    if (!platform::DescribeProcess(pid, process) || GetFileInfo(pid_file, file) != 0 ||
+        FSGetRealPath(client) != 0) {
+        return false;
+    }
+    return process.started > file.mtime + kStartGrace && process.executable != client.c_str();
 }
 
 bool IsGone(pid_t pid) {
@@ -73,6 +91,7 @@ MacService* MacService::GetInstace() {
 }
 
 void MacService::PreUpgrade() {
+    FinishCutOffUpgrade();
     Service::LoadTargetVersion();
     Service::LoadSourceVersion();
     LOG_MSG_AT(74, DEBUG, "Source version: ('%s', '%s')\n", source_version.build_version.c_str(),
@@ -109,7 +128,7 @@ void MacService::StopService() {
         return;
     }
     const pid_t pid = ClientPid(config.entries, pid_file);
-    if (pid > 0) {
+    if (pid > 0 && !IsAnother(pid, pid_file, ClientPath(user_app_path))) {
         EndProcess(pid);
     }
 }
@@ -121,8 +140,7 @@ void MacService::PostUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
-    const ustring path = user_app_path + "/" + "Contents/MacOS" + "/" + "tarnwell-ui";
-    return access(path.c_str_utf8(), F_OK) == 0;
+    return access(ClientPath(user_app_path).c_str_utf8(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin() {

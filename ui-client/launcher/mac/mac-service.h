@@ -15,7 +15,8 @@ class MacService : public Service {
     void StopService() override;
     int HandlePackageUpgrade() override;
     void PostUpgrade() override;  // starts the per-user application
-    void PreUpgrade() override;   // loads and logs both versions
+    // Finishes what an earlier run was cut off in, then loads and logs both versions.
+    void PreUpgrade() override;
     // True when no client is installed, or when the target's build number is the greater one.
     bool IsNeedUpgrade() override;
 
