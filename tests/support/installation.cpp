@@ -141,6 +141,10 @@ void Installation::setEnvironment(const std::string& name, const std::string& va
     environment_[name] = value;
 }
 
+void Installation::unsetEnvironment(const std::string& name) {
+    environment_.erase(name);
+}
+
 void Installation::runAsNobody() {
     if (geteuid() != 0) {
         return;
@@ -163,7 +167,7 @@ void Installation::startAs(const std::string& name) {
     started_as_ = name;
 }
 
-pid_t Installation::start() {
+pid_t Installation::start(void (*before_exec)()) {
     const std::string program = bundle("Contents/MacOS/tarnwell-launcher");
     const std::string out = folder_ / "out";
     const std::string err = folder_ / "err";
@@ -183,6 +187,9 @@ pid_t Installation::start() {
         dup2(open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDERR_FILENO);
         if (nobody_ && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
             _exit(126);
+        }
+        if (before_exec != nullptr) {
+            before_exec();
         }
         const std::string& name = started_as_.empty() ? program : started_as_;
         char* const arguments[] = {const_cast<char*>(name.c_str()), nullptr};

@@ -47,6 +47,7 @@ class Installation {
 
     // Started with the environment of a user who has set nothing but what is given.
     void setEnvironment(const std::string& name, const std::string& value);
+    void unsetEnvironment(const std::string& name);
     void runAsNobody();  // from now on, when we are root
     // Moves the bundle to a folder of this name beside the home folder, and starts it by this name
     // of its executable instead of its path.
@@ -61,8 +62,8 @@ class Installation {
     };
     // Runs the launcher to its end and checks what holds for every run: the exit code is 0.
     Result run();
-    // Starts it and returns at once.
-    pid_t start();
+    // Starts it and returns at once; the new process calls before_exec first.
+    pid_t start(void (*before_exec)() = nullptr);
     static int wait(pid_t pid);
 
     bool clientStarted();  // since the last call; waits for it

@@ -1,0 +1,381 @@
+// That no upgrade can be cut off or fail so that the user is left without an application. Each
+// sweep counts the file-changing system calls N of a run and breaks every one of them in turn, or
+// every PROVE_STRIDE-th (10 unless the environment says otherwise). scripts/prove breaks all.
+
+#include <fcntl.h>
+#include <sched.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+
+#include "tests/support/installation.h"
+#include "tests/support/traced-run.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+int Stride() {
+    const char* const stride = getenv("PROVE_STRIDE");
+    return stride != nullptr ? std::max(1, atoi(stride)) : 10;
+}
+
+// What would be found below a folder after a power cut. Only what was put on the disk is certain;
+// the rest is lost, or is there without its content.
+class Disk {
+  public:
+    explicit Disk(const std::string& root) : root_(root) { syncAll(); }
+
+    void sync(const std::string& path) {
+        struct stat status;
+        if (path.empty()) {
+            syncAll();
+        } else if (lstat(path.c_str(), &status) == 0) {
+            syncObject(path, status);
+        }
+    }
+
+    // Replaces the folder by what is on the disk alone.
+    void loseTheRest() {
+        const std::string found = root_ + ".found";
+        fs::create_directory(found);
+        struct stat status;
+        lstat(root_.c_str(), &status);
+        restore(status.st_ino, found);
+        adopt(found);
+    }
+
+    // Replaces the folder by one in which whatever isn't on the disk is there, but empty.
+    void emptyTheRest() {
+        for (const auto& entry : fs::recursive_directory_iterator(root_)) {
+            struct stat status;
+            lstat(entry.path().c_str(), &status);
+            if (!S_ISREG(status.st_mode)) {
+                continue;
+            }
+            const auto known = files_.find(status.st_ino);
+            MakeFile(entry.path(), known != files_.end() ? known->second.content : "",
+                     status.st_mode & 07777);
+        }
+    }
+
+  private:
+    struct File {
+        std::string content;
+        mode_t mode;
+    };
+    struct Entry {
+        ino_t object;
+        mode_t type;
+        std::string target;  // of a link
+    };
+
+    void syncObject(const std::string& path, const struct stat& status) {
+        if (S_ISREG(status.st_mode)) {
+            files_[status.st_ino] = {ReadFile(path), status.st_mode & 07777};
+        } else if (S_ISDIR(status.st_mode)) {
+            std::map<std::string, Entry>& entries = folders_[status.st_ino];
+            entries.clear();
+            for (const auto& entry : fs::directory_iterator(path)) {
+                struct stat child;
+                lstat(entry.path().c_str(), &child);
+                entries[entry.path().filename()] = {
+                    child.st_ino, child.st_mode,
+                    entry.is_symlink() ? fs::read_symlink(entry.path()).string() : ""};
+            }
+        }
+    }
+
+    void syncAll() {
+        sync(root_);
+        for (const auto& entry : fs::recursive_directory_iterator(root_)) {
+            sync(entry.path());
+        }
+    }
+
+    void restore(ino_t folder, const std::string& to) {
+        for (const auto& [name, entry] : folders_[folder]) {
+            const std::string path = to + "/" + name;
+            if (S_ISLNK(entry.type)) {
+                fs::create_symlink(entry.target, path);
+            } else if (S_ISDIR(entry.type)) {
+                fs::create_directory(path);
+                restored_[entry.object] = name;
+                restore(entry.object, path);
+            } else if (files_.count(entry.object) != 0) {
+                MakeFile(path, files_[entry.object].content, files_[entry.object].mode);
+            }
+        }
+    }
+
+    // Restoring has given the folders new inodes; the journal must go on naming the same ones.
+    void adopt(const std::string& found) {
+        fs::remove_all(root_);
+        fs::rename(found, root_);
+        std::string journal = ReadFile(root_ + "/upgrade.journal");
+        const std::size_t begin = journal.find("object='");
+        if (begin == std::string::npos) {
+            return;
+        }
+        const std::size_t dash = journal.find('-', begin);
+        const auto name = restored_.find(strtoul(journal.c_str() + dash + 1, nullptr, 10));
+        struct stat status;
+        if (dash != std::string::npos && name != restored_.end() &&
+            lstat((root_ + "/" + name->second).c_str(), &status) == 0) {
+            journal.erase(dash + 1);
+            MakeFile(root_ + "/upgrade.journal", journal + std::to_string(status.st_ino) + "'\n");
+        }
+    }
+
+    const std::string root_;
+    std::map<ino_t, File> files_;
+    std::map<ino_t, std::map<std::string, Entry>> folders_;
+    std::map<ino_t, std::string> restored_;
+};
+
+class ProveTest : public testing::Test {
+  protected:
+    enum Start { Upgrade, Install, Rollback };
+
+    ~ProveTest() override {
+        std::printf("N = %d file-changing system calls, %d runs broken, %d bad ends\n", calls_,
+                    broken_, bad_ends_);
+    }
+
+    // The state before each run: an old application or none, and a good package or a damaged one.
+    void arrange(Start start) {
+        fs::remove_all(installation_.user());
+        MakeFolder(installation_.user("log"));
+        if (start != Install) {
+            installation_.install("99");
+            MakeFile(installation_.app("tool"), "#!/bin/sh\n", 0755);
+            MakeLink("tool", installation_.app("link"));
+            old_ = Tree(installation_.app());
+        }
+    }
+    void damagePackage() {
+        installation_.setBuild("100", "tar.gz");
+        fs::resize_file(installation_.package(), fs::file_size(installation_.package()) / 2);
+    }
+
+    TracedRun traced(int fault_at = 0, int error = 0, Disk* disk = nullptr,
+                     const std::function<void(pid_t)>& interfere = nullptr) {
+        TracedRun run;
+        run.fault_at = fault_at;
+        run.error = error;
+        run.interfere = interfere;
+        if (disk != nullptr) {
+            run.on_sync = [this, disk](const std::string& path) {
+                if (path.empty() ||
+                    path.compare(0, installation_.user().size(), installation_.user()) == 0) {
+                    disk->sync(path);
+                }
+            };
+        }
+        run.follow(installation_.start(BeTraced));
+        return run;
+    }
+    int countCalls(Start start) {
+        arrange(start);
+        const TracedRun run = traced();
+        EXPECT_EQ(run.end, 0);
+        EXPECT_GT(run.calls, 20);
+        return calls_ = run.calls;
+    }
+
+    bool isNew() const { return isApp(installation_.app(), installation_.expectedApp("100")); }
+    bool isOld() const { return isApp(installation_.app(), old_); }
+    static bool isApp(const std::string& path, const FileTree& tree) {
+        return Exists(path) && Tree(path) == tree;
+    }
+    // Whether the next run finds the old application, where it was or aside, or the new one.
+    bool isSafe() const {
+        bool safe = isNew() || isOld();
+        for (const char* const aside : {"Tarnwell.app_tmp", "Tarnwell.app_tmp1"}) {
+            safe |= isApp(installation_.user(aside), old_);
+        }
+        return safe;
+    }
+
+    void check(bool good, const std::string& what) {
+        bad_ends_ += !good;
+        EXPECT_TRUE(good) << what << "\n" << ReadFile(installation_.user("log/launcher.log"));
+    }
+    // After a cut: nothing is lost, and the next run comes to the right end.
+    void checkRecovery(Start start, const std::string& what) {
+        ++broken_;
+        check(start == Install || isSafe(), what + ": nothing whole is left");
+        installation_.run();
+        check(start == Rollback ? isOld() : isNew(), what + ": wrong end");
+        check(!Exists(installation_.user("upgrade.journal")) || start == Rollback,
+              what + ": the record is left");
+    }
+
+    void sweepKills(Start start) {
+        const int calls = countCalls(start);
+        for (int k = 1; k <= calls; k += Stride()) {
+            arrange(start);
+            check(traced(k).end == 1000 + SIGKILL, "not killed");
+            checkRecovery(start, "killed at call " + std::to_string(k));
+        }
+    }
+
+    Installation installation_;
+    FileTree old_;
+    int calls_ = 0;
+    int broken_ = 0;
+    int bad_ends_ = 0;
+};
+
+TEST_F(ProveTest, AKilledUpgrade) {
+    sweepKills(Upgrade);
+}
+
+TEST_F(ProveTest, AKilledInstallation) {
+    sweepKills(Install);
+}
+
+TEST_F(ProveTest, AKilledRollback) {
+    damagePackage();
+    sweepKills(Rollback);
+}
+
+TEST_F(ProveTest, AnUpgradeKilledTwice) {
+    const int calls = countCalls(Upgrade);
+    for (int k = 1; k <= calls; k += Stride()) {
+        for (int again = 1;; again += Stride()) {
+            arrange(Upgrade);
+            traced(k);
+            if (traced(again).end == 0) {
+                check(isNew(), "undisturbed second run");
+                break;
+            }
+            checkRecovery(Upgrade, "killed at call " + std::to_string(k) + " and then at " +
+                                       std::to_string(again));
+        }
+    }
+}
+
+TEST_F(ProveTest, CallsThatFail) {
+    for (const Start start : {Upgrade, Rollback}) {
+        if (start == Rollback) {
+            damagePackage();
+        }
+        const int calls = countCalls(start);
+        for (const int error : {EIO, ENOSPC, EACCES, EXDEV}) {
+            for (int k = 1; k <= calls; k += Stride()) {
+                arrange(start);
+                const TracedRun run = traced(k, error);
+                const std::string what =
+                    std::string(strerror(error)) + " at call " + std::to_string(k);
+                ++broken_;
+                check(run.end == 0, what + ": exit code");
+                check(isOld() || isNew(), what + ": neither the old nor the new application");
+            }
+        }
+    }
+}
+
+TEST_F(ProveTest, APowerCut) {
+    const int calls = countCalls(Upgrade);
+    for (const bool lost : {true, false}) {
+        for (int k = 1; k <= calls; k += Stride()) {
+            arrange(Upgrade);
+            Disk disk(installation_.user());
+            traced(k, 0, &disk);
+            lost ? disk.loseTheRest() : disk.emptyTheRest();
+            checkRecovery(Upgrade,
+                          std::string(lost ? "lost" : "emptied") + " at call " + std::to_string(k));
+        }
+    }
+}
+
+TEST_F(ProveTest, SignalsDuringAnUpgrade) {
+    const int calls = countCalls(Upgrade);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        for (int k = calls / 3; k <= calls; k += Stride()) {
+            arrange(Upgrade);
+            const auto send = [signal](pid_t pid) { kill(pid, signal); };
+            const int end = traced(k, 0, nullptr, send).end;
+            ++broken_;
+            check(end == 0 && isNew(),
+                  std::string(strsignal(signal)) + " at call " + std::to_string(k));
+        }
+    }
+}
+
+TEST_F(ProveTest, TheHomeGoesAway) {
+    const int calls = countCalls(Upgrade);
+    const std::function<void(pid_t)> harms[] = {
+        [this](pid_t) { fs::remove_all(installation_.user()); },
+        [this](pid_t) { fs::rename(installation_.user(), installation_.home() + "/elsewhere"); },
+        [this](pid_t) {
+            fs::remove_all(installation_.user());
+            MakeFile(installation_.user(), "a file in its place");
+        }};
+    for (const auto& harm : harms) {
+        for (int k = 1; k <= calls; k += Stride()) {
+            arrange(Upgrade);
+            ++broken_;
+            check(traced(k, 0, nullptr, harm).end == 0, "at call " + std::to_string(k));
+            fs::remove_all(installation_.home() + "/elsewhere");
+            fs::remove_all(installation_.user());
+            installation_.run();
+            check(isNew(), "the next run");
+        }
+    }
+}
+
+TEST_F(ProveTest, ADiskThatFillsUp) {
+    if (unshare(CLONE_NEWNS) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
+        GTEST_SKIP() << "this user may not mount a small disk: " << strerror(errno);
+    }
+    ASSERT_EQ(mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+    ASSERT_EQ(mount("none", installation_.home().c_str(), "tmpfs", 0, "size=1m"), 0);
+    const std::string filler = installation_.home() + "/filler";
+    const auto fill = [&](pid_t) {
+        const int fd = open(filler.c_str(), O_WRONLY | O_CREAT, 0644);
+        const std::string block(4096, 'f');
+        while (write(fd, block.data(), block.size()) > 0) {
+        }
+        close(fd);
+    };
+    const int calls = countCalls(Upgrade);
+    for (int k = 1; k <= calls; k += Stride()) {
+        arrange(Upgrade);
+        const int end = traced(k, 0, nullptr, fill).end;
+        check(end == 0 && (isOld() || isNew()), "full at call " + std::to_string(k));
+        fs::remove(filler);
+        checkRecovery(Upgrade, "full at call " + std::to_string(k));
+    }
+    umount(installation_.home().c_str());
+}
+
+TEST_F(ProveTest, AThousandRandomKillsLeaveNothing) {
+    const unsigned calls = static_cast<unsigned>(countCalls(Upgrade));
+    std::mt19937 random(1);
+    arrange(Upgrade);
+    for (int i = 0; i < 1000; i += Stride()) {
+        const std::string version = installation_.app("Contents/Resources/INFO");
+        if (Exists(version)) {
+            MakeFile(version, "[Version]\nbuild_version=1\n");  // there is always something to do
+        }
+        traced(1 + static_cast<int>(random() % calls));
+        ++broken_;
+    }
+    installation_.run();
+    check(isNew(), "the end");
+    for (const auto& entry : fs::directory_iterator(installation_.user())) {
+        const std::string name = entry.path().filename();
+        check(name == "log" || name == "Tarnwell.app" || name == "Tarnwell.app_tmp",
+              name + " is left");
+    }
+}
+
+}  // namespace
