@@ -157,11 +157,9 @@ TEST_F(FileOpTest, CopiesBytes) {
 
 TEST_F(FileOpTest, SaysWhyItCannotCopy) {
     const std::string missing = folder_ / "missing";
-    EXPECT_EQ(LinesWith(CaptureStderr(
-                            [&] { EXPECT_EQ(FSCopy(U(missing), U(folder_ / "dst"), false), -1); }),
-                        "CopyFile: open(" + missing + "): No such file or directory (2)")
-                  .size(),
-              1u);
+    EXPECT_TRUE(HasOneLine(
+        CaptureStderr([&] { EXPECT_EQ(FSCopy(U(missing), U(folder_ / "dst"), false), -1); }),
+        "CopyFile: open(" + missing + "): No such file or directory (2)"));
     EXPECT_FALSE(Exists(folder_ / "dst"));
     EXPECT_EQ(FSCopy(U(kinds_ / "file"), U(folder_ / "no/dst"), false), -1);
     EXPECT_EQ(FSCopy(U(kinds_.path()), U(folder_ / "dst"), false), -1);
@@ -245,8 +243,7 @@ TEST_F(FileOpTest, AMoveAcrossVolumesStopsAtTheFirstFailure) {
     MakeFile(other_volume_ / "tree/name", "a file where a folder goes");
     const std::string log = CaptureStderr(
         [&] { EXPECT_EQ(FSRename(U(folder_ / "tree"), U(other_volume_ / "tree"), false), -3); });
-    EXPECT_EQ(LinesWith(log, "is not directory '" + other_volume_ / "tree/name" + "' (1)").size(),
-              1u)
+    EXPECT_TRUE(HasOneLine(log, "is not directory '" + other_volume_ / "tree/name" + "' (1)"))
         << log;
     EXPECT_TRUE(Exists(folder_ / "tree/name/file"));
 }
@@ -263,12 +260,10 @@ TEST_F(FileOpTest, MakesFolders) {
         EXPECT_EQ(FSMKDir(U(kinds_ / "file"), true), -1);
         EXPECT_EQ(FSMKDir(U(kinds_ / "file/below"), true), -1);
     });
-    EXPECT_EQ(LinesWith(log, "FSMKDir: Create a folder but local file system is not directory '" +
-                                 kinds_ / "file" + "' (1)")
-                  .size(),
-              1u);
-    EXPECT_EQ(LinesWith(log, "FSMKDir: Failed to to file info '" + kinds_ / "file/below'").size(),
-              1u);
+    EXPECT_TRUE(
+        HasOneLine(log, "FSMKDir: Create a folder but local file system is not directory '" +
+                            kinds_ / "file" + "' (1)"));
+    EXPECT_TRUE(HasOneLine(log, "FSMKDir: Failed to to file info '" + kinds_ / "file/below'"));
 }
 
 TEST_F(FileOpTest, MakesFoldersStepByStep) {
@@ -467,13 +462,10 @@ TEST_F(FileOpTest, KnowsVolumes) {
         EXPECT_FALSE(isMountPoint("/nowhere"));
         EXPECT_FALSE(IsMSDOS("/nowhere"));
     });
-    EXPECT_EQ(
-        LinesWith(log, "isMountPoint: Failed to get file system info '/nowhere'. No such").size(),
-        1u);
-    EXPECT_EQ(
-        LinesWith(log, "IsSupportLargeFile: Failed to get file system info '/nowhere'. No such")
-            .size(),
-        1u);
+    EXPECT_TRUE(
+        HasOneLine(log, "isMountPoint: Failed to get file system info '/nowhere'. No such"));
+    EXPECT_TRUE(
+        HasOneLine(log, "IsSupportLargeFile: Failed to get file system info '/nowhere'. No such"));
 }
 
 }  // namespace

@@ -69,7 +69,7 @@ TEST_F(LogTest, ThresholdsComeFromTheLevelFile) {
     const std::string text = ReadFile(log_);
     EXPECT_EQ(LinesWith(text, "").size(), 3u) << text;
     for (const char* const shown : {"): info", "warning", "default"}) {
-        EXPECT_EQ(LinesWith(text, shown).size(), 1u) << shown;
+        EXPECT_TRUE(HasOneLine(text, shown)) << shown;
     }
 }
 
@@ -102,8 +102,7 @@ TEST_F(LogTest, WritesToTheSystemLog) {
 TEST_F(LogTest, AFileThatCannotBeOpenedLeavesStandardError) {
     for (const std::string& path : {std::string(), folder_ / "missing/test.log"}) {
         EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, path.c_str(), "", 50), -1);
-        EXPECT_EQ(LinesWith(CaptureStderr([] { LOG_MSG(ERROR, "still here\n"); }), "still").size(),
-                  1u);
+        EXPECT_TRUE(HasOneLine(CaptureStderr([] { LOG_MSG(ERROR, "still here\n"); }), "still"));
     }
 }
 
@@ -114,8 +113,8 @@ TEST_F(LogTest, DestroyGoesBackToStandardOutput) {
     Logger::Destroy();
     testing::internal::CaptureStdout();
     LOG_MSG(ERROR, "to out\n");
-    EXPECT_EQ(LinesWith(testing::internal::GetCapturedStdout(), "to out").size(), 1u);
-    EXPECT_EQ(LinesWith(ReadFile(log_), "").size(), 1u);
+    EXPECT_TRUE(HasOneLine(testing::internal::GetCapturedStdout(), "to out"));
+    EXPECT_TRUE(HasOneLine(ReadFile(log_), ""));
 }
 
 TEST_F(LogTest, TakesAnArgumentList) {

@@ -160,8 +160,9 @@ class ProveTest : public testing::Test {
         }
     }
     void damagePackage() {
-        installation_.setBuild("100", "tar.gz");
-        fs::resize_file(installation_.package(), fs::file_size(installation_.package()) / 2);
+        installation_.setBuild("100", "tar");
+        const std::string package = ReadFile(installation_.package());
+        fs::resize_file(installation_.package(), package.find("Contents/MacOS/tarnwell-ui") + 100);
     }
 
     TracedRun traced(int fault_at = 0, int error = 0, Disk* disk = nullptr,

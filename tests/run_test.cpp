@@ -207,6 +207,82 @@ TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
                                                 "' does not exist, no need to terminate"));
 }
 
+TEST_F(RunTest, AProcessThatTookTheClientsIdIsLeftAlone) {
+    const auto write_pid_file_long_before = [this](const Client& client) {
+        installation_.setClientPid(PidFile(client.pid()));
+        fs::last_write_time(installation_.user("ui.pid"),
+                            fs::file_time_type::clock::now() - std::chrono::hours(1));
+    };
+    installation_.install("99");
+    const Client another(Client::EndsAtOnce);
+    write_pid_file_long_before(another);
+    installation_.run();
+    EXPECT_TRUE(another.running());
+    expectBuild("100");
+
+    installation_.install("99");
+    fs::copy("/bin/sleep", installation_.app("Contents/MacOS/tarnwell-ui"),
+             fs::copy_options::overwrite_existing);
+    Client client(installation_.app("Contents/MacOS/tarnwell-ui"));
+    WaitFor([&] {
+        return fs::read_symlink("/proc/" + std::to_string(client.pid()) + "/exe").filename() ==
+               "tarnwell-ui";
+    });
+    write_pid_file_long_before(client);
+    installation_.run();
+    EXPECT_EQ(client.wait(), 1000 + SIGTERM) << "the clock may have been set; it is the client";
+}
+
+TEST_F(RunTest, AnUpgradeThatWasCutOffIsUndoneFirst) {
+    installation_.install("99");
+    fs::rename(installation_.app(), installation_.user("Tarnwell.app_tmp"));
+    struct stat status;
+    ASSERT_EQ(stat(installation_.user("Tarnwell.app_tmp").c_str(), &status), 0);
+    MakeFile(installation_.app("half"), "unpacked");
+    MakeFile(installation_.user("upgrade.journal"),
+             "state=replacing\nbackup='Tarnwell.app_tmp'\nobject='" +
+                 std::to_string(status.st_dev) + "-" + std::to_string(status.st_ino) + "'\n");
+    installation_.setBuild("99");  // so that nothing else happens
+    const Installation::Result result = installation_.run();
+    EXPECT_TRUE(Logged(result, "an upgrade was cut off, rollback to old installation"));
+    expectOldApp();
+    EXPECT_FALSE(Exists(installation_.app("half")));
+    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+}
+
+TEST_F(RunTest, ARecordThatIsNoneIsNeverObeyed) {
+    const std::string outside = installation_.home() + "/outside";
+    const std::string record = installation_.user("upgrade.journal");
+    const std::vector<std::function<void()>> cases = {
+        [&] { MakeFile(record, ""); },
+        [&] { MakeFile(record, "state=replacing\n"); },
+        [&] { MakeFile(record, std::string(100000, '\0')); },
+        [&] { MakeFile(record, "state=replacing\nbackup='../outside'\nobject='1-1'\n"); },
+        [&] { MakeFile(record, "state=installed\nbackup='" + outside + "'\nobject='1-1'\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup='log'\nobject='1-1'\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup='Tarnwell.app_tmp10'\nobject='1-1'\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup=''\nobject='1-1'\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup=''\nobject=''\nmore=1\n"); },
+        [&] { MakeFile(record, "state=installed\nbackup=Tarnwell.app_tmp\nobject=1-2'\n"); },
+        [&] { MakeFile(record, "state=unheard-of\nbackup=''\nobject=''\n"); },
+        [&] { MakeFile(record + "/folder/file", "x"); },
+        [&] { MakeLink(outside + "/record", record); },
+        [&] { ASSERT_EQ(mkfifo(record.c_str(), 0644), 0); }};
+    installation_.install("100");
+    MakeFile(outside + "/record", "state=replacing\nbackup=''\nobject=''\n");
+    MakeFile(installation_.user("Tarnwell.app_tmp/kept"));
+    MakeFile(installation_.user("Tarnwell.app_tmp10/kept"));
+    const FileTree before = Tree(installation_.home());
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        cases[i]();
+        const Installation::Result result = installation_.run();
+        EXPECT_TRUE(Logged(result, "which is no record of an upgrade")) << "case " << i;
+        EXPECT_TRUE(installation_.clientStarted());
+        fs::remove_all(installation_.user("log"));
+        EXPECT_EQ(Tree(installation_.home()), before) << "case " << i;
+    }
+}
+
 TEST_F(RunTest, LeftOverBackupsAreSteppedOverAndRemoved) {
     installation_.install("99");
     MakeFile(installation_.user("Tarnwell.app_tmp/rest"));
@@ -240,6 +316,13 @@ TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
         const char* message;
     } cases[] = {
         {"cut off", [this] { damagePackage(); }, "rollback to old installation"},
+        {"cut between two entries",
+         [this] {
+             installation_.setBuild("100", "tar");
+             const std::string package = ReadFile(installation_.package());
+             fs::resize_file(installation_.package(), package.find("Contents/MacOS/tarnwell-ui"));
+         },
+         "the package has no client"},
         {"empty", [this] { MakeFile(installation_.package()); }, "total file numbers, ret: 0"},
         {"short zip",
          [this] {

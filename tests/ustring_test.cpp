@@ -130,6 +130,7 @@ TEST(UString, TakesItsOwnBuffers) {
         {"abcdef", [](ustring& s) { s.assign(s.c_str(), 100); }},
         {"ab", [](ustring& s) { s.assign(s.c_str(), 2); }},
         {"ab", [](ustring& s) { s.assign(s.c_str_utf16(), 2); }},
+        {"a", [](ustring& s) { s.append('x', 5000).assign(s.c_str_utf16(), 1); }},
         {"ef", [](ustring& s) { s = s.c_str() + 4; }},
         {"ef", [](ustring& s) { s = s.c_str_utf16() + 4; }},
         {"cd", [](ustring& s) { s.assign(s, 2, 2); }},

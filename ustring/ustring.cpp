@@ -325,11 +325,12 @@ ustring& ustring::assign(char byte, size_type n) {
 
 // The units must not lie in this object's buffer, except at its start.
 ustring& ustring::assign_units(const unsigned short* units, size_type n) {
-    if (units == wdata && n >= wdata_len) {
+    const bool own = units == wdata;
+    if (own && n >= wdata_len) {
         return *this;
     }
-    realloc_wdata(n + 1);
-    if (units != wdata) {
+    realloc_wdata(n + 1);  // keeps the first n units, but may move them
+    if (!own) {
         std::copy_n(units, n, wdata);
     }
     wdata[n] = 0;

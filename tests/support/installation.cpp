@@ -57,6 +57,18 @@ Client::Client(Behaviour behaviour) : pid_(fork()) {
             pause();
         }
     }
+    waitInBackground();
+}
+
+Client::Client(const std::string& program) : pid_(fork()) {
+    if (pid_ == 0) {
+        execl(program.c_str(), program.c_str(), "60", nullptr);
+        _exit(127);
+    }
+    waitInBackground();
+}
+
+void Client::waitInBackground() {
     std::packaged_task<int()> task([pid = pid_] { return WaitStatus(pid); });
     end_ = task.get_future().share();
     std::thread(std::move(task)).detach();
@@ -175,6 +187,9 @@ pid_t Installation::start(void (*before_exec)()) {
     std::vector<char*> environment;
     for (const auto& [name, value] : environment_) {
         variables.push_back(name + "=" + value);
+        if (name == "ASAN_OPTIONS" && before_exec != nullptr) {
+            variables.back() += ":detect_leaks=0";  // which doesn't work in a traced process
+        }
     }
     for (std::string& variable : variables) {
         environment.push_back(variable.data());

@@ -14,6 +14,7 @@ class Client {
     enum Behaviour { EndsAtOnce, EndsAfterTwoSeconds, IgnoresSigterm };
 
     explicit Client(Behaviour behaviour);
+    explicit Client(const std::string& program);  // which gets "60" as its argument
     ~Client();
 
     pid_t pid() const { return pid_; }
@@ -21,6 +22,8 @@ class Client {
     int wait();  // how it ended: its exit code, or 1000 plus the signal
 
   private:
+    void waitInBackground();
+
     pid_t pid_;
     std::shared_future<int> end_;
 };

@@ -123,6 +123,10 @@ std::vector<std::string> LinesWith(const std::string& text, const std::string& f
     return lines;
 }
 
+bool HasOneLine(const std::string& text, const std::string& fragment) {
+    return LinesWith(text, fragment).size() == 1;
+}
+
 std::string CaptureStderr(const std::function<void()>& code) {
     testing::internal::CaptureStderr();
     code();

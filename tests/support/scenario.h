@@ -57,6 +57,7 @@ bool WaitFor(const std::function<bool()>& condition);
 
 // The lines of a text that hold a fragment.
 std::vector<std::string> LinesWith(const std::string& text, const std::string& fragment);
+bool HasOneLine(const std::string& text, const std::string& fragment);
 
 // What the code under test writes to standard error.
 std::string CaptureStderr(const std::function<void()>& code);

@@ -20,6 +20,8 @@ namespace {
 
 const ustring log_component("service_debug");
 
+const int kPutBackAttempts = 3;  // a failure may pass, and the user has no application until then
+
 ustring FromQt(const QString& text) {
     return ustring(text.toUtf8().constData());
 }
@@ -65,9 +67,13 @@ int MoveAside(ustring const& app, const UpgradeJournal& journal, UpgradeJournal:
 
 // Puts the old application back in the place of what an unfinished upgrade has left there.
 int PutBack(ustring const& app, ustring const& backup) {
-    FSRemove(app, false);
-    // A rename keeps everything; the move that follows only where it is impossible doesn't.
-    return std::rename(backup.c_str(), app.c_str()) == 0 ? 0 : FSRename(backup, app, false);
+    for (int attempt = 0; attempt < kPutBackAttempts; ++attempt) {
+        FSRemove(app, false);
+        if (std::rename(backup.c_str(), app.c_str()) == 0) {
+            return 0;
+        }
+    }
+    return FSRename(backup, app, false);  // where a rename is impossible, all that is left
 }
 
 // After a failed extraction: puts the old installation back, if there was one. As long as the
@@ -82,6 +88,18 @@ void RollBack(ustring const& app, const UpgradeJournal& journal,
     if (PutBack(app, record.backup) == 0) {
         journal.remove();
     }
+}
+
+// Whether the new application lacks the client that the old one had. A tar that was cut off between
+// two entries looks complete to its reader; the client is the package's last entry.
+bool HasLostClient(ustring const& app, ustring const& backup) {
+    const ustring client = "/Contents/MacOS/tarnwell-ui";
+    if (backup.empty() || !IsFileExist(backup + client, false) ||
+        IsFileExist(app + client, false)) {
+        return false;
+    }
+    LOG_MSG(ERROR, "the package has no client\n");
+    return true;
 }
 
 // Makes the unpacked application outlast a power cut.
@@ -254,7 +272,7 @@ int Service::PrepareUserEnv() {
     } else if (UpgradeJournal::Identify(app).empty()) {
         journal.write(record);
     }
-    if (ExtractPackage() != 0 || SyncApp(app) != 0) {
+    if (ExtractPackage() != 0 || HasLostClient(app, record.backup) || SyncApp(app) != 0) {
         RollBack(app, journal, record);
         return -1;
     }

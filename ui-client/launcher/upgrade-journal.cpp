@@ -45,6 +45,15 @@ bool IsState(const ustring& text, UpgradeJournal::State& state) {
     return false;
 }
 
+// Whether the text is one that Identify() makes, or empty.
+bool IsIdentity(const ustring& text) {
+    const char* const digits = "0123456789";
+    const ustring::size_type dash = text.find_first_not_of(digits);
+    return text.empty() ||
+           (dash != ustring::npos && dash != 0 && text[dash] == '-' && dash + 1 < text.size() &&
+            text.find_first_not_of(digits, dash + 1) == ustring::npos);
+}
+
 // Turns the name of a backup into its path; false when it isn't one of the application's.
 bool IsBackup(const ustring& name, const ustring& app, ustring& path) {
     for (int n = 0; n < kMaxAppBackups; ++n) {
@@ -111,7 +120,7 @@ UpgradeJournal::Finding UpgradeJournal::read(Record& record) const {
     record.object = config.entries["object"];
     record.backup.clear();
     const bool known = IsState(config.entries["state"], record.state) &&
-                       backup.empty() == record.object.empty() &&
+                       IsIdentity(record.object) && backup.empty() == record.object.empty() &&
                        (backup.empty() || IsBackup(backup, app_, record.backup));
     return known && config.entries.size() == 3 ? Found : Damaged;
 }
