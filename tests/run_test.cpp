@@ -207,6 +207,21 @@ TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
                                                 "' does not exist, no need to terminate"));
 }
 
+TEST_F(RunTest, AClientThatMayNotBeSignalledIsWaitedFor) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can start another user's client";
+    }
+    const Client client(Client::EndsAtOnce);
+    installation_.install("99");
+    installation_.setClientPid(PidFile(client.pid()));
+    installation_.runAsNobody();
+    const Installation::Result result = installation_.run();
+    EXPECT_TRUE(
+        HasOneLine(result.log, "[ERROR] mac/mac-service(112): kill: Operation not permitted (1)"));
+    EXPECT_TRUE(client.running());
+    expectBuild("100");
+}
+
 TEST_F(RunTest, AProcessThatTookTheClientsIdIsLeftAlone) {
     const auto write_pid_file_long_before = [this](const Client& client) {
         installation_.setClientPid(PidFile(client.pid()));
@@ -393,6 +408,13 @@ TEST_F(RunTest, AFileInThePlaceOfTheApplicationFolderIsMovedAside) {
     installation_.run();
     expectBuild("100");
     EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+}
+
+TEST_F(RunTest, ADanglingLinkInThePlaceOfTheApplicationFolder) {
+    MakeLink("nowhere", installation_.app());
+    EXPECT_TRUE(
+        HasOneLine(installation_.run().log, "failed to create folder: '" + installation_.app()));
+    EXPECT_TRUE(Exists(installation_.app()));
 }
 
 TEST_F(RunTest, AReadOnlyHomeStillStartsTheClient) {
