@@ -337,6 +337,8 @@ TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
              const std::string package = ReadFile(installation_.package());
              fs::resize_file(installation_.package(), package.find("Contents/MacOS/tarnwell-ui"));
          },
+         "the archive was cut off after"},
+        {"without the client", [this] { MakeArchive(installation_.package(), "zip", {{"file"}}); },
          "the package has no client"},
         {"empty", [this] { MakeFile(installation_.package()); }, "total file numbers, ret: 0"},
         {"short zip",

@@ -1,10 +1,14 @@
 #include "ui-client/launcher/extractor.h"
 
 #include <archive_entry.h>
+#include <sys/stat.h>
 
+#include <algorithm>
+#include <climits>
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "lib/liblogger/log.h"
 #include "ui-client/launcher/launcher.h"
@@ -63,16 +67,29 @@ Reader OpenForListing(const Extractor& extractor) {
     return reader;
 }
 
-// The paths of entries, and the targets of hard links, below the destination. The prefix is built
-// once; each name takes the place of the one before.
-class Rewriter {
+bool IsLink(const std::string& path) {
+    struct stat status;
+    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+bool IsNode(archive_entry* entry) {
+    const auto type = archive_entry_filetype(entry);
+    return type == AE_IFCHR || type == AE_IFBLK || type == AE_IFIFO || type == AE_IFSOCK;
+}
+
+// The destination as the entries see it: they get their paths below it, and those that would lead
+// out of it are found. The archive is not trusted; nobody else changes the destination meanwhile.
+class Target {
   public:
-    explicit Rewriter(const ustring& dest_dir) : path_(dest_dir.c_str()) {
-        path_ += '/';
-        prefix_size_ = path_.size();
+    explicit Target(const ustring& dest_dir) : root_(std::string(dest_dir.c_str()) + '/') {
+        path_ = checked_ = root_;
     }
 
-    // false when the entry has no name.
+    // Why an entry must not be written; null when it may. Asked of every entry, before rewrite().
+    const char* refusal(archive_entry* entry);
+
+    // Puts the entry's path, and the target of a hard link, below the destination; false when the
+    // entry has no name.
     bool rewrite(archive_entry* entry) {
         const char* const name = archive_entry_pathname(entry);
         if (name == nullptr) {
@@ -86,19 +103,102 @@ class Rewriter {
     }
 
   private:
+    // The prefix is built once; each name takes the place of the one before.
     const char* below(const char* name) {
-        path_.resize(prefix_size_);
+        path_.resize(root_.size());
         path_ += name;
         return path_.c_str();
     }
 
+    bool resolve(std::string_view name, std::string& path) const;
+    bool isFree(const std::string& folder);
+    const char* linkRefusal(const char* target);
+
+    const std::string root_;  // ends in "/"
     std::string path_;
-    std::size_t prefix_size_;
+    std::string checked_;  // the folder that isFree() saw last
 };
 
-int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Rewriter& rewriter,
-                 int total, int number) {
-    if (!rewriter.rewrite(entry)) {
+// The path of a name as the writer reads it: without empty and "." elements, every element ending
+// in "/". false when there is a ".." among them.
+bool Target::resolve(std::string_view name, std::string& path) const {
+    path = root_;
+    while (!name.empty()) {
+        const std::string_view element = name.substr(0, name.find('/'));
+        name.remove_prefix(std::min(name.size(), element.size() + 1));
+        if (element == "..") {
+            return false;
+        }
+        if (!element.empty() && element != ".") {
+            path.append(element) += '/';
+        }
+    }
+    return true;
+}
+
+// Whether no element of a folder's path below the destination is a link. Elements that don't exist
+// will be made as folders. What the path shares with the one before is not looked at again: only a
+// link entry can put a link there, and then the path before is that of the folder it stands in.
+bool Target::isFree(const std::string& folder) {
+    auto end = std::mismatch(checked_.begin(), checked_.end(), folder.begin(), folder.end()).second;
+    while ((end = std::find(end, folder.end(), '/')) != folder.end()) {
+        if (IsLink(std::string(folder.begin(), end))) {
+            return false;
+        }
+        ++end;
+    }
+    checked_ = folder;
+    return true;
+}
+
+// The same as refusal() for the target of a hard link; the writer tells of one that doesn't exist.
+const char* Target::linkRefusal(const char* target) {
+    std::string path;
+    if (!resolve(target, path)) {
+        return "links to what is outside";
+    }
+    path.pop_back();
+    struct stat status;
+    if (!isFree(path.substr(0, path.rfind('/') + 1))) {
+        return "links through a link";
+    }
+    return lstat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) ? "links to no file"
+                                                                         : nullptr;
+}
+
+const char* Target::refusal(archive_entry* entry) {
+    const char* const name = archive_entry_pathname(entry);
+    const char* const hardlink = archive_entry_hardlink(entry);
+    // The text formats can call a link a folder; the writer makes a link.
+    const bool folder = archive_entry_filetype(entry) == AE_IFDIR && hardlink == nullptr &&
+                        archive_entry_symlink(entry) == nullptr;
+    std::string path;
+    if (name == nullptr || !resolve(name, path)) {
+        return nullptr;  // rewrite() finds the one, the writer the other
+    }
+    if (IsNode(entry)) {
+        return "is a pipe, socket or device";
+    }
+    if (path == root_ && !folder) {
+        return "would replace the target folder";
+    }
+    if (path.size() > PATH_MAX) {
+        return "its path is too long";  // the writer would change the working directory
+    }
+    // The writer takes a link to a folder for the folder, but replaces a link in a file's place.
+    if (!isFree(folder ? path : path.substr(0, path.rfind('/', path.size() - 2) + 1))) {
+        return "leads through a link";
+    }
+    return hardlink != nullptr ? linkRefusal(hardlink) : nullptr;
+}
+
+int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Target& target, int total,
+                 int number) {
+    if (const char* const reason = target.refusal(entry)) {
+        LOG_MSG(ERROR, "refused entry '%s': %s\n", archive_entry_pathname(entry), reason);
+        return -1;
+    }
+    if (!target.rewrite(entry)) {
         LOG_MSG(ERROR, "archive_entry_pathname failed");
         return -1;
     }
@@ -114,19 +214,48 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Rewrite
     return 0;
 }
 
-int ExtractEntries(archive* reader, archive* writer, const ustring& dest_dir, int total) {
-    Rewriter rewriter(dest_dir);
+// Whether an archive that was read to its end without an error is all there; read is where the last
+// entry ended. A tar that was cut between two entries only lacks the mark at its end. A zip that
+// was cut in the directory at its end still gives its files, but their modes and links are lost.
+bool IsWhole(archive* reader, la_int64_t read, const ustring& archive_path) {
+    switch (archive_format(reader) & ARCHIVE_FORMAT_BASE_MASK) {
+        case ARCHIVE_FORMAT_TAR:
+            return archive_filter_bytes(reader, 0) != read;
+        case ARCHIVE_FORMAT_ZIP: {
+            if (archive_filter_count(reader) > 1) {
+                return true;  // within another compression the directory is never read
+            }
+            const Reader strict(archive_read_new());
+            archive_entry* entry = nullptr;
+            return strict != nullptr &&
+                   archive_read_support_format_zip_seekable(strict.get()) == ARCHIVE_OK &&
+                   archive_read_open_filename(strict.get(), archive_path.c_str_utf8(),
+                                              kBlockSize) == ARCHIVE_OK &&
+                   archive_read_next_header(strict.get(), &entry) == ARCHIVE_OK;
+        }
+        default:
+            return true;
+    }
+}
+
+int ExtractEntries(const Extractor& extractor, archive* reader, archive* writer, int total) {
+    Target target(extractor.dest_dir);
     for (int number = 1;; ++number) {
+        const la_int64_t read = archive_filter_bytes(reader, 0);
         archive_entry* entry = nullptr;
         const int result = archive_read_next_header(reader, &entry);
-        if (result == ARCHIVE_EOF) {
+        if (result == ARCHIVE_EOF && IsWhole(reader, read, extractor.archive_path)) {
             return 0;
+        }
+        if (result == ARCHIVE_EOF) {
+            LOG_MSG(ERROR, "the archive was cut off after %d entries\n", number - 1);
+            return -1;
         }
         if (result != ARCHIVE_OK) {
             LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
             return -1;
         }
-        if (ExtractEntry(reader, entry, writer, rewriter, total, number) != 0) {
+        if (ExtractEntry(reader, entry, writer, target, total, number) != 0) {
             return -1;
         }
     }
@@ -159,7 +288,7 @@ int Extractor::Extract() {
                 ErrorText(reader.get()));
         return -1;
     }
-    if (ExtractEntries(reader.get(), writer.get(), dest_dir, total) != 0) {
+    if (ExtractEntries(*this, reader.get(), writer.get(), total) != 0) {
         return -1;
     }
     // Closing applies what was put off until now: the permissions of folders.

@@ -13,9 +13,15 @@
 class Extractor {
   public:
     // Writes every entry below dest_dir, whatever folder its name begins with, and reports the
-    // progress after each. What stands in the way of an entry is unlinked first. Entries whose
-    // name holds ".." are refused. 0 when every entry was written; an archive without entries is a
-    // failure, and so is a warning of libarchive. A failure leaves the entries before it.
+    // progress after each. What stands in the way of an entry is unlinked first. 0 when every entry
+    // was written; an archive without entries is a failure, and so are a warning of libarchive and
+    // a tar or zip whose end is missing. A failure leaves the entries before it.
+    //
+    // The archive is not trusted: nothing outside dest_dir is created, changed or read. Symbolic
+    // links are unpacked as they are, but an entry that leads through one fails, and so does a
+    // folder in the place of one. So do names and hard links that hold "..", hard links through a
+    // link or to anything but a file, pipes, sockets, devices, what would replace dest_dir itself,
+    // and paths too long for the system.
     int Extract();
 
     // The number of entries up to the end of the archive or to the first damaged one.

@@ -90,8 +90,8 @@ void RollBack(ustring const& app, const UpgradeJournal& journal,
     }
 }
 
-// Whether the new application lacks the client that the old one had. A tar that was cut off between
-// two entries looks complete to its reader; the client is the package's last entry.
+// Whether the new application lacks the client that the old one had: then the package is a wrong
+// one, and the user keeps what works.
 bool HasLostClient(ustring const& app, ustring const& backup) {
     const ustring client = "/Contents/MacOS/tarnwell-ui";
     if (backup.empty() || !IsFileExist(backup + client, false) ||

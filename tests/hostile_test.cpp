@@ -1,0 +1,351 @@
+// Packages that try to get out of the folder that they are unpacked into, or that lie.
+
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <random>
+
+#include "lib/liblogger/log.h"
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/translations/str-table.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+enum Type : char {
+    kFile = '0',
+    kHardLink = '1',
+    kLink = '2',
+    kCharDevice = '3',
+    kBlockDevice = '4',
+    kFolder = '5',
+    kPipe = '6',
+    kLongName = 'L',
+    kExtension = 'x'
+};
+
+std::string Padded(const std::string& data) {
+    return data + std::string((512 - data.size() % 512) % 512, '\0');
+}
+
+// An entry of a tar archive, for what libarchive does not write. The size is what the header says.
+std::string Raw(const std::string& name, Type type, const std::string& link, std::size_t size,
+                unsigned mode, const std::string& data) {
+    if (name.size() > 100) {
+        return Raw("long", kLongName, "", name.size() + 1, 0, name + '\0') +
+               Raw(name.substr(0, 100), type, link, size, mode, data);
+    }
+    char header[512] = {};
+    std::memcpy(header, name.data(), name.size());
+    std::snprintf(header + 100, 25, "%07o", mode);
+    std::snprintf(header + 124, 25, "%011zo", size);
+    std::snprintf(header + 136, 13, "%011o", 1000000000u);
+    std::memset(header + 148, ' ', 8);
+    header[156] = type;
+    std::memcpy(header + 157, link.data(), link.size());
+    std::memcpy(header + 257, "ustar\00000", 8);
+    unsigned sum = 0;
+    for (const char byte : header) {
+        sum += static_cast<unsigned char>(byte);
+    }
+    std::snprintf(header + 148, 8, "%06o", sum);
+    return std::string(header, sizeof header) + Padded(data);
+}
+
+std::string File(const std::string& name, const std::string& data = "evil", unsigned mode = 0777) {
+    return Raw(name, kFile, "", data.size(), mode, data);
+}
+std::string Dir(const std::string& name, unsigned mode = 0755) {
+    return Raw(name, kFolder, "", 0, mode, "");
+}
+std::string Link(const std::string& name, const std::string& target) {
+    return Raw(name, kLink, target, 0, 0777, "");
+}
+// Data of a hard link counts in the "pax" dialect only.
+std::string Hard(const std::string& name, const std::string& target, const std::string& data = "") {
+    const std::string record = "13 comment=x\n";
+    return Raw("pax", kExtension, "", record.size(), 0644, record) +
+           Raw(name, kHardLink, target, data.size(), 0777, data);
+}
+std::string Node(const std::string& name, Type type) {
+    return Raw(name, type, "", 0, 0666, "");
+}
+
+class HostileTest : public testing::Test {
+  protected:
+    HostileTest() {
+        umask(022);
+        StrTable::InitStrTable();
+        MakeFolder(dest_);
+        MakeFile(folder_ / "outside/file", "secret", 0640);
+        MakeFile(folder_ / "outside/folder/inner", "secret", 0600);
+        MakeFile(folder_ / "beside", "beside", 0604);
+        chmod((folder_ / "outside/folder").c_str(), 0711);
+    }
+
+    // Unpacks bytes, the content of an archive; nothing but the destination's content changes.
+    int extract(const std::string& bytes) {
+        MakeFile(folder_ / "package", bytes);
+        Extractor extractor;
+        extractor.dest_dir = dest_.c_str();
+        extractor.archive_path = (folder_ / "package").c_str();
+        const FileTree before = sentinel();
+        int result = 0;
+        log_ = CaptureStderr([&] { result = extractor.Extract(); });
+        EXPECT_EQ(sentinel(), before) << log_;
+        EXPECT_EQ(result == -1, !LinesWith(log_, "[ERROR] extractor(").empty()) << log_;
+        return result;
+    }
+
+    FileTree sentinel() const {
+        namespace fs = std::filesystem;
+        FileTree tree;
+        const auto add = [&](const std::string& path, bool whole) {
+            struct stat status = {};
+            lstat(path.c_str(), &status);
+            std::string text = "mode " + std::to_string(status.st_mode);
+            if (whole) {
+                text += ", " + std::to_string(status.st_nlink) + " links, changed " +
+                        std::to_string(status.st_ctim.tv_sec) + "." +
+                        std::to_string(status.st_ctim.tv_nsec) + ": " +
+                        (S_ISREG(status.st_mode) ? ReadFile(path) : "");
+            }
+            tree[path] = text;
+        };
+        add(dest_, false);
+        add(folder_.path(), true);
+        for (fs::recursive_directory_iterator at(folder_.path()), end; at != end; ++at) {
+            if (at->path() == dest_) {
+                at.disable_recursion_pending();
+            } else {
+                add(at->path(), true);
+            }
+        }
+        return tree;
+    }
+
+    Folder folder_;
+    const std::string dest_ = folder_ / "dest";
+    std::string log_;
+};
+
+const std::string kEnd(1024, '\0');  // of every whole tar
+
+struct Package {
+    const char* name;
+    std::string bytes;
+    std::string log;  // empty: it is unpacked
+    FileTree tree;    // what is in the destination then
+};
+typedef std::vector<Package> Packages;
+
+void PrintTo(const Package& package, std::ostream* out) {
+    *out << package.name;
+}
+
+class PackageTest : public HostileTest, public testing::WithParamInterface<Package> {};
+
+TEST_P(PackageTest, ChangesNothingOutside) {
+    const Package& package = GetParam();
+    ASSERT_EQ(extract(package.bytes + kEnd), package.log.empty() ? 0 : -1) << log_;
+    EXPECT_EQ(LinesWith(log_, package.log).empty(), package.log.empty()) << log_;
+    EXPECT_EQ(Tree(dest_), package.tree);
+}
+
+std::string NameOf(const testing::TestParamInfo<Package>& info) {
+    return info.param.name;
+}
+
+const std::string kThrough = "': leads through a link";
+const std::string kThroughTarget = "': links through a link";
+const std::string kAside = "': links to what is outside";
+const std::string kNoFile = "': links to no file";
+const std::string kNode = "refused entry 'a': is a pipe, socket or device";
+const std::string kRoot = "': would replace the target folder";
+const std::string kWriter = "archive_read_extract2 failed: '";
+const std::string kUp = "../outside";
+const std::string kEvil = "file 0755: evil";
+const std::string kFileUp = "../outside/file";
+const FileTree kOnlyLink = {{"a", "link: ../outside"}};
+const FileTree kOnlyFileLink = {{"a", "link: ../outside/file"}};
+
+const Packages kTraversal = {
+    {"FrameworkIsUnpacked",
+     File("f/Versions/A/f") + Link("f/Versions/Current", "A") + Link("f/f", "Versions/Current/f"),
+     "",
+     {{"f", "folder"},
+      {"f/Versions", "folder"},
+      {"f/Versions/A", "folder"},
+      {"f/Versions/A/f", kEvil},
+      {"f/Versions/Current", "link: A"},
+      {"f/f", "link: Versions/Current/f"}}},
+    {"DotDot", File(kFileUp), kWriter, {}},
+    {"DotDotInside", Dir("a") + File("a/../../beside"), kWriter, {{"a", "folder"}}},
+    {"Absolute", File("/outside/file"), "", {{"outside", "folder"}, {"outside/file", kEvil}}},
+    {"ThroughLink", Link("a", kUp) + File("a/file"), kThrough, kOnlyLink},
+    {"NewThroughLink", Link("a", kUp) + File("a//./new"), kThrough, kOnlyLink},
+    {"DeepThroughLink", Link("a", kUp) + File("a/folder/new"), kThrough, kOnlyLink},
+    {"LinkThroughLink", Link("a", kUp) + Link("a/new", "x"), kThrough, kOnlyLink},
+    {"ThroughLinkToLink",
+     Link("b", kUp) + Link("a", "b") + File("a/file"),
+     kThrough,
+     {{"a", "link: b"}, {"b", "link: ../outside"}}},
+    {"ThroughLaterLink",
+     Dir("a") + File("b/x") + Link("a", kUp) + File("a/file"),
+     kThrough,
+     {{"a", "link: ../outside"}, {"b", "folder"}, {"b/x", kEvil}}},
+    {"ThroughLinkInPlaceOfTheLastFolder", Dir("a") + Link("a", kUp) + File("a/file"), kThrough,
+     kOnlyLink},
+    {"ThroughLinkToFile", Link("a", kFileUp) + File("a/x"), kThrough, kOnlyFileLink},
+    {"FolderOverLink", Link("a", kUp) + Dir("a", 0), kThrough, kOnlyLink},
+    {"FolderBehindLink", Link("a", kUp) + Dir("a/new"), kThrough, kOnlyLink},
+    {"FileOverLink", Link("a", kFileUp) + File("a"), "", {{"a", kEvil}}},
+    {"LateRights",
+     Dir("a", 0) + Link("a", "../outside/folder"),
+     "",
+     {{"a", "link: ../outside/folder"}}},
+    {"LateRightsBelow",
+     Dir("a/folder", 0) + Link("a/folder", "x") + Link("a", kUp),
+     kWriter,
+     {{"a", "folder"}, {"a/folder", "link: x"}}}};
+INSTANTIATE_TEST_SUITE_P(Traversal, PackageTest, testing::ValuesIn(kTraversal), NameOf);
+
+const Packages kHardLinks = {
+    {"Inside", File("b") + Hard("a", "/b"), "", {{"a", kEvil}, {"b", kEvil}}},
+    {"DotDot", Hard("a", kFileUp), kAside, {}},
+    {"DotDotWithData", Hard("a", "x/../../outside/file", "evil"), kAside, {}},
+    {"ThroughLink", Link("a", kUp) + Hard("b", "a/file"), kThroughTarget, kOnlyLink},
+    {"ToLink", Link("a", kFileUp) + Hard("b", "a"), kNoFile, kOnlyFileLink},
+    {"ToLinkWithData", Link("a", kFileUp) + Hard("b", "a", "evil"), kNoFile, kOnlyFileLink},
+    {"WithData", File("b", "old") + Hard("a", "b", "evil"), "", {{"a", kEvil}, {"b", kEvil}}},
+    {"BehindLink",
+     File("b") + Link("a", kUp) + Hard("a/new", "b"),
+     kThrough,
+     {{"a", "link: ../outside"}, {"b", kEvil}}},
+    {"ToFolder", Hard("a", "."), kNoFile, {}},
+    {"ToItself", File("a") + Hard("a", "a"), kWriter, {{"a", kEvil}}},
+    {"ToNothing", Hard("a", "b"), kWriter, {}}};
+INSTANTIATE_TEST_SUITE_P(HardLinks, PackageTest, testing::ValuesIn(kHardLinks), NameOf);
+
+const Packages kKinds = {
+    {"CharDevice", Node("a", kCharDevice), kNode, {}},
+    {"BlockDevice", Node("a", kBlockDevice), kNode, {}},
+    {"Pipe", Node("a", kPipe), kNode, {}},
+    {"SpecialRights",
+     Dir("a", 07777) + File("b", "", 07777),
+     "",
+     {{"a", "folder"}, {"b", "file 0755: "}}},
+    {"SameNameTwice", File("a", "first") + File("a"), "", {{"a", kEvil}}},
+    {"FileOverFolder", Dir("a") + File("a"), "", {{"a", kEvil}}},
+    {"FileOverFullFolder", File("a/b") + File("a"), kWriter, {{"a", "folder"}, {"a/b", kEvil}}},
+    {"FolderOverFile", File("a") + Dir("a"), "", {{"a", "folder"}}},
+    {"FileInPlaceOfFolder", File("a") + File("a/b"), kWriter, {{"a", kEvil}}},
+    {"LongerThanItsData",
+     Raw("a", kFile, "", 1 << 20, 0644, "short"),
+     kWriter,
+     {{"a", DescribeFile(0644, "short" + std::string((1 << 20) - 5, '\0'))}}}};
+INSTANTIATE_TEST_SUITE_P(Kinds, PackageTest, testing::ValuesIn(kKinds), NameOf);
+
+const Packages kNames = {{"NotUtf8", File("\xff\xfe"), "", {{"\xff\xfe", kEvil}}},
+                         {"Of300Bytes", File(std::string(300, 'n')), kWriter, {}},
+                         {"EmptyFile", File(""), kRoot, {}},
+                         {"DotFile", File("."), kRoot, {}},
+                         {"SlashFile", File("//."), kRoot, {}},
+                         {"DotSlashLink", Link("./", kUp) + File("file"), kRoot, {}},
+                         {"DotHardLink", File("b") + Hard(".", "b"), kRoot, {{"b", kEvil}}},
+                         {"DotFolder", Dir("./", 0) + File("./a"), "", {{"a", kEvil}}},
+                         {"SlashFolder", Dir("/", 0) + File("a"), "", {{"a", kEvil}}}};
+INSTANTIATE_TEST_SUITE_P(Names, PackageTest, testing::ValuesIn(kNames), NameOf);
+
+std::string DeepPath(std::size_t size) {
+    std::string path;
+    while (path.size() + 200 < size) {
+        path += std::string(199, 'd') + '/';
+    }
+    return path + std::string(size - path.size(), 'f');
+}
+
+TEST_F(HostileTest, LongPathsAreUnpackedOrRefused) {
+    EXPECT_EQ(extract(File(DeepPath(4000)) + kEnd), 0);
+    EXPECT_EQ(ReadFile(dest_ + "/" + DeepPath(4000)), "evil");
+    const std::size_t longest = PATH_MAX - 1 - (dest_ + "/").size();
+    EXPECT_EQ(extract(File(DeepPath(longest)) + kEnd), 0);
+    EXPECT_EQ(extract(File(DeepPath(longest + 1)) + kEnd), -1);
+    EXPECT_EQ(LinesWith(log_, "': its path is too long").size(), 1u);
+}
+
+// What stood in the destination before counts as little as what the archive made.
+TEST_F(HostileTest, OldLinksAreNotFollowedEither) {
+    MakeLink(kUp, dest_ + "/a");
+    EXPECT_EQ(extract(File("a/file") + kEnd), -1);
+    EXPECT_EQ(extract(Dir("a", 0) + kEnd), -1);
+    EXPECT_EQ(Tree(dest_), kOnlyLink);
+    EXPECT_EQ(extract(File("a") + kEnd), 0);
+    EXPECT_EQ(Tree(dest_), (FileTree{{"a", kEvil}}));
+}
+
+// The text format, whose entries can name the file that holds their content, or be two things.
+TEST_F(HostileTest, AManifestDoesNotLeadOut) {
+    EXPECT_EQ(extract("#mtree\n./a type=file mode=0644 size=6 contents=../outside/file\n"), 0);
+    EXPECT_EQ(Tree(dest_), (FileTree{{"a", DescribeFile(0644, std::string(6, '\0'))}}));
+    const std::string folderAsLink = "/b type=dir mode=0700 link=../outside/folder\n";
+    EXPECT_EQ(extract("#mtree\n." + folderAsLink + "./b/new type=file mode=0644\n"), -1);
+    EXPECT_EQ(LinesWith(log_, kThrough).size(), 1u) << log_;
+    EXPECT_EQ(extract("#mtree\n." + folderAsLink + "./." + folderAsLink), 0) << log_;
+    std::filesystem::remove_all(dest_);
+    EXPECT_EQ(extract("#mtree\n./. type=dir link=outside\n./new type=file mode=0644\n"), -1);
+    EXPECT_EQ(LinesWith(log_, kRoot).size(), 1u) << log_;
+}
+
+class CutTest : public HostileTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(CutTest, FailsOrIsWhole) {
+    const std::string format = GetParam();
+    std::string noise(20000, 0);
+    std::generate(noise.begin(), noise.end(), std::minstd_rand());
+    MakeArchive(folder_ / "whole", format,
+                {{"a/"}, {"a/one", noise}, {"a/link", "", 0777, "one"}, {"a/two", noise + "2"}});
+    const std::string bytes = ReadFile(folder_ / "whole");
+    ASSERT_EQ(extract(bytes), 0);
+    const FileTree whole = Tree(dest_);
+    for (std::size_t size = 0; size < bytes.size(); size += 512) {
+        std::filesystem::remove_all(dest_);
+        MakeFolder(dest_);
+        if (extract(bytes.substr(0, size)) == 0) {
+            EXPECT_EQ(Tree(dest_), whole) << size << " of " << bytes.size();
+        }
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Formats, CutTest, testing::Values("tar", "tar.gz", "zip"));
+
+// The disk is mounted where this process alone sees it.
+TEST_F(HostileTest, ABombFillsASmallDiskOnly) {
+    if (unshare(CLONE_NEWNS) != 0 || mount("", "/", "", MS_REC | MS_PRIVATE, "") != 0 ||
+        mount("tmpfs", dest_.c_str(), "tmpfs", 0, "size=1m") != 0) {
+        GTEST_SKIP() << "can't mount a small disk: " << std::strerror(errno);
+    }
+    MakeArchive(folder_ / "bomb", "tar.gz", {{"a", std::string(64 << 20, '0')}});
+    const std::string bomb = ReadFile(folder_ / "bomb");
+    EXPECT_LT(bomb.size(), 100000u);
+    EXPECT_EQ(extract(bomb), -1);
+    EXPECT_EQ(LinesWith(log_, kWriter).size(), 1u) << log_;
+    umount2(dest_.c_str(), MNT_DETACH);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    QCoreApplication app(argc, argv);
+    return RUN_ALL_TESTS();
+}
