@@ -255,8 +255,7 @@ TEST_F(RunTest, AnUpgradeThatWasCutOffIsUndoneFirst) {
     ASSERT_EQ(stat(installation_.user("Tarnwell.app_tmp").c_str(), &status), 0);
     MakeFile(installation_.app("half"), "unpacked");
     MakeFile(installation_.user("upgrade.journal"),
-             "state=replacing\nbackup='Tarnwell.app_tmp'\nobject='" +
-                 std::to_string(status.st_dev) + "-" + std::to_string(status.st_ino) + "'\n");
+             "state=replacing\nbackup=0\nobject=" + std::to_string(status.st_ino) + "\n");
     installation_.setBuild("99");  // so that nothing else happens
     const Installation::Result result = installation_.run();
     EXPECT_TRUE(Logged(result, "an upgrade was cut off, rollback to old installation"));
@@ -272,19 +271,18 @@ TEST_F(RunTest, ARecordThatIsNoneIsNeverObeyed) {
         [&] { MakeFile(record, ""); },
         [&] { MakeFile(record, "state=replacing\n"); },
         [&] { MakeFile(record, std::string(100000, '\0')); },
-        [&] { MakeFile(record, "state=replacing\nbackup='../outside'\nobject='1-1'\n"); },
-        [&] { MakeFile(record, "state=installed\nbackup='" + outside + "'\nobject='1-1'\n"); },
-        [&] { MakeFile(record, "state=replacing\nbackup='log'\nobject='1-1'\n"); },
-        [&] { MakeFile(record, "state=replacing\nbackup='Tarnwell.app_tmp10'\nobject='1-1'\n"); },
-        [&] { MakeFile(record, "state=replacing\nbackup=''\nobject='1-1'\n"); },
-        [&] { MakeFile(record, "state=replacing\nbackup=''\nobject=''\nmore=1\n"); },
-        [&] { MakeFile(record, "state=installed\nbackup=Tarnwell.app_tmp\nobject=1-2'\n"); },
-        [&] { MakeFile(record, "state=unheard-of\nbackup=''\nobject=''\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup='../outside'\nobject=1\n"); },
+        [&] { MakeFile(record, "state=installed\nbackup='" + outside + "'\nobject=1\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup=10\nobject=1\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup=0\nobject=''\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup=0\nobject=1'\n"); },
+        [&] { MakeFile(record, "state=replacing\nbackup=none\nobject=1\nmore=1\n"); },
+        [&] { MakeFile(record, "state=unheard-of\nbackup=none\nobject=1\n"); },
         [&] { MakeFile(record + "/folder/file", "x"); },
         [&] { MakeLink(outside + "/record", record); },
         [&] { ASSERT_EQ(mkfifo(record.c_str(), 0644), 0); }};
     installation_.install("100");
-    MakeFile(outside + "/record", "state=replacing\nbackup=''\nobject=''\n");
+    MakeFile(outside + "/record", "state=replacing\nbackup=none\nobject=1\n");
     MakeFile(installation_.user("Tarnwell.app_tmp/kept"));
     MakeFile(installation_.user("Tarnwell.app_tmp10/kept"));
     const FileTree before = Tree(installation_.home());

@@ -6,7 +6,8 @@
 namespace platform {
 
 int SyncFile(int fd) {
-    return fcntl(fd, F_FULLFSYNC);  // fsync() leaves the data in the drive's cache
+    // fsync() leaves the data in the drive's cache; it is all that some volumes can do.
+    return fcntl(fd, F_FULLFSYNC) == 0 ? 0 : fsync(fd);
 }
 
 int SyncFolder(const char* path) {
@@ -19,8 +20,7 @@ int SyncFolder(const char* path) {
 }
 
 int SyncVolume(const char* path) {
-    sync();  // starts the writing of everything; what follows waits for the drive
-    return SyncFolder(path);
+    return sync_volume_np(path, SYNC_VOLUME_FULLSYNC | SYNC_VOLUME_WAIT);
 }
 
 }  // namespace platform

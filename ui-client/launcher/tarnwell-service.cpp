@@ -1,8 +1,11 @@
 #include "ui-client/launcher/tarnwell-service.h"
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -11,6 +14,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/durability.h"
+#include "lib/platform/instance-lock.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/upgrade-journal.h"
 
@@ -42,59 +46,103 @@ void LoadVersion(const ustring& path, VerInfo& version) {
     LoadField(settings, "icon_overlay_version", version.icon_overlay_version);
 }
 
+// The name under which the application folder is moved aside at attempt n (0 to 9).
+ustring GetAppBackupDir(ustring const& app, int n) {
+    ustring backup = app + "_tmp";
+    if (n == 0) {
+        return backup;
+    }
+    char postfix[8];
+    if (std::snprintf(postfix, sizeof postfix, "%d", n) < 0) {
+        LOG_MSG(ERROR, "snprintf failed (continuing without postfix)");
+        postfix[0] = 0;
+    }
+    return backup += postfix;
+}
+
 // Moves the application folder aside, each attempt announced in the journal, and keeps in record
-// where it went. Returns the number of the attempt that succeeded, or -1.
+// where it went. Without a record nothing is moved. Returns 0, or -1 when every attempt has failed.
 int MoveAside(ustring const& app, const UpgradeJournal& journal, UpgradeJournal::Record& record) {
-    record.object = UpgradeJournal::Identify(app);
-    for (int n = 0; n < kMaxAppBackups; ++n) {
-        record.backup = GetAppBackupDir(app, n);
-        journal.write(record);  // without a record the upgrade goes on, only less protected
-        if (FSRename(app, record.backup, false) == 0) {
-            const ustring object = UpgradeJournal::Identify(record.backup);
-            if (object != record.object) {
-                record.object = object;  // it was copied, not renamed
+    ustring backup;
+    UpgradeJournal::Identify(app, record.object);
+    for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
+        record.backup = n;
+        backup = GetAppBackupDir(app, n);
+        if (journal.write(record) == 0 && FSRename(app, backup, false) == 0) {
+            if (!UpgradeJournal::IsAt(backup, record.object)) {
+                UpgradeJournal::Identify(backup, record.object);  // it was copied, not renamed
                 journal.write(record);
             }
-            return n;
+            return 0;
         }
-        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app.c_str(),
-                record.backup.c_str());
+        if (UpgradeJournal::IsAt(backup, record.object)) {
+            return 0;  // a remote disk can report a failure for what it has done
+        }
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app.c_str(), backup.c_str());
     }
     LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
-            record.backup.c_str());
+            backup.c_str());
     return -1;
 }
 
-// Puts the old application back in the place of what an unfinished upgrade has left there.
-int PutBack(ustring const& app, ustring const& backup) {
-    for (int attempt = 0; attempt < kPutBackAttempts; ++attempt) {
-        FSRemove(app, false);
-        if (std::rename(backup.c_str(), app.c_str()) == 0) {
-            return 0;
+// Takes what can't be removed out of the application's place, under the name of a free backup.
+void StepAside(ustring const& app, int taken) {
+    for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
+        if (n != taken && std::rename(app.c_str(), GetAppBackupDir(app, n).c_str()) == 0) {
+            return;
         }
     }
-    return FSRename(backup, app, false);  // where a rename is impossible, all that is left
+}
+
+// Puts the old application back in the place of what an unfinished upgrade has left there. Looks
+// before each step, so that nothing is removed but those rests.
+int PutBack(ustring const& app, const UpgradeJournal::Record& record) {
+    const ustring backup = GetAppBackupDir(app, record.backup);
+    for (int attempt = 0; attempt < kPutBackAttempts; ++attempt) {
+        if (!UpgradeJournal::IsAt(backup, record.object)) {
+            break;
+        }
+        FSRemove(app, false);
+        if (std::rename(backup.c_str(), app.c_str()) != 0) {
+            StepAside(app, record.backup);
+        }
+    }
+    if (UpgradeJournal::IsAt(app, record.object)) {
+        return 0;
+    }
+    // Where a rename is impossible, moving file by file is all that is left.
+    return UpgradeJournal::IsAt(backup, record.object) ? FSRename(backup, app, false) : -1;
 }
 
 // After a failed extraction: puts the old installation back, if there was one. As long as the
 // journal holds the record, the next run knows that this one hasn't got to the end.
 void RollBack(ustring const& app, const UpgradeJournal& journal,
               const UpgradeJournal::Record& record) {
-    if (record.backup.empty()) {
+    if (record.backup == UpgradeJournal::kNoBackup) {
         LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
         return;
     }
     LOG_MSG(ERROR, "Failed to extract package, rollback to old installation\n");
-    if (PutBack(app, record.backup) == 0) {
+    if (PutBack(app, record) == 0) {
         journal.remove();
+    }
+}
+
+// Makes the folder of a first installation and announces it in the journal. Without a record the
+// installation goes on all the same: there is nothing that it could lose.
+void BeginInstallation(ustring const& app, const UpgradeJournal& journal,
+                       UpgradeJournal::Record& record) {
+    if (mkdir(app.c_str(), 0777) == 0 && UpgradeJournal::Identify(app, record.object)) {
+        journal.write(record);
     }
 }
 
 // Whether the new application lacks the client that the old one had: then the package is a wrong
 // one, and the user keeps what works.
-bool HasLostClient(ustring const& app, ustring const& backup) {
+bool HasLostClient(ustring const& app, const UpgradeJournal::Record& record) {
     const ustring client = "/Contents/MacOS/tarnwell-ui";
-    if (backup.empty() || !IsFileExist(backup + client, false) ||
+    if (record.backup == UpgradeJournal::kNoBackup ||
+        !IsFileExist(GetAppBackupDir(app, record.backup) + client, false) ||
         IsFileExist(app + client, false)) {
         return false;
     }
@@ -112,21 +160,54 @@ int SyncApp(ustring const& app) {
     return result;
 }
 
-// Removes the backups of attempts 0 to last, and then the record, which up to now says that they
-// are no longer needed.
-void RemoveBackups(ustring const& app, int last, const UpgradeJournal& journal) {
-    for (int n = 0; n <= last; ++n) {
+// Removes the backup of the record, those whose names were tried before it, and then the record,
+// which up to now says that they are no longer needed.
+void RemoveBackups(ustring const& app, const UpgradeJournal& journal,
+                   const UpgradeJournal::Record& record) {
+    for (int n = 0; n <= std::max(record.backup, 0); ++n) {
         FSRemove(GetAppBackupDir(app, n), false);  // what can't be removed is tried again next time
     }
     journal.remove();
 }
 
-int AttemptOf(ustring const& app, ustring const& backup) {
-    int n = 0;
-    while (n < kMaxAppBackups - 1 && GetAppBackupDir(app, n) != backup) {
-        ++n;
+// Removes what a first installation has left, unless something else has taken its place.
+bool RemoveRest(ustring const& app, ustring const& object) {
+    if (UpgradeJournal::IsAt(app, object)) {
+        LOG_MSG(WARNING, "a first installation was not finished, removing '%s'\n", app.c_str());
+        FSRemove(app, false);
     }
-    return n;
+    return !UpgradeJournal::IsAt(app, object);
+}
+
+// Undoes an upgrade of which the record says that it was replacing the application. Returns whether
+// that is settled; otherwise the record must stay.
+bool Undo(ustring const& app, const UpgradeJournal::Record& record) {
+    if (record.backup == UpgradeJournal::kNoBackup) {
+        return RemoveRest(app, record.object);
+    }
+    const ustring backup = GetAppBackupDir(app, record.backup);
+    ustring in_place;
+    ustring aside;
+    if (!UpgradeJournal::Identify(app, in_place) || !UpgradeJournal::Identify(backup, aside)) {
+        return false;
+    }
+    if (in_place == record.object) {
+        LOG_MSG(WARNING, "an upgrade was cut off before it moved anything\n");
+        return true;
+    }
+    if (aside == record.object) {
+        LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
+                backup.c_str());
+        return PutBack(app, record) == 0;
+    }
+    LOG_MSG(WARNING, "an upgrade was cut off, and '%s' is gone; removing '%s'\n", backup.c_str(),
+            app.c_str());
+    return RemoveRest(app, in_place);
+}
+
+// One upgrade at a time works on the per-user folder, also when the launcher is installed twice.
+ustring UpgradeLockPath() {
+    return Service::GetUserTarnwellInstallPath() + "/.upgrade.lock";
 }
 
 // Whether a copy of the folder at path would be made inside it: whether the deepest folder that
@@ -260,60 +341,58 @@ void Service::LoadTargetVersion() {
 
 int Service::PrepareUserEnv() {
     const ustring app = user_app_path;
-    const UpgradeJournal journal(app);
+    const UpgradeJournal journal(GetUserTarnwellInstallPath());
+    const platform::InstanceLock lock(UpgradeLockPath().c_str());
     UpgradeJournal::Record record;
-    int attempt = 0;
-    if (IsFileExist(app, false)) {
-        attempt = MoveAside(app, journal, record);
-        if (attempt < 0) {
-            journal.remove();
-            return -1;
-        }
-    } else if (UpgradeJournal::Identify(app).empty()) {
-        journal.write(record);
+    if (lock.heldElsewhere() || journal.read(record) == UpgradeJournal::Found) {
+        LOG_MSG(ERROR, "another upgrade is not finished\n");
+        return -1;
     }
-    if (ExtractPackage() != 0 || HasLostClient(app, record.backup) || SyncApp(app) != 0) {
+    record = UpgradeJournal::Record();
+    if (!IsFileExist(app, false)) {
+        BeginInstallation(app, journal, record);
+    } else if (MoveAside(app, journal, record) != 0) {
+        journal.remove();
+        return -1;
+    }
+    if (ExtractPackage() != 0 || HasLostClient(app, record) || SyncApp(app) != 0) {
         RollBack(app, journal, record);
         return -1;
     }
     record.state = UpgradeJournal::Installed;
-    journal.write(record);
+    const bool settled = journal.write(record) == 0 || journal.remove() == 0;
     LOG_MSG(INFO, "user installation is ready, removing backup app\n");
-    RemoveBackups(app, attempt, journal);
+    if (settled) {
+        RemoveBackups(app, journal, record);
+    }
     return 0;
 }
 
 void Service::FinishCutOffUpgrade() {
-    const ustring app = user_app_path;
-    const UpgradeJournal journal(app);
+    const UpgradeJournal journal(GetUserTarnwellInstallPath());
     UpgradeJournal::Record record;
-    const UpgradeJournal::Finding finding = journal.read(record);
-    if (finding == UpgradeJournal::None) {
+    if (journal.read(record) == UpgradeJournal::None) {
         return;
     }
+    const platform::InstanceLock lock(UpgradeLockPath().c_str());
+    if (lock.heldElsewhere()) {
+        return;  // it isn't cut off, it is running
+    }
+    const UpgradeJournal::Finding finding = journal.read(record);
     if (finding == UpgradeJournal::Damaged) {
         LOG_MSG(WARNING, "removing '%s', which is no record of an upgrade\n",
                 journal.path().c_str());
-    } else if (record.state == UpgradeJournal::Installed) {
+        journal.remove();
+    } else if (finding == UpgradeJournal::Found && record.state == UpgradeJournal::Installed) {
         LOG_MSG(WARNING, "an upgrade was cut off after its end, removing backup app\n");
-        RemoveBackups(app, record.backup.empty() ? 0 : AttemptOf(app, record.backup), journal);
-        return;
-    } else if (record.backup.empty()) {
-        LOG_MSG(WARNING, "a first installation was cut off, removing '%s'\n", app.c_str());
-        if (FSRemove(app, false) != 0) {
-            return;
+        RemoveBackups(user_app_path, journal, record);
+    } else if (finding == UpgradeJournal::Found) {
+        if (Undo(user_app_path, record)) {
+            journal.remove();
+        } else {
+            LOG_MSG(ERROR, "failed to undo an upgrade that was cut off\n");
         }
-    } else if (UpgradeJournal::Identify(record.backup) == record.object) {
-        LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
-                record.backup.c_str());
-        if (PutBack(app, record.backup) != 0) {
-            LOG_MSG(ERROR, "failed to put '%s' back\n", record.backup.c_str());
-            return;
-        }
-    } else {
-        LOG_MSG(WARNING, "an upgrade was cut off before it moved anything\n");
     }
-    journal.remove();
 }
 
 void Service::RemoveAgedFolders() {

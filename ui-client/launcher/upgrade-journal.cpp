@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <string>
 
 #include "lib/config/config.h"
 #include "lib/libclient/file-op.h"
@@ -20,10 +20,13 @@ namespace {
 const ustring log_component("service_debug");
 
 const char* const kStates[] = {"replacing", "installed"};
+const char kNone[] = "none";
 
-// Writes the text into the file, the file to the disk and its name into the folder.
+// Makes a new file of the text, and puts both the file and its name on the disk. What had the name
+// before is gone then; it is not written to.
 int WriteDurably(const ustring& path, const ustring& folder, const ustring& text) {
-    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600);
+    unlink(path.c_str());  // when it fails, so does the open
+    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (fd < 0) {
         return -1;
     }
@@ -34,71 +37,48 @@ int WriteDurably(const ustring& path, const ustring& folder, const ustring& text
     return written && closed ? platform::SyncFolder(folder.c_str()) : -1;
 }
 
-bool IsState(const ustring& text, UpgradeJournal::State& state) {
-    for (const UpgradeJournal::State known :
-         {UpgradeJournal::Replacing, UpgradeJournal::Installed}) {
-        if (text == kStates[known]) {
-            state = known;
-            return true;
-        }
-    }
-    return false;
+bool ParseState(const ustring& text, UpgradeJournal::State& state) {
+    state = text == kStates[UpgradeJournal::Installed] ? UpgradeJournal::Installed
+                                                       : UpgradeJournal::Replacing;
+    return text == kStates[state];
 }
 
-// Whether the text is one that Identify() makes, or empty.
+bool ParseBackup(const ustring& text, int& backup) {
+    const bool is_number = text.size() == 1 && text[0] >= '0' && text[0] <= '9';
+    backup = is_number ? text[0] - '0' : UpgradeJournal::kNoBackup;
+    return is_number || text == kNone;
+}
+
 bool IsIdentity(const ustring& text) {
-    const char* const digits = "0123456789";
-    const ustring::size_type dash = text.find_first_not_of(digits);
-    return text.empty() ||
-           (dash != ustring::npos && dash != 0 && text[dash] == '-' && dash + 1 < text.size() &&
-            text.find_first_not_of(digits, dash + 1) == ustring::npos);
-}
-
-// Turns the name of a backup into its path; false when it isn't one of the application's.
-bool IsBackup(const ustring& name, const ustring& app, ustring& path) {
-    for (int n = 0; n < kMaxAppBackups; ++n) {
-        path = GetAppBackupDir(app, n);
-        if (path.substr(path.rfind('/') + 1) == name) {
-            return true;
-        }
-    }
-    return false;
+    return !text.empty() && text.find_first_not_of("0123456789") == ustring::npos;
 }
 
 }  // namespace
 
-ustring GetAppBackupDir(ustring const& app, int n) {
-    ustring backup = app + "_tmp";
-    if (n == 0) {
-        return backup;
-    }
-    char postfix[8];
-    if (std::snprintf(postfix, sizeof postfix, "%d", n) < 0) {
-        LOG_MSG(ERROR, "snprintf failed (continuing without postfix)");
-        postfix[0] = 0;
-    }
-    return backup += postfix;
-}
+UpgradeJournal::UpgradeJournal(const ustring& folder)
+    : folder_(folder), path_(folder + "/upgrade.journal") {}
 
-UpgradeJournal::UpgradeJournal(const ustring& app)
-    : app_(app), folder_(app.substr(0, app.rfind('/') + 1)), path_(folder_ + "upgrade.journal") {}
-
-ustring UpgradeJournal::Identify(const ustring& path) {
+bool UpgradeJournal::Identify(const ustring& path, ustring& object) {
+    object.clear();
     struct stat status;
     if (lstat(path.c_str(), &status) != 0) {
-        return ustring();
+        return errno == ENOENT;
     }
-    char text[64];
-    std::snprintf(text, sizeof text, "%ju-%ju", static_cast<std::uintmax_t>(status.st_dev),
-                  static_cast<std::uintmax_t>(status.st_ino));
-    return ustring(text);
+    object = std::to_string(status.st_ino);
+    return true;
+}
+
+bool UpgradeJournal::IsAt(const ustring& path, const ustring& object) {
+    ustring there;
+    return Identify(path, there) && !there.empty() && there == object;
 }
 
 int UpgradeJournal::write(const Record& record) const {
     ustring text("state=");
     text += kStates[record.state];
-    text += ustring("\nbackup='") + record.backup.substr(record.backup.rfind('/') + 1);
-    text += ustring("'\nobject='") + record.object + "'\n";
+    text += "\nbackup=";
+    text += record.backup == kNoBackup ? std::string(kNone) : std::to_string(record.backup);
+    text += ustring("\nobject=") + record.object + "\n";
     if (WriteDurably(path_, folder_, text) == 0) {
         return 0;
     }
@@ -116,16 +96,17 @@ UpgradeJournal::Finding UpgradeJournal::read(Record& record) const {
     if (info.type != FILE_TYPE_REG || config.read(path_) != 0 || config.entries.size() != 3) {
         return Damaged;
     }
-    const ustring backup = config.entries["backup"];
     record.object = config.entries["object"];
-    record.backup.clear();
-    const bool known = IsState(config.entries["state"], record.state) &&
-                       IsIdentity(record.object) && backup.empty() == record.object.empty() &&
-                       (backup.empty() || IsBackup(backup, app_, record.backup));
+    const bool known = ParseState(config.entries["state"], record.state) &&
+                       ParseBackup(config.entries["backup"], record.backup) &&
+                       IsIdentity(record.object);
     return known && config.entries.size() == 3 ? Found : Damaged;
 }
 
 int UpgradeJournal::remove() const {
-    const int removed = FSRemove(path_, false);
-    return removed == 0 ? platform::SyncFolder(folder_.c_str()) : removed;
+    if (platform::SyncFolder(folder_.c_str()) != 0 || FSRemove(path_, false) != 0) {
+        LOG_MSG(WARNING, "failed to remove '%s': %s (%d)\n", path_.c_str(), strerror(errno), errno);
+        return -1;
+    }
+    return platform::SyncFolder(folder_.c_str());
 }

@@ -7,52 +7,51 @@
 // know to finish or undo an upgrade that was cut off. It is a key=value file:
 //
 //   state=replacing | installed   what the run was doing
-//   backup=Tarnwell.app_tmp       the name under which the old application is or will be kept,
-//                                 beside it; '' when there was none
-//   object=2049-131077            device and inode of the old application's folder, which a rename
-//                                 keeps: it tells whether the folder has been moved; '' for none
+//   backup=0 ... 9 | none         the number of the backup that holds, or will hold, the old
+//                                 application; none for a first installation
+//   object=131077                 the inode of the old application, or of the folder that was made
+//                                 for a first installation. A rename keeps it, so it tells what is
+//                                 where; device numbers can change from one start of the system to
+//                                 the next and are left out
 //
-// Used by one thread. Failures are logged and returned; what was on the disk before stays, or is
-// damaged in a way that read() notices.
+// Used by one thread. Failures are logged and returned.
 class UpgradeJournal {
   public:
     enum State : int { Replacing, Installed };
+    enum : int { kNoBackup = -1, kMaxBackups = 10 };
 
     struct Record {
         State state = Replacing;
-        ustring backup;  // a path, empty when there was no old application
+        int backup = kNoBackup;
         ustring object;
     };
 
     // What read() finds.
     enum Finding : int { None, Damaged, Found };
 
-    explicit UpgradeJournal(const ustring& app);  // the application folder that is being replaced
+    explicit UpgradeJournal(const ustring& folder);  // the one that holds the application
 
     // The identity of the object at path, for Record::object; empty when nothing is there.
-    static ustring Identify(const ustring& path);
+    // false when the system doesn't tell.
+    static bool Identify(const ustring& path, ustring& object);
+    static bool IsAt(const ustring& path, const ustring& object);
 
-    // Writes the record; it is on the disk when this returns 0. -1 leaves no valid record.
+    // Writes the record; it is on the disk when this returns 0. -1 leaves no record, if at all
+    // possible.
     int write(const Record& record) const;
 
-    // Reads the record. Damaged stands for whatever isn't a record that write() could have made:
-    // another kind of file, other keys, a backup that isn't one of this application's.
+    // Reads the record. Damaged stands for whatever isn't a record that write() could have made.
     Finding read(Record& record) const;
 
-    // Removes the record, or what stands in its place; the removal is on the disk when this
-    // returns 0.
+    // Removes the record, or what stands in its place, when what was renamed before is on the disk;
+    // the removal is there, too, when this returns 0.
     int remove() const;
 
     const ustring& path() const { return path_; }
 
   private:
-    const ustring app_;
     const ustring folder_;
     const ustring path_;
 };
-
-// The name under which the application folder is moved aside at attempt n (0 to 9).
-ustring GetAppBackupDir(ustring const& app, int n);
-const int kMaxAppBackups = 10;
 
 #endif

@@ -73,7 +73,9 @@ void EndProcess(pid_t pid) {
         if (IsGone(pid)) {
             return;
         }
-        sleep(1);
+        for (unsigned left = 1; left > 0; left = sleep(left)) {
+            // a signal may end the sleep too early
+        }
     }
     static_cast<void>(kill(pid, SIGKILL));  // it may have ended meanwhile
 }
