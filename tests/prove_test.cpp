@@ -217,13 +217,26 @@ class ProveTest : public testing::Test {
         check(!Exists(installation_.user("upgrade.journal")), what + ": the record is left");
     }
 
-    void sweepPowerCuts(Start start);
     void sweepKills(Start start) {
         const int calls = countCalls(start);
         for (int k = 1; k <= calls; k += Stride()) {
             arrange(start);
             check(traced(k).end == 1000 + SIGKILL, "not killed");
             checkRecovery(start, "killed at call " + std::to_string(k));
+        }
+    }
+
+    void sweepPowerCuts(Start start) {
+        const int calls = countCalls(start);
+        for (const bool lost : {true, false}) {
+            for (int k = 1; k <= calls; k += Stride()) {
+                arrange(start);
+                Disk disk(installation_.user());
+                traced(k, 0, &disk);
+                lost ? disk.loseTheRest() : disk.emptyTheRest();
+                checkRecovery(start, std::string(lost ? "lost" : "emptied") + " at call " +
+                                         std::to_string(k));
+            }
         }
     }
 
@@ -284,17 +297,10 @@ TEST_F(ProveTest, CallsThatFail) {
 }
 
 TEST_F(ProveTest, APowerCut) {
-    const int calls = countCalls(Upgrade);
-    for (const bool lost : {true, false}) {
-        for (int k = 1; k <= calls; k += Stride()) {
-            arrange(Upgrade);
-            Disk disk(installation_.user());
-            traced(k, 0, &disk);
-            lost ? disk.loseTheRest() : disk.emptyTheRest();
-            checkRecovery(Upgrade,
-                          std::string(lost ? "lost" : "emptied") + " at call " + std::to_string(k));
-        }
-    }
+    sweepPowerCuts(Upgrade);
+    sweepPowerCuts(Install);
+    damagePackage();
+    sweepPowerCuts(Rollback);
 }
 
 TEST_F(ProveTest, SignalsDuringAnUpgrade) {

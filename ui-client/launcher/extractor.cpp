@@ -169,15 +169,18 @@ const char* Target::linkRefusal(const char* target) {
 const char* Target::refusal(archive_entry* entry) {
     const char* const name = archive_entry_pathname(entry);
     const char* const hardlink = archive_entry_hardlink(entry);
-    // The text formats can call a link a folder; the writer makes a link.
-    const bool folder = archive_entry_filetype(entry) == AE_IFDIR && hardlink == nullptr &&
-                        archive_entry_symlink(entry) == nullptr;
+    const bool folder = archive_entry_filetype(entry) == AE_IFDIR && hardlink == nullptr;
     std::string path;
     if (name == nullptr || !resolve(name, path)) {
         return nullptr;  // rewrite() finds the one, the writer the other
     }
     if (IsNode(entry)) {
         return "is a pipe, socket or device";
+    }
+    // The text formats can call a link a file or a folder. The writer makes the link, and then
+    // gives what it leads to the rights of the file.
+    if (archive_entry_symlink(entry) != nullptr && archive_entry_filetype(entry) != AE_IFLNK) {
+        return "is a link and something else";
     }
     if (path == root_ && !folder) {
         return "would replace the target folder";
