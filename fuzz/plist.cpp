@@ -1,0 +1,52 @@
+// The executable's name in an Info.plist, on arbitrary files.
+
+#include "fuzz/support.h"
+#include "lib/platform/open-bundle.h"
+
+namespace {
+
+bool IsFileName(const QString& text) {
+    for (const QChar unit : text) {
+        if (unit == QLatin1Char('/') || unit.isNull()) {
+            return false;
+        }
+    }
+    return !text.isEmpty() && text != QLatin1String(".") && text != QLatin1String("..");
+}
+
+// The text as the name in an otherwise sound file.
+QByteArray Wrapped(const QString& name) {
+    return QByteArrayLiteral(
+               "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict>"
+               "<key>LSMinimumSystemVersion</key><string>10.12</string>"
+               "<key>Nested</key><dict><key>CFBundleExecutable</key><string>no</string></dict>"
+               "<key>CFBundleExecutable</key><string>") +
+           name.toHtmlEscaped().toUtf8() + QByteArrayLiteral("</string></dict></plist>");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const Scratch scratch;
+    static const std::string contents = scratch / "bundle.app/Contents";
+    static const bool made = std::filesystem::create_directories(contents);
+    REQUIRE(made);
+
+    const std::string file = TextOf(data, size);
+    const QByteArray bytes(file.data(), static_cast<int>(file.size()));
+    const QString name = platform::BundleExecutable(bytes);
+    REQUIRE(name.isEmpty() || IsFileName(name));
+
+    QString text = QString::fromUtf8(bytes);
+    const QString read = platform::BundleExecutable(Wrapped(text));
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    REQUIRE(read.isEmpty() || (read == text && IsFileName(read)));
+    REQUIRE(platform::BundleExecutable(Wrapped(QStringLiteral("Tarnwell"))) ==
+            QLatin1String("Tarnwell"));
+
+    // Whatever the file names, this bundle has no executable.
+    WriteFile(contents + "/Info.plist", file);
+    REQUIRE(!platform::OpenBundle(QString::fromStdString(scratch / "bundle.app")));
+    return 0;
+}
