@@ -140,10 +140,9 @@ void BeginInstallation(ustring const& app, const UpgradeJournal& journal,
 // Whether the new application lacks the client that the old one had: then the package is a wrong
 // one, and the user keeps what works.
 bool HasLostClient(ustring const& app, const UpgradeJournal::Record& record) {
-    const ustring client = "/Contents/MacOS/tarnwell-ui";
     if (record.backup == UpgradeJournal::kNoBackup ||
-        !IsFileExist(GetAppBackupDir(app, record.backup) + client, false) ||
-        IsFileExist(app + client, false)) {
+        !IsFileExist(Service::GetClientPath(GetAppBackupDir(app, record.backup)), false) ||
+        IsFileExist(Service::GetClientPath(app), false)) {
         return false;
     }
     LOG_MSG(ERROR, "the package has no client\n");
@@ -437,6 +436,10 @@ ustring Service::GetUserTarnwellAppInstallPath() {
 
 ustring Service::GetUserTarnwellDataInstallPath() {
     return GetUserTarnwellInstallPath() + "/" + "data";
+}
+
+ustring Service::GetClientPath(ustring const& app) {
+    return app + "/" + "Contents/MacOS" + "/" + "tarnwell-ui";
 }
 
 ustring Service::GetRootTarnwellInstallPath() {

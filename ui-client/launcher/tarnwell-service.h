@@ -67,6 +67,9 @@ class Service {
     static ustring GetRootTarnwellInstallPath();          // the bundle that holds the executable
     static ustring GetRootTarnwellResourceInstallPath();  // its Contents/Resources
 
+    // The client's executable in an application folder; where it is, the application is installed.
+    static ustring GetClientPath(ustring const& app);
+
   protected:
     std::int32_t timeout = 0;  // for services that wait; nothing reads it
     ustring user_app_path;     // set by the platform's service

@@ -25,10 +25,6 @@ const int kTimeout = 10000;
 const int kProbes = 5;              // one a second, before SIGKILL
 const std::time_t kStartGrace = 5;  // seconds by which the clocks of files and processes may differ
 
-ustring ClientPath(const ustring& app) {
-    return app + "/" + "Contents/MacOS" + "/" + "tarnwell-ui";
-}
-
 int BuildNumber(const VerInfo& version) {
     return version.build_version.empty() ? 0 : std::atoi(version.build_version.c_str());
 }
@@ -130,7 +126,7 @@ void MacService::StopService() {
         return;
     }
     const pid_t pid = ClientPid(config.entries, pid_file);
-    if (pid > 0 && !IsAnother(pid, pid_file, ClientPath(user_app_path))) {
+    if (pid > 0 && !IsAnother(pid, pid_file, GetClientPath(user_app_path))) {
         EndProcess(pid);
     }
 }
@@ -142,7 +138,7 @@ void MacService::PostUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
-    return access(ClientPath(user_app_path).c_str_utf8(), F_OK) == 0;
+    return access(GetClientPath(user_app_path).c_str_utf8(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin() {
