@@ -17,10 +17,13 @@
 #include "lib/libtmpname/tmp_name_gen.h"
 #include "lib/platform/core-services.h"
 #include "lib/platform/file-system-type.h"
+#include "lib/platform/handles.h"
 
 #define LOG_SOURCE "file-op"
 
 namespace {
+
+using platform::Descriptor;
 
 const ustring log_component("file_op_debug");
 
@@ -29,6 +32,8 @@ const std::uint16_t kDefaultMode = 0xFFFF;
 const UInt32 kPathSize = 4096;
 const int kCopySize = 32 * 1024 * 1024;
 const std::size_t kMaxOpenFolders = 32;  // of one walk, whatever its depth
+// Of a path that is made. With whole paths the system would walk the same folders again and again.
+const int kElementsPerName = 32;
 
 std::uint32_t uid = kUnchanged;
 std::uint32_t gid = kUnchanged;
@@ -72,28 +77,6 @@ bool IsDotOrDotDot(const char* name) {
     return name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0));
 }
 
-class Descriptor {
-  public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    ~Descriptor() {
-        if (fd_ >= 0) {
-            ::close(fd_);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return fd_; }
-    int close() {
-        const int fd = fd_;
-        fd_ = -1;
-        return ::close(fd);
-    }
-
-  private:
-    int fd_;
-};
-
 // An object named relative to an open folder. folder_path is for messages; without it the name is
 // a path of its own.
 struct Place {
@@ -101,8 +84,9 @@ struct Place {
     const char* name;
     const std::string* folder_path;
 
-    explicit Place(const ustring& path)
-        : folder(AT_FDCWD), name(path.c_str()), folder_path(nullptr) {}
+    explicit Place(const ustring& path) : Place(AT_FDCWD, path.c_str()) {}
+    Place(int in_folder, const char* entry)
+        : folder(in_folder), name(entry), folder_path(nullptr) {}
     Place(int in_folder, const char* entry, const std::string& path_of_folder)
         : folder(in_folder), name(entry), folder_path(&path_of_folder) {}
 
@@ -172,7 +156,7 @@ class FolderChain {
 
   private:
     struct Level {
-        std::unique_ptr<DIR, DirCloser> stream;
+        platform::DirStream stream;
         dev_t device = 0;
         ino_t inode = 0;
         std::string name;           // in the folder that holds it
@@ -182,14 +166,8 @@ class FolderChain {
     // Takes the descriptor over, a negative one too.
     static bool open(int fd, Level& level) {
         struct stat status;
-        if (fd < 0) {
-            return false;
-        }
-        if (fstat(fd, &status) == 0) {
-            level.stream.reset(fdopendir(fd));
-        }
-        if (level.stream == nullptr) {
-            ::close(fd);
+        level.stream = platform::OpenStream(fd);
+        if (level.stream == nullptr || fstat(fd, &status) != 0) {
             return false;
         }
         level.device = status.st_dev;
@@ -445,18 +423,10 @@ class NoUmask {
     const mode_t saved_;
 };
 
-void GiveToOwner(const char* path) {
-    if (uid == kUnchanged && gid == kUnchanged) {
-        return;
-    }
-    static_cast<void>(
-        chown(path, uid == kUnchanged ? geteuid() : uid, gid == kUnchanged ? getegid() : gid) == 0);
-}
-
 // Makes sure that one folder on FSMKDirP's way exists; -1 with errno set.
-int EnsureFolder(const char* path, bool last, bool force, mode_t mode) {
+int EnsureFolder(const Place& place, bool last, bool force, mode_t mode) {
     struct stat status;
-    if (stat(path, &status) == 0) {
+    if (fstatat(place.folder, place.name, &status, 0) == 0) {
         if (S_ISDIR(status.st_mode)) {
             return 0;
         }
@@ -464,15 +434,27 @@ int EnsureFolder(const char* path, bool last, bool force, mode_t mode) {
             errno = last ? EEXIST : ENOTDIR;
             return -1;
         }
-        if (std::remove(path) != 0) {
+        if (unlinkat(place.folder, place.name, 0) != 0) {
             return -1;
         }
     }
-    if (mkdir(path, mode) != 0) {
+    if (mkdirat(place.folder, place.name, mode) != 0) {
         return -1;
     }
-    GiveToOwner(path);
+    if (uid != kUnchanged || gid != kUnchanged) {
+        static_cast<void>(fchownat(place.folder, place.name, uid == kUnchanged ? geteuid() : uid,
+                                   gid == kUnchanged ? getegid() : gid, 0) == 0);
+    }
     return 0;
+}
+
+// Opens the folder that the next ones are named from. One that can't be read isn't opened.
+bool MoveTo(const Place& place, Descriptor& base) {
+    const int fd = openat(place.folder, place.name, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        base.reset(fd);
+    }
+    return fd >= 0;
 }
 
 bool CanonicalPath(const ustring& path, ustring& canonical, const char*& failed, OSStatus& status) {
@@ -645,19 +627,28 @@ int FSMKDirP(const ustring& path, char** end_out, bool force, std::uint16_t mode
     if (path.empty()) {
         return -1;
     }
-    std::string prefix(path.c_str());
+    std::string text(path.c_str());
     const bool exact_mode = mode != kDefaultMode;
     const NoUmask no_umask(exact_mode);
+    Descriptor base(-1);    // the folder from which the next ones are named, once there is one
+    std::size_t start = 0;  // where the names from there begin
     std::size_t end = 0;
+    int elements = 0;
     int result = 0;
     for (bool last = false; !last && result == 0;) {
-        // The separator at which the search starts stays part of the prefix.
-        end = std::min(prefix.find('/', end + (prefix[end] == '/' ? 1 : 0)), prefix.size());
-        last = end + 1 >= prefix.size();
-        const char separator = prefix[end];
-        prefix[end] = 0;
-        result = EnsureFolder(prefix.c_str(), last, force, exact_mode ? mode : 0777);
-        prefix[end] = separator;
+        // The separator at which the search starts stays part of the name.
+        end = std::min(text.find('/', end + (text[end] == '/' ? 1 : 0)), text.size());
+        last = end + 1 >= text.size();
+        const char separator = text[end];
+        text[end] = 0;
+        const Place folder(base.get() >= 0 ? base.get() : AT_FDCWD, text.c_str() + start);
+        result = EnsureFolder(folder, last, force, exact_mode ? mode : 0777);
+        ++elements;
+        if (result == 0 && elements % kElementsPerName == 0 && !last && text[end + 1] != '/' &&
+            MoveTo(folder, base)) {
+            start = end + 1;
+        }
+        text[end] = separator;
     }
     if (end_out != nullptr) {
         *end_out = const_cast<char*>(path.c_str()) + end;

@@ -1,13 +1,10 @@
 #ifndef LIB_LIBCLIENT_FILE_OP_H
 #define LIB_LIBCLIENT_FILE_OP_H
 
-#include <dirent.h>
-#include <sys/types.h>
-
 #include <cstdint>
 #include <ctime>
-#include <memory>
 
+#include "lib/platform/handles.h"
 #include "ustring/ustring.h"
 
 // The file operations of the launcher.
@@ -51,10 +48,6 @@ struct _FILE_INFO_tag {
 bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b);
 bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b);
 
-struct DirCloser {
-    void operator()(DIR* stream) const { static_cast<void>(closedir(stream)); }
-};
-
 // A flag of FSOpenDir: fill the time and the size of each entry.
 enum : std::int32_t { DIR_OPEN_STAT = 1 };
 
@@ -62,7 +55,7 @@ enum : std::int32_t { DIR_OPEN_STAT = 1 };
 struct DIR_HANDLE {
     ustring path;  // as opened
     std::int32_t flags = 0;
-    std::unique_ptr<DIR, DirCloser> dir;  // none when closed
+    platform::DirStream dir;  // none when closed
 };
 
 struct DIR_ENTRY {

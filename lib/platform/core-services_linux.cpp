@@ -1,15 +1,16 @@
-#include <dirent.h>
 #include <fcntl.h>
 #include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
 #include "lib/platform/core-services.h"
+#include "lib/platform/handles.h"
 
 namespace {
 
@@ -65,9 +66,9 @@ bool IgnoresCase(int folder, const std::string& name) {
 // The name under which a folder that ignores letter case holds an object.
 std::string StoredName(int folder, const std::string& name) {
     std::string stored = name;
-    const int fd = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR* const stream = fd >= 0 ? fdopendir(fd) : nullptr;
-    while (const dirent* const entry = stream != nullptr ? readdir(stream) : nullptr) {
+    const platform::DirStream stream =
+        platform::OpenStream(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    while (const dirent* const entry = stream != nullptr ? readdir(stream.get()) : nullptr) {
         if (name == entry->d_name) {
             stored = name;  // one of two links that differ in their letter case
             break;
@@ -76,30 +77,44 @@ std::string StoredName(int folder, const std::string& name) {
             stored = entry->d_name;
         }
     }
-    if (stream != nullptr) {
-        closedir(stream);
-    }
     return stored;
 }
 
-// realpath() spells a path as it was asked for. That is as it is stored, except in folders that
+// What was resolved is spelled as it was asked for. That is as it is stored, except in folders that
 // ignore letter case. Goes down from folder to folder, so that each step costs the same.
 void SpellAsStored(char* path) {
-    int folder = open("/", O_PATH | O_DIRECTORY | O_CLOEXEC);
-    for (char* begin = path + 1; folder >= 0 && *begin != 0;) {
+    platform::Descriptor folder(open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    for (char* begin = path + 1; folder.get() >= 0 && *begin != 0;) {
         char* const end = begin + std::strcspn(begin, "/");
         const std::string name(begin, end);
-        if (IgnoresCase(folder, name)) {
-            std::memcpy(begin, StoredName(folder, name).c_str(), name.size());
+        if (IgnoresCase(folder.get(), name)) {
+            std::memcpy(begin, StoredName(folder.get(), name).c_str(), name.size());
         }
-        const int next = *end != 0 ? openat(folder, name.c_str(), O_PATH | O_CLOEXEC) : -1;
-        close(folder);
-        folder = next;
+        folder.reset(*end != 0 ? openat(folder.get(), name.c_str(), O_PATH | O_CLOEXEC) : -1);
         begin = *end != 0 ? end + 1 : end;
     }
-    if (folder >= 0) {
-        close(folder);
+}
+
+// The system tells the path of an open object; false when it can't, as without /proc, and when the
+// path has come to lead elsewhere.
+bool PathOfOpened(int fd, char* path) {
+    char link[32];
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
+    const ssize_t size = readlink(link, path, PATH_MAX);
+    if (size <= 0 || size >= PATH_MAX) {
+        return false;
     }
+    path[size] = 0;
+    struct stat opened;
+    struct stat named;
+    return fstat(fd, &opened) == 0 && lstat(path, &named) == 0 && IsSameObject(opened, named);
+}
+
+// The same as realpath(), which looks up every element of the path by its whole path.
+bool Resolve(const char* path, char* resolved) {
+    const platform::Descriptor object(open(path, O_PATH | O_CLOEXEC));
+    return object.get() >= 0 &&
+           (PathOfOpened(object.get(), resolved) || realpath(path, resolved) != nullptr);
 }
 
 }  // namespace
@@ -109,7 +124,7 @@ OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
     if (*text == 0) {
         return bdNamErr;
     }
-    if (realpath(text, ref->path) == nullptr) {
+    if (!Resolve(text, ref->path)) {
         return StatusOf(errno, text);
     }
     SpellAsStored(ref->path);

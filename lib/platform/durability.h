@@ -3,8 +3,8 @@
 
 namespace platform {
 
-// These return when what was written has reached the disk: 0, or -1 with errno set. On a volume that
-// knows no such request they do what it offers. Threads: any.
+// These return when what was written has reached the disk: 0, or -1 with errno set. On a volume
+// that knows no such request they do what it offers. Threads: any.
 
 int SyncFile(int fd);              // a file's data, or a folder's entries
 int SyncFolder(const char* path);  // the entries of the folder at path

@@ -5,16 +5,16 @@
 
 #include <cerrno>
 
+#include "lib/platform/handles.h"
+
 namespace {
 
 int SyncOpened(const char* path, int (*sync)(int)) {
-    const int fd = open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0) {
+    const platform::Descriptor folder(open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.get() < 0) {
         return -1;
     }
-    const bool done = sync(fd) == 0 || errno == EINVAL || errno == ENOTSUP;
-    close(fd);  // nothing was written through it
-    return done ? 0 : -1;
+    return sync(folder.get()) == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : -1;
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "lib/platform/handles.h"
+
 namespace platform {
 
 int SyncFile(int fd) {
@@ -11,12 +13,8 @@ int SyncFile(int fd) {
 }
 
 int SyncFolder(const char* path) {
-    const int fd = open(path, O_RDONLY | O_CLOEXEC);
-    const int result = fd >= 0 ? SyncFile(fd) : -1;
-    if (fd >= 0) {
-        close(fd);
-    }
-    return result;
+    const Descriptor folder(open(path, O_RDONLY | O_CLOEXEC));
+    return folder.get() >= 0 ? SyncFile(folder.get()) : -1;
 }
 
 int SyncVolume(const char* path) {

@@ -12,6 +12,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/durability.h"
+#include "lib/platform/handles.h"
 
 #define LOG_SOURCE "upgrade-journal"
 
@@ -26,15 +27,12 @@ const char kNone[] = "none";
 // before is gone then; it is not written to.
 int WriteDurably(const ustring& path, const ustring& folder, const ustring& text) {
     unlink(path.c_str());  // when it fails, so does the open
-    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (fd < 0) {
-        return -1;
-    }
+    platform::Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     const bool written =
-        write(fd, text.c_str(), text.size()) == static_cast<ssize_t>(text.size()) &&
-        platform::SyncFile(fd) == 0;
-    const bool closed = close(fd) == 0;
-    return written && closed ? platform::SyncFolder(folder.c_str()) : -1;
+        file.get() >= 0 &&
+        write(file.get(), text.c_str(), text.size()) == static_cast<ssize_t>(text.size()) &&
+        platform::SyncFile(file.get()) == 0;
+    return written && file.close() == 0 ? platform::SyncFolder(folder.c_str()) : -1;
 }
 
 bool ParseState(const ustring& text, UpgradeJournal::State& state) {

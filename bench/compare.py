@@ -1,0 +1,390 @@
+#!/usr/bin/env python3
+"""Measures the launcher beside its peers and writes the table of ratios.
+
+Both sides of a comparison run in turn, in pairs that change their order, on the same data and the
+same file system. A row's figure is the median of the pairs' ratios; the spread is their quartiles.
+"""
+
+import argparse
+import contextlib
+import json
+import os
+import pathlib
+import platform
+import random
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+SEED = 20
+TREE_FILES, TREE_FOLDERS, TREE_BYTES = 3000, 60, 150_000_000
+GROWTH = (100, 1000, 10_000, 100_000)
+DEPTHS = (250, 500, 1000)
+
+
+# == Data
+
+def write_tree(root, files, folders, sizes, content):
+    names = [root / "Contents" / "Resources" / f"part{i:02d}" for i in range(folders)]
+    for name in names:
+        name.mkdir(parents=True)
+    for i in range(files):
+        path = names[i % folders] / f"file{i:06d}.bin"
+        path.write_bytes(content(sizes[i]))
+    (root / "Contents" / "MacOS").mkdir()
+    client = root / "Contents" / "MacOS" / "tarnwell-ui"
+    shutil.copy("/bin/true", client)
+    (root / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
+
+
+def make_application(root):
+    """An application of a real one's size: few large files, many small ones, half of them code and
+    text that shrinks to a half and less, half of them pictures and the like that don't."""
+    rng = random.Random(SEED)
+    weights = [rng.lognormvariate(0, 1.9) for _ in range(TREE_FILES)]
+    sizes = [max(1, int(TREE_BYTES * w / sum(weights))) for w in weights]
+    words = [rng.randbytes(rng.randint(2, 12)) for _ in range(4000)]
+
+    def content(size):
+        packed = rng.randbytes(size // 2 if rng.random() < 0.5 else 0)
+        chosen = rng.choices(words, cum_weights=range(1, 4001), k=max(1, size // 6))
+        return (packed + b"".join(chosen) * 2)[:size]
+
+    write_tree(root, TREE_FILES, TREE_FOLDERS, sizes, content)
+
+
+def pack(root, archive):
+    members = sorted(str(p.relative_to(root)) for p in root.rglob("*"))
+    listing = "\n".join(members)
+    format_of = {".zip": ["--format", "zip"], ".gz": ["--format", "ustar", "-z"]}[archive.suffix]
+    subprocess.run(["bsdtar", *format_of, "-cf", archive, "-C", root, "-n", "-T", "-"], input=listing,
+                   text=True, check=True)
+
+
+# == Measuring
+
+class Row:
+    def __init__(self, what, peer, limit):
+        self.what, self.peer, self.limit, self.ratios, self.note = what, peer, limit, [], ""
+
+    def add(self, ours, peers):
+        self.ratios.append(ours / peers)
+        self.note = f"{ours * 1e3:.3g} ms beside {peers * 1e3:.3g} ms"
+
+    @property
+    def ratio(self):
+        return statistics.median(self.ratios)
+
+    @property
+    def reached(self):
+        return self.limit is None or self.ratio <= self.limit
+
+    def cells(self):
+        low, _, high = statistics.quantiles(self.ratios, n=4) if len(self.ratios) > 1 else [self.ratio] * 3
+        limit = "" if self.limit is None else f"{self.limit:.2f}"
+        return [self.what, self.peer, f"{self.ratio:.2f}", f"{low:.2f} to {high:.2f}", limit,
+                "" if self.reached else "**missed**", self.note]
+
+
+class Bench:
+    def __init__(self, build, folder, pairs):
+        self.tool = build / "bench" / "bench-files"
+        self.library = build / "bench" / "bench-library"
+        self.empty = build / "bench" / "bench-empty-dialog"
+        self.built_bundle = build / "Tarnwell.app"
+        self.folder, self.pairs, self.rows = folder, pairs, []
+
+    def pairs_of(self, row, ours, peers, prepare=lambda: None, count=None):
+        """Runs both sides in pairs; each returns its seconds, after prepare()."""
+        self.rows.append(row)
+        for i in range((count or self.pairs) + 1):
+            seconds = {}
+            for side in (ours, peers) if i % 2 else (peers, ours):
+                prepare()
+                seconds[side] = side()
+            if i > 0:  # the first pair warms up
+                row.add(seconds[ours], seconds[peers])
+        print("  ".join(row.cells()[:5]), flush=True)
+
+    def run_tool(self, *arguments):
+        """Seconds of one operation, measured inside the tool, and the peak memory in KiB."""
+        done = subprocess.run([self.tool, *map(str, arguments)], check=True, capture_output=True, text=True)
+        seconds, memory = done.stdout.split()
+        return float(seconds), int(memory)
+
+    @staticmethod
+    def timed(*command, **options):
+        start = time.perf_counter()
+        subprocess.run([str(c) for c in command], check=True, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, **options)
+        return time.perf_counter() - start
+
+    def fresh(self, name):
+        """The path of something that isn't there, with everything written before on the disk."""
+        path = self.folder / name
+        if path.is_dir():
+            shutil.rmtree(path)
+        elif path.exists():
+            path.unlink()
+        subprocess.run(["sync", "-f", self.folder], check=True)
+        return path
+
+    def copy_of(self, tree, name):
+        path = self.fresh(name)
+        subprocess.run(["cp", "-r", tree, path], check=True)
+        subprocess.run(["sync", "-f", path], check=True)
+        return path
+
+    # == The rows
+
+    def upgrade(self, tree, package, limit, label):
+        home = self.folder / "home"
+        app = home / ".Tarnwell" / "Tarnwell.app"
+        bundle = self.folder / "bundle" / "Tarnwell.app"
+        if not bundle.exists():
+            shutil.copytree(self.built_bundle, bundle)
+        shutil.copy(package, bundle / "Contents" / "Resources" / "package" / "tarnwell.opk")
+        (bundle / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
+        environment = {"HOME": str(home), "QT_QPA_PLATFORM": "offscreen", "PATH": os.environ["PATH"],
+                       "XDG_RUNTIME_DIR": str(self.folder)}
+
+        def prepare():
+            self.fresh("home")
+            app.parent.mkdir(parents=True)
+            self.copy_of(tree, "home/.Tarnwell/Tarnwell.app")
+            (app / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=1\n")
+
+        def ours():
+            seconds = self.timed(bundle / "Contents" / "MacOS" / "tarnwell-launcher", env=environment)
+            left = sorted(p.name for p in app.parent.glob("[Tu]*"))
+            if "=2" not in (app / "Contents/Resources/INFO").read_text() or left != ["Tarnwell.app"]:
+                sys.exit(f"the launcher did not upgrade: {left}")
+            return seconds
+
+        script = f'mv "$1" "$1"_tmp && mkdir "$1" && bsdtar -xf "{package}" -C "$1" && sync -f "$1" && rm -rf "$1"_tmp'
+        self.pairs_of(Row(f"a whole upgrade, {label}", "`mv`, `bsdtar`, `sync -f`, `rm -rf`", limit), ours,
+                      lambda: self.timed("sh", "-c", script, "sh", app), prepare)
+        if label == "zip":
+            self.pairs_of(Row("a run with nothing to do", "an empty Qt program", 1.10),
+                          lambda: self.timed(bundle / "Contents/MacOS/tarnwell-launcher", env=environment),
+                          lambda: self.timed(self.empty, env=environment), count=40)
+
+    def unpacking(self, package):
+        target = self.folder / "unpacked"
+
+        def prepare():
+            self.fresh("unpacked").mkdir()
+
+        self.pairs_of(Row("unpacking alone, zip", "`bsdtar -xf`", 0.95),
+                      lambda: self.run_tool("unpack", package, target)[0],
+                      lambda: self.timed("bsdtar", "-xf", package, "-C", target), prepare)
+
+    def removing(self, tree):
+        self.pairs_of(Row("`FSRemove` of the tree", "`rm -rf`", 1.0),
+                      lambda: self.run_tool("remove", self.folder / "copy")[0],
+                      lambda: self.timed("rm", "-rf", self.folder / "copy"),
+                      lambda: self.copy_of(tree, "copy"))
+
+    def copying(self, tree):
+        large = self.folder / "large"
+        if not large.exists():
+            with open(large, "wb") as file:
+                for i in range(64):
+                    file.write(random.Random(i).randbytes(1 << 24))
+        target = self.folder / "copied"
+        self.pairs_of(Row("`FSCopy` of 1 GiB", "`cp`, `sync FILE`", 1.0),
+                      lambda: self.run_tool("copy", large, target)[0],
+                      lambda: self.timed("sh", "-c", 'cp "$1" "$2" && sync "$2"', "sh", large, target),
+                      lambda: self.fresh("copied"), count=5)
+        self.fresh("copied")
+        small = self.fresh("small")
+        small.mkdir()
+        for i in range(1000):
+            (small / str(i)).write_bytes(random.Random(i).randbytes(4096))
+        each = 'for file in "$1"/*; do cp "$file" "$2" && sync "$2/${file##*/}"; done'
+        self.pairs_of(Row("`FSCopy` of 4 KiB, 1,000 times", "`cp`, `sync FILE`", 1.0),
+                      lambda: self.run_tool("copy-each", small, target)[0],
+                      lambda: self.timed("sh", "-c", each, "sh", small, target),
+                      lambda: self.fresh("copied").mkdir(), count=3)
+        whole = 'cp -r "$1" "$2" && find "$2" -type f -exec sync {} +'
+        self.pairs_of(Row("`FSCopyPath` of the tree", "`cp -r`, `sync` of all files", 1.0),
+                      lambda: self.run_tool("copy-tree", tree, target)[0],
+                      lambda: self.timed("sh", "-c", whole, "sh", tree, target),
+                      lambda: self.fresh("copied"), count=5)
+        self.fresh("copied")
+
+    def small_operations(self):
+        environment = dict(os.environ, BENCH_LOG=str(self.folder / "bench.log"))
+        done = subprocess.run(
+            [self.library, "--benchmark_format=json", "--benchmark_repetitions=9", "--benchmark_min_time=0.05",
+             "--benchmark_enable_random_interleaving=true"],
+            env=environment, check=True, capture_output=True, text=True)
+        times = {}
+        for run in json.loads(done.stdout)["benchmarks"]:
+            if run["run_type"] == "iteration":
+                times.setdefault(run["name"].split("/")[0], []).append(run["cpu_time"])
+        limits = {"LogWritten_spdlog": 1.0, "LogDropped_lock_and_lookup": 1.5, "Compose_icu": 1.1}
+        for name in sorted(times):
+            ours, _, peer = name.partition("_")
+            if not peer:
+                continue
+            row = Row(ours, peer.replace("_", " "), limits.get(name))
+            for a, b in zip(times[ours], times[name]):
+                row.add(a * 1e-9, b * 1e-9)
+            row.note = f"{statistics.median(times[ours]):.0f} ns beside {statistics.median(times[name]):.0f} ns"
+            self.rows.append(row)
+            print("  ".join(row.cells()[:5]), flush=True)
+
+    def growth(self):
+        """Time and memory per entry, from the smallest archive to the largest."""
+        figures = {}
+        for entries in GROWTH:
+            tree = self.fresh("grown")
+            write_tree(tree, entries, max(1, entries // 50), [200] * entries, lambda size: b"x" * size)
+            count = sum(1 for _ in tree.rglob("*"))
+            for kind in ("zip", "tar.gz"):
+                archive = self.folder / f"grown-{entries}.{kind}"
+                pack(tree, archive)
+                times, peaks, removed = [], [], []
+                for _ in range(3 if entries > 5000 else 15):
+                    target = self.fresh("unpacked")
+                    target.mkdir()
+                    seconds, peak = self.run_tool("unpack", archive, target)
+                    times.append(seconds / count)
+                    peaks.append(peak)
+                    removed.append(self.run_tool("remove", target)[0] / count)
+                archive.unlink()
+                figures[kind, entries] = [statistics.median(v) for v in (times, peaks, removed)]
+            self.fresh("grown")
+        for kind in ("zip", "tar.gz"):
+            small, large = figures[kind, GROWTH[0]], figures[kind, GROWTH[-1]]
+            for index, what in enumerate(("time per entry, unpacking", "peak memory, unpacking",
+                                          "time per entry, removing")):
+                row = Row(f"{what} {kind}", f"{GROWTH[0]} entries (ours {GROWTH[-1]:,})", 1.3)
+                row.ratios.append(large[index] / small[index])
+                unit = "KiB" if index == 1 else "µs"
+                scale = 1 if index == 1 else 1e6
+                row.note = ", ".join(f"{figures[kind, n][index] * scale:.4g}" for n in GROWTH) + f" {unit}"
+                self.rows.append(row)
+                print("  ".join(row.cells()[:5]), row.note, flush=True)
+
+    def depth(self):
+        """What twice the depth costs: 2 is linear, 4 quadratic."""
+        def chain(depth):
+            return "/".join(["d"] * depth)
+
+        for operation in ("make-folders", "describe", "copy-tree", "remove"):
+            times = {}
+            for depth in DEPTHS:
+                samples = []
+                for _ in range(5):
+                    root = self.fresh("deep")
+                    root.mkdir()
+                    copied = self.fresh("deep-copy")
+                    path = root / chain(depth)
+                    made = self.run_tool("make-folders", path)[0]
+                    if operation == "make-folders":
+                        samples.append(made)
+                    elif operation == "describe":
+                        samples.append(self.run_tool("describe", path)[0])
+                    elif operation == "copy-tree":
+                        samples.append(self.run_tool("copy-tree", root, copied)[0])
+                        self.run_tool("remove", copied)
+                    else:
+                        samples.append(self.run_tool("remove", root)[0])
+                        continue
+                    self.run_tool("remove", root)
+                times[depth] = min(samples)
+            row = Row(f"depth: `{operation}`", f"{DEPTHS[-2]} deep (ours {DEPTHS[-1]:,})", 2.6)
+            row.ratios.append(times[DEPTHS[-1]] / times[DEPTHS[-2]])
+            row.note = ", ".join(f"{times[d] * 1e3:.3g}" for d in DEPTHS) + " ms"
+            self.rows.append(row)
+            print("  ".join(row.cells()[:5]), row.note, flush=True)
+
+
+# == The report
+
+def describe_machine(folder):
+    def first(path, key):
+        for line in pathlib.Path(path).read_text().splitlines():
+            if line.startswith(key):
+                return line.split(":", 1)[1].strip()
+        return "unknown"
+
+    kind = subprocess.run(["stat", "-f", "-c", "%T", folder], capture_output=True, text=True).stdout.strip()
+    return (f"{os.cpu_count()} cores ({first('/proc/cpuinfo', 'model name')}), "
+            f"{first('/proc/meminfo', 'MemTotal')} of memory, Linux {platform.release()}, {kind}")
+
+
+def write_report(path, rows, machine):
+    """Puts the table between the marks of the document."""
+    lines = [f"Measured on: {machine}.", "", "| what | beside | ratio | quartiles | to reach | | last pair |",
+             "|---|---|---|---|---|---|---|"]
+    lines += ["| " + " | ".join(row.cells()) + " |" for row in rows]
+    text = path.read_text()
+    begin, end = "<!-- table -->\n", "<!-- end of table -->\n"
+    head, rest = text.split(begin)
+    path.write_text(head + begin + "\n".join(lines) + "\n" + end + rest.split(end)[1])
+
+
+@contextlib.contextmanager
+def quiet_disk(folder):
+    """A folder to work in: the given one, or one on a file system in memory with a journal of its
+    own, whose times don't depend on what else uses the disk; mounting it takes root."""
+    with tempfile.TemporaryDirectory(dir=folder or "/dev/shm") as made:
+        root = pathlib.Path(made)
+        if folder or os.geteuid() != 0:
+            yield root
+            return
+        image = root / "image"
+        with open(image, "wb") as file:
+            file.truncate(5 << 30)
+        subprocess.run(["mkfs.ext4", "-q", image], check=True)
+        disk = root / "disk"
+        disk.mkdir()
+        subprocess.run(["mount", "-o", "loop", image, disk], check=True)
+        try:
+            yield disk
+        finally:
+            subprocess.run(["umount", "-l", disk], check=True)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("build", type=pathlib.Path)
+    parser.add_argument("report", type=pathlib.Path)
+    parser.add_argument("--dir", help="where to work (default: a file system in memory)")
+    parser.add_argument("--pairs", type=int, default=9)
+    parser.add_argument("--only", default="", help="rows to measure: upgrade, unpack, remove, copy, small, growth, depth")
+    options = parser.parse_args()
+    chosen = options.only.split(",") if options.only else None
+    with quiet_disk(options.dir) as folder:
+        bench = Bench(options.build.resolve(), folder, options.pairs)
+        tree = folder / "tree"
+        make_application(tree)
+        for suffix in ("zip", "tar.gz"):
+            pack(tree, folder / f"package.{suffix}")
+        parts = {
+            "upgrade": lambda: (bench.upgrade(tree, folder / "package.zip", 0.95, "zip"),
+                                bench.upgrade(tree, folder / "package.tar.gz", 1.15, "tar.gz")),
+            "unpack": lambda: bench.unpacking(folder / "package.zip"),
+            "remove": lambda: bench.removing(tree),
+            "copy": lambda: bench.copying(tree),
+            "small": bench.small_operations,
+            "growth": bench.growth,
+            "depth": bench.depth,
+        }
+        for name, measure in parts.items():
+            if chosen is None or name in chosen:
+                measure()
+        machine = describe_machine(folder)
+    if chosen is None:
+        write_report(options.report, bench.rows, machine)
+    return 0 if all(row.reached for row in bench.rows) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

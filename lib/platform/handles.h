@@ -1,0 +1,60 @@
+#ifndef LIB_PLATFORM_HANDLES_H
+#define LIB_PLATFORM_HANDLES_H
+
+#include <dirent.h>
+#include <unistd.h>
+
+#include <memory>
+
+namespace platform {
+
+// The owners of what the C library hands out. Threads: one object belongs to one thread.
+
+// Owns a file descriptor, or none when it is negative.
+class Descriptor {
+  public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() { reset(-1); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int get() const { return fd_; }
+    int release() {
+        const int fd = fd_;
+        fd_ = -1;
+        return fd;
+    }
+    // For what was written: 0, or -1 with errno set. It is closed in either case.
+    int close() { return ::close(release()); }
+    // Takes another one and releases its own, without a look at the result.
+    void reset(int fd) {
+        if (fd_ >= 0) {
+            ::close(fd_);
+        }
+        fd_ = fd;
+    }
+
+  private:
+    int fd_;
+};
+
+struct DirCloser {
+    void operator()(DIR* stream) const { static_cast<void>(closedir(stream)); }
+};
+
+// A folder that is being listed.
+typedef std::unique_ptr<DIR, DirCloser> DirStream;
+
+// A stream on an open folder, which it takes over; none, with errno set, on failure.
+inline DirStream OpenStream(int fd) {
+    Descriptor folder(fd);
+    DirStream stream(fd >= 0 ? fdopendir(fd) : nullptr);
+    if (stream != nullptr) {
+        folder.release();
+    }
+    return stream;
+}
+
+}  // namespace platform
+
+#endif
