@@ -1,0 +1,123 @@
+// The messages in docs/troubleshooting.md, compared with those in the sources.
+
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+#include <set>
+#include <tuple>
+
+#include "tests/support/scenario.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+typedef std::tuple<std::string, std::string, std::string> Message;  // level, source, format
+typedef std::set<Message> Messages;
+
+std::vector<std::smatch> All(const std::string& text, const std::regex& pattern) {
+    return {std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator()};
+}
+
+// The messages of one source: those of the log, and the warnings of the string type. The format
+// must be a literal, which may be in pieces on several lines; it is told as the source spells it.
+Messages InSource(const std::string& text, const std::string& name) {
+    static const std::regex skipped(
+        R"re(("(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])+')|//.*|/\*[\s\S]*?\*/|\\\n)re");
+    static const std::regex named(R"re(#define\s+LOG_SOURCE\s+"(.*)")re");
+    static const std::regex piece(R"re("((?:\\.|[^"\\])*)")re");
+    static const std::regex call(
+        R"re(\b(?:LOG_MSG|LOG_MSG_AT|LogMsg2?|LogMSG_c|Warn)\s*\((?!const))re");
+    static const std::regex understood(
+        R"re(\b(?:LOG_MSG\s*\(|LOG_MSG_AT\s*\(\s*\d+\s*,|Warn\s*\()\s*(?:(\w+)\s*,)?\s*)re"
+        R"re(((?:"(?:\\.|[^"\\])*"\s*)+)[,)])re");
+    const std::string code = std::regex_replace(text, skipped, "$1");
+    std::smatch source;
+    std::regex_search(code, source, named);
+    Messages messages;
+    for (const std::smatch& match : All(code, understood)) {
+        const std::string pieces = match[2];
+        std::string format;
+        for (const std::smatch& literal : All(pieces, piece)) {
+            format += literal[1];
+        }
+        messages.emplace(match[1].matched ? match[1].str() : "WARNING",
+                         source.empty() ? name : source[1].str(), format);
+    }
+    EXPECT_EQ(All(code, call).size(), All(code, understood).size())
+        << name << " logs in a way that this test can't read";
+    return messages;
+}
+
+Messages InSources() {
+    Messages messages;
+    for (const std::string folder : {"/lib", "/libcommon", "/ustring", "/ui-client"}) {
+        for (const auto& entry : fs::recursive_directory_iterator(SOURCE_DIR + folder)) {
+            const fs::path& path = entry.path();
+            const bool code = path.extension() == ".cpp" || path.extension() == ".h";
+            if (code && path.parent_path().filename() != "liblogger") {  // which defines the macros
+                messages.merge(InSource(ReadFile(path), path.stem()));
+            }
+        }
+    }
+    return messages;
+}
+
+class TroubleshootingTest : public testing::Test {
+  protected:
+    const Messages written_ = InSources();
+    const std::vector<std::string> document_ =
+        LinesWith(ReadFile(SOURCE_DIR "/docs/troubleshooting.md"), "");
+};
+
+TEST_F(TroubleshootingTest, ReadsCallsHoweverTheyAreBroken) {
+    const Messages expected = {{"ERROR", "a/b", R"(one // \"%s more\n)"},
+                               {"DEBUG", "a/b", "two"},
+                               {"WARNING", "a/b", "three"}};
+    EXPECT_EQ(InSource("#define LOG_SOURCE \\\n \"a/b\"\n// LOG_MSG(ERROR, \"no\");\n"
+                       "LOG_MSG(\n    ERROR, \"one // \\\"%s\"  // LOG_MSG(ERROR, \"no\")\n"
+                       "        \" more\" /* no */ \"\\n\", x);\n"
+                       "LOG_MSG_AT(\n    7, DEBUG,\n    \"two\");\nWarn(\"three\", 4)",
+                       "c"),
+              expected);
+}
+
+// The list at the end of the document: "### SOURCE", and below it "- LEVEL `FORMAT`".
+TEST_F(TroubleshootingTest, TheDocumentListsEveryErrorAndWarning) {
+    static const std::regex item("### (.*)|- (ERROR|WARNING) `(.*)`");
+    Messages unlisted = written_;
+    std::string source;
+    for (const std::string& line : document_) {
+        std::smatch match;
+        if (std::regex_match(line, match, item)) {
+            source = match[1].matched ? match[1].str() : source;
+            EXPECT_TRUE(match[1].matched || unlisted.erase({match[2], source, match[3]}) == 1)
+                << "twice in the document, or not in the source " << source << ": " << line;
+        }
+    }
+    for (const auto& [level, name, format] : unlisted) {
+        EXPECT_TRUE(level != "ERROR" && level != "WARNING")
+            << "not in the document: " << level << " of " << name << ": " << format;
+    }
+}
+
+// "[LEVEL] SOURCE(#): TEXT", the lines of logs that the document shows.
+TEST_F(TroubleshootingTest, TheDocumentShowsLinesThatCanBeWritten) {
+    static const std::regex shown(R"(.*\[(\w+)\] (\S+)\(#\): (.*))");
+    for (const std::string& text : document_) {
+        std::smatch line;
+        const auto is_line = [&](const Message& message) {
+            const auto& [level, source, format] = message;
+            const std::string exact =
+                std::regex_replace(format, std::regex(R"([.*+?^$()[\]{}|])"), R"(\$&)");
+            const std::regex pattern(std::regex_replace(exact, std::regex("%[sd]"), ".*"));
+            return level == line[1] && source == line[2] &&
+                   std::regex_match(line[3].str() + "\n", pattern);  // which the format ends with
+        };
+        EXPECT_TRUE(!std::regex_match(text, line, shown) ||
+                    std::any_of(written_.begin(), written_.end(), is_line))
+            << text;
+    }
+}
+
+}  // namespace
