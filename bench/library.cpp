@@ -4,7 +4,7 @@
 #include <pthread.h>
 #include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/spdlog.h>
-#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
 #include <unicode/unorm2.h>
 #include <unicode/ustring.h>
 
@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "lib/liblogger/log.h"
 #include "ustring/ustring.h"
@@ -170,23 +171,26 @@ void Compose(benchmark::State& state) {
 }
 BENCHMARK(Compose);
 
-// ICU's own two calls, to learn the size and to normalize, with the conversions from and to UTF-8
-// that every caller needs.
+// ICU's own calls: one that tells the size and one that fills a buffer of it, for the UTF-16 form,
+// the composed one and its UTF-8 form.
 void Compose_icu(benchmark::State& state) {
     for (auto _ : state) {
         UErrorCode error = U_ZERO_ERROR;
         const UNormalizer2* const nfc = unorm2_getNFCInstance(&error);
-        const icu::UnicodeString source = icu::UnicodeString::fromUTF8(kDecomposed);
-        const int32_t length =
-            unorm2_normalize(nfc, source.getBuffer(), source.length(), nullptr, 0, &error);
+        int32_t size = 0;
+        u_strFromUTF8(nullptr, 0, &size, kDecomposed, -1, &error);
+        std::vector<UChar> source(static_cast<std::size_t>(size) + 1);
         error = U_ZERO_ERROR;
-        icu::UnicodeString composed;
-        char16_t* const buffer = composed.getBuffer(length + 1);
-        unorm2_normalize(nfc, source.getBuffer(), source.length(), buffer, length + 1, &error);
-        composed.releaseBuffer(length);
-        std::string path;
-        composed.toUTF8String(path);
-        benchmark::DoNotOptimize(path.c_str());
+        u_strFromUTF8(source.data(), size + 1, nullptr, kDecomposed, -1, &error);
+        size = unorm2_normalize(nfc, source.data(), -1, nullptr, 0, &error);
+        std::vector<UChar> composed(static_cast<std::size_t>(size) + 1);
+        error = U_ZERO_ERROR;
+        unorm2_normalize(nfc, source.data(), -1, composed.data(), size + 1, &error);
+        u_strToUTF8(nullptr, 0, &size, composed.data(), -1, &error);
+        std::vector<char> path(static_cast<std::size_t>(size) + 1);
+        error = U_ZERO_ERROR;
+        u_strToUTF8(path.data(), size + 1, nullptr, composed.data(), -1, &error);
+        benchmark::DoNotOptimize(path.data());
     }
 }
 BENCHMARK(Compose_icu);

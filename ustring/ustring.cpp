@@ -550,15 +550,6 @@ ustring ustring::normalize(const ustring& source, normalization_form form) {
     return result;
 }
 
-bool operator==(const ustring& a, const ustring& b) {
-    return a.size() == b.size() && std::memcmp(a.c_str(), b.c_str(), a.size()) == 0;
-}
-
-bool operator<(const ustring& a, const ustring& b) {
-    const int order = std::memcmp(a.c_str(), b.c_str(), std::min(a.size(), b.size()));
-    return order != 0 ? order < 0 : a.size() < b.size();
-}
-
 namespace {
 
 template <typename Right>

@@ -1,7 +1,9 @@
 #ifndef USTRING_USTRING_H
 #define USTRING_USTRING_H
 
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <functional>
 #include <iosfwd>
 #include <string>
@@ -185,8 +187,14 @@ inline void swap(ustring& a, ustring& b) noexcept {
     a.swap(b);
 }
 
-bool operator==(const ustring& a, const ustring& b);
-bool operator<(const ustring& a, const ustring& b);  // by unsigned bytes, a prefix first
+inline bool operator==(const ustring& a, const ustring& b) {
+    return a.size() == b.size() && std::memcmp(a.c_str(), b.c_str(), a.size()) == 0;
+}
+// By unsigned bytes, a prefix first.
+inline bool operator<(const ustring& a, const ustring& b) {
+    const int order = std::memcmp(a.c_str(), b.c_str(), std::min(a.size(), b.size()));
+    return order != 0 ? order < 0 : a.size() < b.size();
+}
 inline bool operator!=(const ustring& a, const ustring& b) {
     return !(a == b);
 }

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <ctime>
+#include <string_view>
 
 #include "lib/config/config.h"
 
@@ -31,6 +32,28 @@ class LogLock {
     int cancel_state_ = PTHREAD_CANCEL_ENABLE;
 };
 
+// The local time in front of a message. To put it together takes as long as the rest of the line,
+// so the text is kept for as long as it is true: a second.
+class Stamp {
+  public:
+    std::string_view at(std::time_t now) {
+        if (now != second_) {
+            std::tm local{};
+            localtime_r(&now, &local);
+            size_ = std::strftime(text_, sizeof text_, "%b %d %H:%M:%S ", &local);
+            second_ = now;
+        }
+        return std::string_view(text_, size_);
+    }
+
+  private:
+    std::time_t second_ = -1;
+    std::size_t size_ = 0;
+    char text_[512];
+};
+
+Stamp stamp;  // under the log's mutex
+
 class RotatedName {
   public:
     RotatedName(const ustring& path, int number) {
@@ -49,17 +72,35 @@ std::atomic<std::FILE*> Logger::log_fp(stderr);
 int Logger::log_size = -1;
 int Logger::rotate_cnt = 0;
 ustring Logger::log_path;
-std::map<ustring, int> Logger::log_level;
+std::vector<std::pair<ustring, int>> Logger::log_level;
 pthread_mutex_t Logger::log_lock = PTHREAD_MUTEX_INITIALIZER;
+
+// Null for a component without one.
+int* Logger::FindThreshold(const ustring& component) {
+    for (auto& [name, threshold] : log_level) {
+        if (name == component) {
+            return &threshold;
+        }
+    }
+    return nullptr;
+}
+
+void Logger::SetThreshold(const ustring& component, int threshold) {
+    if (int* const known = FindThreshold(component)) {
+        *known = threshold;
+    } else {
+        log_level.emplace_back(component, threshold);
+    }
+}
 
 int Logger::Initialize(Type type, const ustring& path, const ustring& level_config_path,
                        int rotation_count) {
-    log_level["default_component"] = kDefaultThreshold;
+    SetThreshold("default_component", kDefaultThreshold);
     if (!level_config_path.empty()) {
         Config levels;
         levels.read(level_config_path);  // a file that can't be read has no entries
         for (const auto& [component, value] : levels.entries) {
-            log_level[component] = levels.get_int(component);
+            SetThreshold(component, levels.get_int(component));
         }
     }
     log_type = type;
@@ -111,9 +152,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* fmt, va_
     const int saved_errno = errno;
     {
         const LogLock lock(log_lock);
-        const auto entry = log_level.find(component);
-        const int threshold = entry == log_level.end() ? kDefaultThreshold : entry->second;
-        if (threshold >= level) {
+        const int* const threshold = FindThreshold(component);
+        if ((threshold != nullptr ? *threshold : kDefaultThreshold) >= level) {
             Write(fmt, args);
         }
     }
@@ -148,15 +188,11 @@ void Logger::Write(const char* fmt, va_list args) {
 
 // Returns the number of bytes, or a negative number after an output error.
 int Logger::WriteStamped(std::FILE* stream, const char* fmt, va_list args) {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    char stamp[512];
-    std::strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
-    const int stamp_bytes = std::fprintf(stream, "%s", stamp);
+    const std::string_view time = stamp.at(std::time(nullptr));
+    const bool stamped = std::fwrite(time.data(), 1, time.size(), stream) == time.size();
     const int message_bytes = std::vfprintf(stream, fmt, args);
     std::fflush(stream);
-    return stamp_bytes < 0 || message_bytes < 0 ? -1 : stamp_bytes + message_bytes;
+    return !stamped || message_bytes < 0 ? -1 : static_cast<int>(time.size()) + message_bytes;
 }
 
 // The stream is exchanged in one step, so that a thread that only looks whether there is one never

@@ -6,7 +6,8 @@
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
-#include <map>
+#include <utility>
+#include <vector>
 
 #include "ustring/ustring.h"
 
@@ -51,6 +52,8 @@ class Logger {
         __attribute__((format(printf, 3, 0)));
 
   private:
+    static int* FindThreshold(const ustring& component);
+    static void SetThreshold(const ustring& component, int threshold);
     static int Rotate();
     static void Write(const char* fmt, va_list args) __attribute__((format(printf, 1, 0)));
     static int WriteStamped(std::FILE* stream, const char* fmt, va_list args)
@@ -61,7 +64,9 @@ class Logger {
     static int log_size;  // bytes written since the file was opened or rotated; -1: not tracked
     static int rotate_cnt;
     static ustring log_path;
-    static std::map<ustring, int> log_level;
+    // Components and their thresholds. There are few, and most differ in their length already, so
+    // that to look at one after the other is the fastest.
+    static std::vector<std::pair<ustring, int>> log_level;
     static pthread_mutex_t log_lock;
 };
 
