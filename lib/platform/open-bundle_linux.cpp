@@ -1,10 +1,15 @@
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QXmlStreamReader>
+#include <vector>
 
 #include "lib/platform/open-bundle.h"
+#include "lib/platform/time-zone.h"
 
 namespace {
 
@@ -22,6 +27,53 @@ bool IsFileName(const QString& text) {
     return !text.isEmpty() && !text.contains(QLatin1Char('/')) &&
            !text.contains(QChar(QChar::Null)) && text != QLatin1String(".") &&
            text != QLatin1String("..");
+}
+
+// The actions and attributes of a program that is about to be started.
+class Start {
+  public:
+    Start() {
+        posix_spawn_file_actions_init(&actions);
+        posix_spawnattr_init(&attributes);
+    }
+    ~Start() {
+        posix_spawn_file_actions_destroy(&actions);
+        posix_spawnattr_destroy(&attributes);
+    }
+    Start(const Start&) = delete;
+    Start& operator=(const Start&) = delete;
+
+    posix_spawn_file_actions_t actions;
+    posix_spawnattr_t attributes;
+};
+
+std::vector<char*> EnvironmentToPassOn() {
+    std::vector<char*> entries;
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+        if (!platform::IsNamedTimeZone(*entry)) {
+            entries.push_back(*entry);
+        }
+    }
+    entries.push_back(nullptr);
+    return entries;
+}
+
+// Starts a program that outlives us: in a session of its own, in the home folder, without a hold on
+// a terminal or pipe of ours. A copy of this process, however short its life, would cost more than
+// the start itself.
+bool StartDetached(const QByteArray& program) {
+    Start start;
+    posix_spawnattr_setflags(&start.attributes, POSIX_SPAWN_SETSID);
+    const QByteArray home = QFile::encodeName(QDir::homePath());
+    posix_spawn_file_actions_addchdir_np(&start.actions, home.constData());
+    posix_spawn_file_actions_addopen(&start.actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&start.actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&start.actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    QByteArray name = program;
+    char* const arguments[] = {name.data(), nullptr};
+    pid_t pid = 0;
+    return posix_spawn(&pid, program.constData(), &start.actions, &start.attributes, arguments,
+                       EnvironmentToPassOn().data()) == 0;
 }
 
 }  // namespace
@@ -52,17 +104,7 @@ QString BundleExecutable(const QByteArray& info_plist) {
 bool OpenBundle(const QString& path) {
     const QString program = path + QStringLiteral("/Contents/MacOS/") + ReadExecutableName(path);
     const QFileInfo info(program);
-    if (!info.isFile() || !info.isExecutable()) {
-        return false;
-    }
-    QProcess process;
-    process.setProgram(program);
-    process.setWorkingDirectory(QDir::homePath());
-    // The application outlives us: it must not hold on to a terminal or pipe of ours.
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return process.startDetached();
+    return info.isFile() && info.isExecutable() && StartDetached(QFile::encodeName(program));
 }
 
 }  // namespace platform

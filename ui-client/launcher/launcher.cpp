@@ -1,8 +1,7 @@
 #include "ui-client/launcher/launcher.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFont>
-#include <QGuiApplication>
 #include <QIcon>
 #include <limits>
 
@@ -16,10 +15,20 @@ namespace {
 
 const ustring log_component("launcher_debug");
 
+QFont DialogFont() {
+    return QFont(QStringLiteral("Arial"), -1, -1, false);
+}
+
+// The dialog is laid out when it is made, before it has its own font: with the application's being
+// the same one, no other is loaded for that.
+ProcessingProgressDialog* MakeDialog() {
+    QApplication::setFont(DialogFont());
+    return new ProcessingProgressDialog;
+}
+
 }  // namespace
 
 ProcessingProgressDialog::ProcessingProgressDialog() {
-    const QFont font(QStringLiteral("Arial"), -1, -1, false);
     const QString icon = QString::fromUtf8(Service::GetRootTarnwellResourceInstallPath().c_str()) +
                          QStringLiteral("/images/ico_72_tarnwell.png");
     setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
@@ -28,7 +37,7 @@ ProcessingProgressDialog::ProcessingProgressDialog() {
     setValue(0);
     setRange(0, 100);
     setLabelText(StrTable::LoadStr(StrTable::kPreparing));
-    setFont(font);
+    setFont(DialogFont());
     setFixedWidth(400);
     setModal(true);
     setWindowModality(Qt::WindowModal);
@@ -98,7 +107,7 @@ void Worker::HandleServicce() {
     emit sigServiceDone();
 }
 
-Launcher::Launcher() : worker(new Worker), dialog(new ProcessingProgressDialog) {
+Launcher::Launcher() : worker(new Worker), dialog(MakeDialog()) {
     dialog->setCancelButton(nullptr);
     dialog->setAutoReset(false);
     // Left alone, a progress dialog shows itself after a while, also when there is no upgrade.

@@ -12,6 +12,7 @@
 #include "lib/platform/QtSingleApplication.h"
 #include "lib/platform/executable-path.h"
 #include "lib/platform/quit-on-signal.h"
+#include "lib/platform/time-zone.h"
 #include "libcommon/OrvLocale.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/tarnwell-service.h"
@@ -90,6 +91,7 @@ void InitializeLog() {
 
 int main(int argc, char** argv) {
     setlocale(LC_ALL, "");
+    platform::NameTimeZone();
     qInitResources_texts();
     UseUtf8InQt();
     const PlatformPluginPath plugin_path(SetLibraryPath(argc > 0 ? argv[0] : ""));
