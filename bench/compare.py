@@ -334,7 +334,7 @@ def write_report(path, rows, machine):
 def quiet_disk(folder):
     """A folder to work in: the given one, or one on a file system in memory with a journal of its
     own, whose times don't depend on what else uses the disk; mounting it takes root."""
-    with tempfile.TemporaryDirectory(dir=folder or "/dev/shm") as made:
+    with tempfile.TemporaryDirectory(dir=folder or os.environ.get("IMG","/dev/shm")) as made:
         root = pathlib.Path(made)
         if folder or os.geteuid() != 0:
             yield root

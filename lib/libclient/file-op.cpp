@@ -16,6 +16,7 @@
 #include "lib/liblogger/log.h"
 #include "lib/libtmpname/tmp_name_gen.h"
 #include "lib/platform/core-services.h"
+#include "lib/platform/durability.h"
 #include "lib/platform/file-system-type.h"
 #include "lib/platform/handles.h"
 
@@ -237,6 +238,7 @@ int CopyBytes(int from, int to) {
         if (result != 0) {
             return result;
         }
+        platform::StartWriting(to);  // goes on while the next chunk is read
     }
 }
 

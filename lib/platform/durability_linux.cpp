@@ -33,4 +33,15 @@ int SyncVolume(const char* path) {
     return SyncOpened(path, syncfs);
 }
 
+void StartWriting(int fd) {
+    static_cast<void>(sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE) == 0);
+}
+
+void StartWriting(const char* path) {
+    const Descriptor file(open(path, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    if (file.get() >= 0) {
+        StartWriting(file.get());
+    }
+}
+
 }  // namespace platform

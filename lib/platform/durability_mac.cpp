@@ -21,4 +21,8 @@ int SyncVolume(const char* path) {
     return sync_volume_np(path, SYNC_VOLUME_FULLSYNC | SYNC_VOLUME_WAIT);
 }
 
+// The system has no such request.
+void StartWriting(int) {}
+void StartWriting(const char*) {}
+
 }  // namespace platform

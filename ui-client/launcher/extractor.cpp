@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "lib/liblogger/log.h"
+#include "lib/platform/durability.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/translations/str-table.h"
 
@@ -21,6 +22,9 @@ namespace {
 const ustring log_component("extractor_debug");
 
 const std::size_t kBlockSize = 10240;  // bytes read from the archive file at a time
+// Bytes of a file that is worth a call of its own, to be on its way to the disk while the next ones
+// are unpacked.
+const la_int64_t kLargeFile = 64 * 1024;
 const int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
@@ -213,6 +217,9 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Target&
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
         return -1;
+    }
+    if (archive_entry_size(entry) >= kLargeFile && archive_entry_filetype(entry) == AE_IFREG) {
+        platform::StartWriting(archive_entry_pathname(entry));
     }
     return 0;
 }
