@@ -1,5 +1,4 @@
 #include <sys/mount.h>
-#include <sys/param.h>
 
 #include "lib/platform/file-system-type.h"
 

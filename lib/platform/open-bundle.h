@@ -14,7 +14,7 @@ bool OpenBundle(const QString& path);
 
 // The executable's name in the text of an Info.plist (XML): the value of the top-level key
 // CFBundleExecutable, empty when there is none, when it isn't a plain file name, and when the text
-// can't be read. Not needed, and not there, on macOS. Threads: any.
+// can't be read. Threads: any.
 QString BundleExecutable(const QByteArray& info_plist);
 
 }  // namespace platform

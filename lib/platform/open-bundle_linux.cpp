@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QXmlStreamReader>
 #include <vector>
 
 #include "lib/platform/open-bundle.h"
@@ -21,12 +20,6 @@ QString ReadExecutableName(const QString& bundle) {
                              ? platform::BundleExecutable(file.read(kMaxPlistSize))
                              : QString();
     return name.isEmpty() ? QFileInfo(bundle).completeBaseName() : name;
-}
-
-bool IsFileName(const QString& text) {
-    return !text.isEmpty() && !text.contains(QLatin1Char('/')) &&
-           !text.contains(QChar(QChar::Null)) && text != QLatin1String(".") &&
-           text != QLatin1String("..");
 }
 
 // The actions and attributes of a program that is about to be started.
@@ -79,27 +72,6 @@ bool StartDetached(const QByteArray& program) {
 }  // namespace
 
 namespace platform {
-
-QString BundleExecutable(const QByteArray& info_plist) {
-    QXmlStreamReader xml(info_plist);
-    if (!xml.readNextStartElement() || xml.name() != QLatin1String("plist") ||
-        !xml.readNextStartElement() || xml.name() != QLatin1String("dict")) {
-        return QString();
-    }
-    QString key;
-    while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("key")) {
-            key = xml.readElementText();
-        } else if (xml.name() == QLatin1String("string") &&
-                   key == QLatin1String("CFBundleExecutable")) {
-            const QString name = xml.readElementText();
-            return !xml.hasError() && IsFileName(name) ? name : QString();
-        } else {
-            xml.skipCurrentElement();
-        }
-    }
-    return QString();
-}
 
 bool OpenBundle(const QString& path) {
     const QString program = path + QStringLiteral("/Contents/MacOS/") + ReadExecutableName(path);
