@@ -61,6 +61,38 @@ std::string Join(const std::string& folder, const std::string& name) {
     return folder.empty() ? name : folder + "/" + name;
 }
 
+// Why an object can't be in a package, and what to do; empty when it can.
+std::string Fault(const std::string& path, const Node& node) {
+    const QString name = ToQt(path);
+    if (!IsUtf8(path)) {
+        return "isn't named in UTF-8; rename it";
+    }
+    if (name.normalized(QString::NormalizationForm_C) != name) {
+        return "has a name that isn't in Unicode's composed form (NFC), which other systems would "
+               "not find again; rename it";
+    }
+    if (path.size() > kMaxPath) {
+        return "has a path of more than " + std::to_string(kMaxPath) +
+               " bytes, which a Mac doesn't take below every home folder; shorten it";
+    }
+    if (S_ISDIR(node.mode)) {
+        return (node.mode & S_IRWXU) == S_IRWXU
+                   ? ""
+                   : "is a folder that its owner can't read, write and enter, so that no upgrade "
+                     "could replace it; chmod u+rwx";
+    }
+    if (S_ISLNK(node.mode)) {
+        return "";
+    }
+    if (!S_ISREG(node.mode)) {
+        return "is a pipe, socket or device, which the launcher refuses; remove it";
+    }
+    if ((node.mode & (S_ISUID | S_ISGID)) != 0) {
+        return "is set-user-id or set-group-id, which the launcher doesn't keep; chmod ug-s";
+    }
+    return (node.mode & S_IRUSR) != 0 ? "" : "can't be read by its owner; chmod u+r";
+}
+
 // == Reading
 
 Node Describe(const std::string& path) {
@@ -99,51 +131,17 @@ std::set<std::string> ListFolder(const std::string& path) {
     return names;
 }
 
-// The length of the paths limits the depth.
 void ReadFolder(const std::string& app, const std::string& folder, Nodes& nodes) {
     for (const std::string& name : ListFolder(Join(app, folder))) {
         const std::string path = Join(folder, name);
-        if (path.size() > kMaxPath) {
-            throw PackageError(path, "has a path of more than " + std::to_string(kMaxPath) +
-                                         " bytes; shorten it, a Mac takes no more below a home "
-                                         "folder");
-        }
         const Node& node = nodes[path] = Describe(Join(app, path));
-        if (S_ISDIR(node.mode) && (node.mode & S_IRWXU) == S_IRWXU) {
+        if (Fault(path, node).empty() && S_ISDIR(node.mode)) {
             ReadFolder(app, path, nodes);
         }
     }
 }
 
 // == Checking
-
-// Why an object can't be in a package, and what to do; empty when it can.
-std::string Fault(const std::string& path, const Node& node) {
-    const QString name = ToQt(path);
-    if (!IsUtf8(path)) {
-        return "isn't named in UTF-8; rename it";
-    }
-    if (name.normalized(QString::NormalizationForm_C) != name) {
-        return "has a name that isn't in Unicode's composed form (NFC), which other systems would "
-               "not find again; rename it";
-    }
-    if (S_ISDIR(node.mode)) {
-        return (node.mode & S_IRWXU) == S_IRWXU
-                   ? ""
-                   : "is a folder that its owner can't read, write and enter, so that no upgrade "
-                     "could replace it; chmod u+rwx";
-    }
-    if (S_ISLNK(node.mode)) {
-        return "";
-    }
-    if (!S_ISREG(node.mode)) {
-        return "is a pipe, socket or device, which the launcher refuses; remove it";
-    }
-    if ((node.mode & (S_ISUID | S_ISGID)) != 0) {
-        return "is set-user-id or set-group-id, which the launcher doesn't keep; chmod ug-s";
-    }
-    return (node.mode & S_IRUSR) != 0 ? "" : "can't be read by its owner; chmod u+r";
-}
 
 // Follows a link as the system will where nothing but the application is there. Returns why that
 // fails; null when the link leads to something in the application.
@@ -179,7 +177,7 @@ const char* LinkFault(const Nodes& nodes, const std::string& link) {
     return nullptr;
 }
 
-void CheckNodes(const std::string& app, const Nodes& nodes) {
+void CheckNodes(const std::string& shown_as, const Nodes& nodes) {
     std::map<QString, std::string> seen;  // without letter case
     for (const auto& [path, node] : nodes) {
         std::string fault = Fault(path, node);
@@ -188,46 +186,48 @@ void CheckNodes(const std::string& app, const Nodes& nodes) {
             fault = "differs from '" + other->second +
                     "' in letter case only, and a Mac's disk would keep one of them; rename it";
         }
-        if (fault.empty() && S_ISLNK(node.mode)) {
-            const char* const link_fault = LinkFault(nodes, path);
-            fault = link_fault != nullptr ? link_fault : "";
-        }
         if (!fault.empty()) {
-            throw PackageError(Join(app, path), fault);
+            throw PackageError(Join(shown_as, path), fault);
+        }
+    }
+    for (const auto& [path, node] : nodes) {
+        const char* const fault = S_ISLNK(node.mode) ? LinkFault(nodes, path) : nullptr;
+        if (fault != nullptr) {
+            throw PackageError(Join(shown_as, path), fault);
         }
     }
 }
 
-void CheckFile(const std::string& app, const Nodes& nodes, const std::string& name,
+void CheckFile(const std::string& shown_as, const Nodes& nodes, const std::string& name,
                const std::string& advice) {
     const auto node = nodes.find(name);
     if (node == nodes.end() || !S_ISREG(node->second.mode) || node->second.size == 0) {
         const bool there = node != nodes.end();
-        throw PackageError(Join(app, name),
+        throw PackageError(Join(shown_as, name),
                            (there ? "isn't a file with content; " : "is missing; ") + advice);
     }
 }
 
-void CheckExecutable(const std::string& app, const Nodes& nodes, const std::string& name,
+void CheckExecutable(const std::string& shown_as, const Nodes& nodes, const std::string& name,
                      const std::string& advice) {
-    CheckFile(app, nodes, name, advice);
+    CheckFile(shown_as, nodes, name, advice);
     if ((nodes.at(name).mode & S_IXUSR) == 0) {
-        throw PackageError(Join(app, name), "isn't executable; chmod 755");
+        throw PackageError(Join(shown_as, name), "isn't executable; chmod 755");
     }
 }
 
 // The system starts what the property list names, not what the launcher looks for.
-void CheckInfoPlist(const std::string& app, const Nodes& nodes) {
-    CheckFile(app, nodes, kInfoPlist, "without it the application can't be opened");
+void CheckInfoPlist(const std::string& app, const std::string& shown_as, const Nodes& nodes) {
+    CheckFile(shown_as, nodes, kInfoPlist, "without it the application can't be opened");
     QFile file(ToQt(Join(app, kInfoPlist)));
     const QString name =
         file.open(QIODevice::ReadOnly) ? platform::BundleExecutable(file.readAll()) : QString();
     if (name.isEmpty()) {
-        throw PackageError(file.fileName().toStdString(),
+        throw PackageError(Join(shown_as, kInfoPlist),
                            "isn't an XML property list with the key CFBundleExecutable; add it, or "
                            "convert it with: plutil -convert xml1");
     }
-    CheckExecutable(app, nodes, "Contents/MacOS/" + name.toStdString(),
+    CheckExecutable(shown_as, nodes, "Contents/MacOS/" + name.toStdString(),
                     "CFBundleExecutable in Contents/Info.plist names it");
 }
 
@@ -246,29 +246,30 @@ bool AppTree::operator==(const AppTree& other) const {
            std::equal(nodes.begin(), nodes.end(), other.nodes.begin(), other.nodes.end(), same);
 }
 
-AppTree ReadAppTree(const std::string& app) {
+AppTree ReadAppTree(const std::string& app, const std::string& shown_as) {
     std::error_code error;
     if (!IsUtf8(app) || !fs::is_directory(app, error)) {
-        throw PackageError(app, "isn't an application folder; name the one that holds Contents");
+        throw PackageError(shown_as,
+                           "isn't an application folder; name the one that holds Contents");
     }
     AppTree tree;
     ReadFolder(app, "", tree.nodes);
-    CheckNodes(app, tree.nodes);
-    CheckExecutable(app, tree.nodes, ClientName(), "put the client's executable there");
-    CheckInfoPlist(app, tree.nodes);
-    CheckFile(app, tree.nodes, kInfo, "write the version file, see docs/shipping.md");
-    tree.build_number = ReadBuildNumber(Join(app, kInfo));
+    CheckNodes(shown_as, tree.nodes);
+    CheckExecutable(shown_as, tree.nodes, ClientName(), "put the client's executable there");
+    CheckInfoPlist(app, shown_as, tree.nodes);
+    CheckFile(shown_as, tree.nodes, kInfo, "write the version file, see docs/shipping.md");
+    tree.build_number = ReadBuildNumber(Join(app, kInfo), Join(shown_as, kInfo));
     return tree;
 }
 
-int ReadBuildNumber(const std::string& info_file) {
+int ReadBuildNumber(const std::string& info_file, const std::string& shown_as) {
     // The launcher reads it like this, and takes the number up to the first other character.
     const QSettings settings(ToQt(info_file), QSettings::IniFormat);
     const QString text = settings.value(QStringLiteral("Version/build_version")).toString();
     bool is_number = false;
     const int number = text.toInt(&is_number);
     if (!is_number || number <= 0 || QString::number(number) != text) {
-        throw PackageError(info_file,
+        throw PackageError(shown_as,
                            "has no build_version from 1 to " +
                                std::to_string(std::numeric_limits<int>::max()) +
                                " in its group [Version], but '" + text.toStdString() +

@@ -31,11 +31,11 @@ struct AppTree {
 
 // Reads the application in the folder app. Throws a PackageError for the first thing that the
 // launcher couldn't install, upgrade or start on every user's machine. Of the files, only the
-// version file and the property list are opened.
-AppTree ReadAppTree(const std::string& app);
+// version file and the property list are opened. The error calls the folder shown_as.
+AppTree ReadAppTree(const std::string& app, const std::string& shown_as);
 
 // The build number in a version file. Throws a PackageError when the launcher couldn't compare it.
-int ReadBuildNumber(const std::string& info_file);
+int ReadBuildNumber(const std::string& info_file, const std::string& shown_as);
 
 // The path of the client below an application folder.
 std::string ClientName();

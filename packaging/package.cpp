@@ -256,7 +256,7 @@ void CheckBundle(const std::string& file, int build_number) {
     if (resources.filename() != "Resources" || !fs::exists(info)) {
         return;
     }
-    const int number = ReadBuildNumber(info);
+    const int number = ReadBuildNumber(info, info);
     if (number != build_number) {
         throw PackageError(info, "says build " + std::to_string(number) + ", but the package is " +
                                      std::to_string(build_number) +
@@ -268,7 +268,7 @@ void CheckBundle(const std::string& file, int build_number) {
 
 PackageSummary MakePackage(const std::string& app, const std::string& out,
                            const Progress& progress) {
-    const AppTree tree = ReadAppTree(app);
+    const AppTree tree = ReadAppTree(app, app);
     const Replacement file(ResolveOut(app, out));
     std::int64_t total = 0;
     for (const auto& [name, node] : tree.nodes) {
@@ -283,7 +283,7 @@ PackageSummary MakePackage(const std::string& app, const std::string& out,
     }
     zip.add(app, client, tree.nodes.at(client));
     zip.finish();
-    if (!(ReadAppTree(app) == tree)) {
+    if (!(ReadAppTree(app, app) == tree)) {
         throw PackageError(app, "was changed while it was read; pack when nothing writes to it");
     }
     file.commit();
@@ -297,7 +297,7 @@ PackageSummary CheckPackage(const std::string& file, const Progress& progress) {
     const TemporaryFolder folder;
     const std::string app = folder / "Tarnwell.app";
     Extract(file, app, folder / "log", progress);
-    const AppTree tree = ReadAppTree(app);
+    const AppTree tree = ReadAppTree(app, file);
     if (LastEntry(file) != ClientName()) {
         throw PackageError(file, "doesn't end with " + ClientName() +
                                      ", so that an installation that was cut off could be taken "
