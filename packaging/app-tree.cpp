@@ -5,6 +5,7 @@
 #include <QString>
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -108,8 +109,8 @@ Node Describe(const std::string& path) {
     if (S_ISLNK(node.mode)) {
         node.target = fs::read_symlink(path, error).native();
     } else {  // to the nanosecond, which the structure has under another name on each system
-        node.stamp += ' ';
-        node.stamp += std::to_string(fs::last_write_time(path, error).time_since_epoch().count());
+        const auto modified = fs::last_write_time(path, error).time_since_epoch();
+        node.stamp += ' ' + std::to_string(std::chrono::nanoseconds(modified).count());
     }
     if (error) {
         throw PackageError(path, "can't be read: " + error.message());

@@ -243,7 +243,8 @@ std::string LastEntry(const std::string& file) {
     fs::path last;
     if (archive_read_open_filename(reader.get(), file.c_str(), kBlockSize) == ARCHIVE_OK) {
         while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
-            last = archive_entry_pathname(entry);
+            const char* const name = archive_entry_pathname(entry);
+            last = name != nullptr ? name : "";
         }
     }
     return last.lexically_normal();
