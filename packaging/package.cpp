@@ -111,10 +111,15 @@ struct EntryFreer {
 class ZipWriter {
   public:
     ZipWriter(std::string out, int fd, const Progress& progress, std::int64_t total)
-        : out_(std::move(out)), zip_(archive_write_new()), progress_(progress), total_(total) {
+        : out_(std::move(out)),
+          fd_(fd),
+          progress_(progress),
+          total_(total),
+          zip_(archive_write_new()) {
         check(archive_write_set_format_zip(zip_.get()));
         check(archive_write_set_options(zip_.get(), "zip:hdrcharset=UTF-8"));
-        check(archive_write_open_fd(zip_.get(), fd));
+        check(archive_write_set_bytes_in_last_block(zip_.get(), 1));
+        check(archive_write_open(zip_.get(), this, nullptr, Write, nullptr));
     }
 
     void add(const std::string& app, const std::string& name, const AppTree::Node& node) {
@@ -140,7 +145,28 @@ class ZipWriter {
     void finish() { check(archive_write_close(zip_.get())); }
 
   private:
+    // A failure is kept for check(), for libarchive knows no text for it and leaks after it.
+    static la_ssize_t Write(archive*, void* writer, const void* data, std::size_t size) {
+        ZipWriter& self = *static_cast<ZipWriter*>(writer);
+        const char* at = static_cast<const char*>(data);
+        std::size_t left = size;
+        while (left > 0 && self.error_ == 0) {
+            const ssize_t count = write(self.fd_, at, left);
+            if (count >= 0) {
+                at += count;
+                left -= static_cast<std::size_t>(count);
+            } else if (errno != EINTR) {
+                self.error_ = errno;
+            }
+        }
+        return static_cast<la_ssize_t>(size);
+    }
+
     void check(int result) const {
+        if (error_ != 0) {
+            errno = error_;
+            Fail(out_, "can't be written");
+        }
         if (result != ARCHIVE_OK) {
             const char* const text = archive_error_string(zip_.get());
             throw PackageError(out_, std::string("can't be written: ") + (text ? text : ""));
@@ -156,10 +182,9 @@ class ZipWriter {
         off_t left = size;
         ssize_t count;
         while ((count = read(file.get(), block.data(), block.size())) > 0 && count <= left) {
-            if (archive_write_data(zip_.get(), block.data(), static_cast<std::size_t>(count)) !=
-                count) {
-                check(ARCHIVE_FATAL);
-            }
+            const la_ssize_t written =
+                archive_write_data(zip_.get(), block.data(), static_cast<std::size_t>(count));
+            check(written == count ? ARCHIVE_OK : ARCHIVE_FATAL);
             left -= count;
             if (!progress_(done_ += count, total_)) {
                 FailInterrupted(out_);
@@ -174,10 +199,12 @@ class ZipWriter {
     }
 
     const std::string out_;
-    const std::unique_ptr<archive, ArchiveFreer> zip_;
+    const int fd_;
+    int error_ = 0;  // the first of a write
     const Progress& progress_;
     std::int64_t done_ = 0;
     const std::int64_t total_;
+    const std::unique_ptr<archive, ArchiveFreer> zip_;  // writes as long as it exists
 };
 
 // Where the package will be: its folder with links followed. It must not lie in the application.

@@ -187,7 +187,8 @@ TEST_F(PackageTest, RefusesWhatWouldFailOnAUsersMachine) {
 }
 
 TEST_F(PackageTest, AFailureLeavesNoHalfPackage) {
-    expectRefusal(shell("trap '' XFSZ; ulimit -f 100; $MAKE . $OUT"), out_ + ": can't be written");
+    expectRefusal(shell("trap '' XFSZ; ulimit -f 100; $MAKE . $OUT"),
+                  out_ + ": can't be written: File too large");
     MakeFile(app_ + "/noise", Noise(16 << 20));
     expectRefusal(shell("$MAKE . $OUT & begun; kill $!; wait $!"),
                   out_ + ": was interrupted; run again");
