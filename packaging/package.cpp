@@ -17,6 +17,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/durability.h"
+#include "lib/platform/handles.h"
 #include "packaging/app-tree.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/launcher.h"
@@ -35,23 +36,6 @@ const std::time_t kTimeStamp = 315532800;  // 1980, where the time of a zip begi
 [[noreturn]] void FailInterrupted(const std::string& where) {
     throw PackageError(where, "was interrupted; run again");
 }
-
-class Descriptor {
-  public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    ~Descriptor() {
-        if (fd_ >= 0) {
-            close(fd_);  // what was written through it has been synchronised
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return fd_; }
-
-  private:
-    const int fd_;
-};
 
 // A new file beside the one whose place it takes at the end. Without that it is removed.
 class Replacement {
@@ -78,7 +62,7 @@ class Replacement {
   private:
     const fs::path path_;
     std::string temporary_;
-    const Descriptor fd_;
+    const platform::Descriptor fd_;
 };
 
 // Removed with what is in it.
@@ -174,7 +158,7 @@ class ZipWriter {
     }
 
     void addContent(const std::string& path, off_t size) {
-        const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+        const platform::Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
         if (file.get() < 0) {
             Fail(path, "can't be read");
         }
