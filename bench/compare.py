@@ -7,6 +7,8 @@ same file system. A row's figure is the median of the pairs' ratios; the spread 
 
 import argparse
 import contextlib
+import io
+import itertools
 import json
 import os
 import pathlib
@@ -16,8 +18,10 @@ import shutil
 import statistics
 import subprocess
 import sys
+import tarfile
 import tempfile
 import time
+import zipfile
 
 SEED = 20
 TREE_FILES, TREE_FOLDERS, TREE_BYTES = 3000, 60, 150_000_000
@@ -62,6 +66,21 @@ def pack(root, archive):
     format_of = {".zip": ["--format", "zip"], ".gz": ["--format", "ustar", "-z"]}[archive.suffix]
     subprocess.run(["bsdtar", *format_of, "-cf", archive, "-C", root, "-n", "-T", "-"], input=listing,
                    text=True, check=True)
+
+
+def write_archive(path, kind, entries):
+    """An archive of small files, fifty in a folder."""
+    names = [f"Contents/part{i // 50:05d}/file{i:06d}" for i in range(entries)]
+    if kind == "zip":
+        with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as archive:
+            for name in names:
+                archive.writestr(name, b"x" * 200)
+    else:
+        with tarfile.open(path, "w:gz") as archive:
+            for name in names:
+                member = tarfile.TarInfo(name)
+                member.size = 200
+                archive.addfile(member, io.BytesIO(b"x" * 200))
 
 
 # == Measuring
@@ -191,9 +210,7 @@ class Bench:
     def copying(self, tree):
         large = self.folder / "large"
         if not large.exists():
-            with open(large, "wb") as file:
-                for i in range(64):
-                    file.write(random.Random(i).randbytes(1 << 24))
+            large.write_bytes(random.Random(SEED).randbytes(1 << 24) * 64)
         target = self.folder / "copied"
         self.pairs_of(Row("`FSCopy` of 1 GiB", "`cp`, `sync FILE`", 1.0),
                       lambda: self.run_tool("copy", large, target)[0],
@@ -241,24 +258,16 @@ class Bench:
     def growth(self):
         """Time and memory per entry, from the smallest archive to the largest."""
         figures = {}
-        for entries in GROWTH:
-            tree = self.fresh("grown")
-            write_tree(tree, entries, max(1, entries // 50), [200] * entries, lambda size: b"x" * size)
-            count = sum(1 for _ in tree.rglob("*"))
-            for kind in ("zip", "tar.gz"):
-                archive = self.folder / f"grown-{entries}.{kind}"
-                pack(tree, archive)
-                times, peaks, removed = [], [], []
-                for _ in range(3 if entries > 5000 else 15):
-                    target = self.fresh("unpacked")
-                    target.mkdir()
-                    seconds, peak = self.run_tool("unpack", archive, target)
-                    times.append(seconds / count)
-                    peaks.append(peak)
-                    removed.append(self.run_tool("remove", target)[0] / count)
-                archive.unlink()
-                figures[kind, entries] = [statistics.median(v) for v in (times, peaks, removed)]
-            self.fresh("grown")
+        for entries, kind in itertools.product(GROWTH, ("zip", "tar.gz")):
+            archive = self.fresh("grown")
+            write_archive(archive, kind, entries)
+            samples = []
+            for _ in range(max(3, 1500 // entries)):
+                target = self.fresh("unpacked")
+                target.mkdir()
+                seconds, peak = self.run_tool("unpack", archive, target)
+                samples.append((seconds / entries, peak, self.run_tool("remove", target)[0] / entries))
+            figures[kind, entries] = [statistics.median(column) for column in zip(*samples)]
         for kind in ("zip", "tar.gz"):
             small, large = figures[kind, GROWTH[0]], figures[kind, GROWTH[-1]]
             for index, what in enumerate(("time per entry, unpacking", "peak memory, unpacking",
@@ -331,10 +340,10 @@ def write_report(path, rows, machine):
 
 
 @contextlib.contextmanager
-def quiet_disk(folder):
-    """A folder to work in: the given one, or one on a file system in memory with a journal of its
-    own, whose times don't depend on what else uses the disk; mounting it takes root."""
-    with tempfile.TemporaryDirectory(dir=folder or os.environ.get("IMG","/dev/shm")) as made:
+def own_disk(folder):
+    """A folder to work in: the given one, or, for root, a file system of its own in a file below
+    build/, so that neither its age nor its mount options count."""
+    with tempfile.TemporaryDirectory(dir=folder or pathlib.Path.cwd() / "build") as made:
         root = pathlib.Path(made)
         if folder or os.geteuid() != 0:
             yield root
@@ -356,12 +365,12 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("build", type=pathlib.Path)
     parser.add_argument("report", type=pathlib.Path)
-    parser.add_argument("--dir", help="where to work (default: a file system in memory)")
+    parser.add_argument("--dir", help="where to work (default: a new file system in a file; takes root)")
     parser.add_argument("--pairs", type=int, default=9)
     parser.add_argument("--only", default="", help="rows to measure: upgrade, unpack, remove, copy, small, growth, depth")
     options = parser.parse_args()
     chosen = options.only.split(",") if options.only else None
-    with quiet_disk(options.dir) as folder:
+    with own_disk(options.dir) as folder:
         bench = Bench(options.build.resolve(), folder, options.pairs)
         tree = folder / "tree"
         make_application(tree)

@@ -32,6 +32,7 @@ const std::uint32_t kUnchanged = 0xFFFFFFFF;  // what chown reads as "leave it"
 const std::uint16_t kDefaultMode = 0xFFFF;
 const UInt32 kPathSize = 4096;
 const int kCopySize = 32 * 1024 * 1024;
+const std::size_t kCopyBatch = 32;       // files that are forced to the disk together
 const std::size_t kMaxOpenFolders = 32;  // of one walk, whatever its depth
 // Of a path that is made. With whole paths the system would walk the same folders again and again.
 const int kElementsPerName = 32;
@@ -238,7 +239,9 @@ int CopyBytes(int from, int to) {
         if (result != 0) {
             return result;
         }
-        platform::StartWriting(to);  // goes on while the next chunk is read
+        if (size == kCopySize) {
+            platform::StartWriting(to);  // goes on while the next chunk is read
+        }
     }
 }
 
@@ -268,16 +271,30 @@ bool Truncate(int destination, int source) {
     return !S_ISREG(to.st_mode) || to.st_size == 0 || ftruncate(destination, 0) == 0;
 }
 
-int CopyFile(const Place& src, const Place& dst, bool remove_src) {
-    Descriptor source(openat(src.folder, src.name, O_RDONLY | O_CLOEXEC));
+// Copies the bytes of a file; the destination is left open, to be forced to the disk.
+int CopyContent(const Descriptor& source, const Place& src, const Place& dst,
+                Descriptor& destination) {
     if (source.get() < 0) {
         return FailOpen(src);
     }
-    Descriptor destination(openat(dst.folder, dst.name, O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
+    destination.reset(openat(dst.folder, dst.name, O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
     if (destination.get() < 0 || !Truncate(destination.get(), source.get())) {
         return FailOpen(dst);
     }
-    const int result = FinishCopy(destination, CopyBytes(source.get(), destination.get()));
+    return CopyBytes(source.get(), destination.get());
+}
+
+Descriptor OpenSource(const Place& src) {
+    return Descriptor(openat(src.folder, src.name, O_RDONLY | O_CLOEXEC));
+}
+
+int CopyFile(const Place& src, const Place& dst, bool remove_src) {
+    Descriptor source = OpenSource(src);
+    Descriptor destination(-1);
+    int result = CopyContent(source, src, dst, destination);
+    if (destination.get() >= 0) {
+        result = FinishCopy(destination, result);
+    }
     if (result != 0 || !remove_src) {
         return result;
     }
@@ -579,6 +596,26 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
 
 int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
     return CopyFile(Place(src), Place(dst), remove_src);
+}
+
+int FSCopyBatch::copy(const ustring& src, const ustring& dst) {
+    const Place from(src);
+    Descriptor destination(-1);
+    const int result = CopyContent(OpenSource(from), from, Place(dst), destination);
+    if (destination.get() >= 0) {
+        platform::StartWriting(destination.get());
+        copied_.push_back(std::move(destination));
+    }
+    return result == 0 && copied_.size() >= kCopyBatch ? sync() : result;
+}
+
+int FSCopyBatch::sync() {
+    int result = 0;
+    for (Descriptor& file : copied_) {
+        result = FinishCopy(file, result);
+    }
+    copied_.clear();
+    return result;
 }
 
 int FSRename(const ustring& src, const ustring& dst, bool exact) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <ctime>
+#include <vector>
 
 #include "lib/platform/handles.h"
 #include "ustring/ustring.h"
@@ -99,6 +100,22 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
 // deleted once the copy is on the disk. Not atomic: a failure leaves what was written. Returns -2
 // for a full disk or an exhausted quota, -1 for any other failure.
 int FSCopy(const ustring& src, const ustring& dst, bool remove_src);
+
+// Copies files as FSCopy does, but forces them to the disk a batch at a time, which takes far less
+// time than one by one. Every file is there, or its failure has been told, when sync() returns.
+class FSCopyBatch {
+  public:
+    FSCopyBatch() = default;
+    ~FSCopyBatch() { static_cast<void>(sync()); }
+    FSCopyBatch(const FSCopyBatch&) = delete;
+    FSCopyBatch& operator=(const FSCopyBatch&) = delete;
+
+    int copy(const ustring& src, const ustring& dst);  // returns also what sync() does
+    int sync();                                        // 0, or FSCopy's result
+
+  private:
+    std::vector<platform::Descriptor> copied_;
+};
 
 // Moves src to dst. On one volume this is atomic and replaces an existing file or empty folder.
 // Across volumes it copies and deletes, entry by entry: a file replaces a file, a folder is merged

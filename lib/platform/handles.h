@@ -15,6 +15,7 @@ class Descriptor {
   public:
     explicit Descriptor(int fd) : fd_(fd) {}
     ~Descriptor() { reset(-1); }
+    Descriptor(Descriptor&& other) noexcept : fd_(other.release()) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
