@@ -49,6 +49,8 @@ class PidFile {
         }
         close(fd_);
     }
+    PidFile(const PidFile&) = delete;
+    PidFile& operator=(const PidFile&) = delete;
 
     bool runningElsewhere() const { return running_elsewhere_; }
 
@@ -64,7 +66,8 @@ class PidFile {
 
     void writePid() const {
         const QByteArray text = "pid=" + QByteArray::number(getpid()) + '\n';
-        if (ftruncate(fd_, 0) != 0 || write(fd_, text.constData(), size_t(text.size())) < 0) {
+        if (ftruncate(fd_, 0) != 0 ||
+            write(fd_, text.constData(), static_cast<std::size_t>(text.size())) < 0) {
             qWarning("can't write %s: %s", path_.constData(), strerror(errno));
         }
     }

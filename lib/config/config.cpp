@@ -24,7 +24,7 @@ bool IsKeyByte(char byte) {
 }
 
 bool IsControl(char byte) {
-    const unsigned char code = static_cast<unsigned char>(byte);
+    const auto code = static_cast<unsigned char>(byte);
     return code < 32 || code == 127;
 }
 

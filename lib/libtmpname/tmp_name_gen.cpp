@@ -16,7 +16,7 @@ static_assert(sizeof kAlphabet == 64 + 1, "six bits choose one character");
 
 // Packs three bytes into four characters as base64 does, most significant bits first.
 void Encode(const unsigned char* bytes, char* out) {
-    const unsigned group = static_cast<unsigned>(bytes[0] << 16 | bytes[1] << 8 | bytes[2]);
+    const auto group = static_cast<unsigned>(bytes[0] << 16 | bytes[1] << 8 | bytes[2]);
     for (int i = 0; i < 4; ++i) {
         out[i] = kAlphabet[group >> (18 - 6 * i) & 63];
     }
@@ -31,7 +31,7 @@ TmpNameGen& TmpNameGen::getInstance() {
     return instance;
 }
 
-TmpNameGen::TmpNameGen() : state(), key(), rand_buf() {
+TmpNameGen::TmpNameGen() {
     get_key(key, sizeof key);
     rc4_init(state, key);
 }

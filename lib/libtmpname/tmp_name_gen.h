@@ -36,9 +36,9 @@ class TmpNameGen {
     static void rc4_randomize(unsigned char* state, unsigned char* out, int n);
 
   protected:
-    unsigned char state[256];
-    unsigned char key[256];  // the key text, then zero bytes
-    unsigned char rand_buf[6];
+    unsigned char state[256] = {};
+    unsigned char key[256] = {};  // the key text, then zero bytes
+    unsigned char rand_buf[6] = {};
 
   private:
     static pthread_mutex_t m_lock;

@@ -12,12 +12,12 @@
 #include <climits>
 #include <cstdint>
 
-typedef std::uint8_t UInt8;
-typedef std::uint32_t UInt32;
-typedef unsigned char Boolean;
+using UInt8 = std::uint8_t;
+using UInt32 = std::uint32_t;
+using Boolean = unsigned char;
 
 // 0, or one of these. The numbers are the system's.
-typedef std::int32_t OSStatus;
+using OSStatus = std::int32_t;
 enum : OSStatus {
     noErr = 0,
     ioErr = -36,             // anything that has no status of its own

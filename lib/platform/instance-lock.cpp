@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <utility>
 
 namespace platform {
 
@@ -19,7 +20,7 @@ bool SameObject(const struct stat& a, const struct stat& b) {
 
 }  // namespace
 
-InstanceLock::InstanceLock(const std::string& path) : path_(path) {
+InstanceLock::InstanceLock(std::string path) : path_(std::move(path)) {
     for (int i = 0; i < kMaxAttempts; ++i) {
         const Attempt attempt = tryLock();
         if (attempt == Attempt::Locked) {
@@ -64,8 +65,8 @@ InstanceLock::Attempt InstanceLock::tryLock() {
 
 InstanceLock::~InstanceLock() {
     if (fd_ >= 0) {
-        unlink(
-            path_.c_str());  // while we hold it; a failure leaves an empty file that blocks nobody
+        // While we hold it; a failure leaves an empty file that blocks nobody.
+        unlink(path_.c_str());
         close(fd_);
     }
 }

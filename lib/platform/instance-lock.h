@@ -15,7 +15,7 @@ namespace platform {
 // Threads: an object belongs to one thread.
 class InstanceLock {
   public:
-    explicit InstanceLock(const std::string& path);
+    explicit InstanceLock(std::string path);
     ~InstanceLock();
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;

@@ -12,7 +12,7 @@
 
 namespace {
 
-const qint64 kMaxPlistSize = 1024 * 1024;  // bytes; a real one has a few thousand
+const qint64 kMaxPlistSize = qint64{1024} * 1024;  // bytes; a real one has a few thousand
 
 QString ReadExecutableName(const QString& bundle) {
     QFile file(bundle + QStringLiteral("/Contents/Info.plist"));

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <climits>
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -14,7 +15,7 @@ long BootTime() {
     std::string line;
     while (std::getline(stat, line)) {
         if (line.compare(0, 6, "btime ") == 0) {
-            return std::atol(line.c_str() + 6);
+            return std::strtol(line.c_str() + 6, nullptr, 10);
         }
     }
     return 0;

@@ -26,7 +26,7 @@ const int kProbes = 5;              // one a second, before SIGKILL
 const std::time_t kStartGrace = 5;  // seconds by which the clocks of files and processes may differ
 
 int BuildNumber(const VerInfo& version) {
-    return version.build_version.empty() ? 0 : std::atoi(version.build_version.c_str());
+    return static_cast<int>(std::strtol(version.build_version.c_str(), nullptr, 10));
 }
 
 // The process id in the pid file's entry, or -1 for what must not be signalled: no positive number

@@ -1,6 +1,7 @@
 #include "ui-client/launcher/translations/str-table.h"
 
 #include <QCoreApplication>
+#include <utility>
 
 #include "ui-client/launcher/translations/str-table-rows.h"
 
@@ -22,7 +23,7 @@ QString StrTable::LoadStr(int id) {
 }
 
 int StrTable::LookupStrID(QString key) {
-    const QByteArray bytes = key.toLocal8Bit();
+    const QByteArray bytes = std::move(key).toLocal8Bit();
     for (int id = 0; id < kRowCount; ++id) {
         if (qstricmp(bytes.constData(), ktab[id]) == 0) {
             return id;
