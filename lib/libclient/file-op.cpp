@@ -711,7 +711,7 @@ int FSRemove(const ustring& path, bool) {
 
 int FSMktemp(const ustring& dir, ustring& out) {
     char path[kPathSize];
-    std::snprintf(path, sizeof path, "%s/XXXXXX", dir.c_str());
+    static_cast<void>(std::snprintf(path, sizeof path, "%s/XXXXXX", dir.c_str()));
     Descriptor file(mkstemp(path));
     if (file.get() < 0) {
         LOG_MSG(ERROR, "mkstemp(%s): %s\n", path, strerror(errno));
@@ -719,7 +719,7 @@ int FSMktemp(const ustring& dir, ustring& out) {
     }
     if (fsync(file.get()) != 0 || file.close() != 0 || chmod(path, 0644) != 0) {
         LOG_MSG(ERROR, "mkstemp(%s): %s\n", path, strerror(errno));
-        std::remove(path);
+        static_cast<void>(std::remove(path));
         return -1;
     }
     out = path;
