@@ -57,7 +57,7 @@ Stamp stamp;  // under the log's mutex
 class RotatedName {
   public:
     RotatedName(const ustring& path, int number) {
-        std::snprintf(name_, sizeof name_, "%s_%d", path.c_str(), number);
+        static_cast<void>(std::snprintf(name_, sizeof name_, "%s_%d", path.c_str(), number));
     }
     const char* c_str() const { return name_; }
 
@@ -130,7 +130,7 @@ void Logger::Destroy() {
     }
     std::FILE* const file = log_fp;
     if (file != nullptr) {
-        std::fclose(file);  // every message has been flushed
+        static_cast<void>(std::fclose(file));  // every message has been flushed
     }
     log_type = TYPE_STDOUT;
     log_fp = stdout;
@@ -172,7 +172,7 @@ void Logger::Write(const char* fmt, va_list args) {
         case TYPE_FILE:
             break;
         default:
-            std::vfprintf(stderr, fmt, args);
+            static_cast<void>(std::vfprintf(stderr, fmt, args));
             return;
     }
     std::FILE* const stream = log_fp;
@@ -191,7 +191,7 @@ int Logger::WriteStamped(std::FILE* stream, const char* fmt, va_list args) {
     const std::string_view time = stamp.at(std::time(nullptr));
     const bool stamped = std::fwrite(time.data(), 1, time.size(), stream) == time.size();
     const int message_bytes = std::vfprintf(stream, fmt, args);
-    std::fflush(stream);
+    static_cast<void>(std::fflush(stream));
     return !stamped || message_bytes < 0 ? -1 : static_cast<int>(time.size()) + message_bytes;
 }
 
@@ -199,10 +199,11 @@ int Logger::WriteStamped(std::FILE* stream, const char* fmt, va_list args) {
 // sees it missing in between.
 int Logger::Rotate() {
     for (int i = rotate_cnt - 2; i >= 0; --i) {
-        std::rename(RotatedName(log_path, i).c_str(), RotatedName(log_path, i + 1).c_str());
+        static_cast<void>(
+            std::rename(RotatedName(log_path, i).c_str(), RotatedName(log_path, i + 1).c_str()));
     }
-    std::remove(RotatedName(log_path, rotate_cnt - 1).c_str());
-    std::fclose(log_fp);
+    static_cast<void>(std::remove(RotatedName(log_path, rotate_cnt - 1).c_str()));
+    static_cast<void>(std::fclose(log_fp));
     std::FILE* file = nullptr;
     if (std::rename(log_path.c_str(), RotatedName(log_path, 0).c_str()) == 0) {
         file = std::fopen(log_path.c_str(), "ae");
