@@ -35,6 +35,7 @@ bool Fits(std::size_t need, std::size_t capacity) {
 
 template <typename Unit>
 Unit* Resize(Unit* buffer, std::size_t need) {
+    // NOLINTNEXTLINE(clang-analyzer-optin.portability.UnixAPI): the terminator makes need positive
     void* resized = std::realloc(buffer, need * sizeof(Unit));
     if (resized == nullptr) {
         throw std::bad_alloc();
@@ -502,8 +503,8 @@ int ustring::compare(const ustring& a, const ustring& b, bool ignore_case) {
     if (!ignore_case) {
         return a.compare(b, npos);
     }
-    const unsigned char* x = reinterpret_cast<const unsigned char*>(a.data);
-    const unsigned char* y = reinterpret_cast<const unsigned char*>(b.data);
+    const auto* x = reinterpret_cast<const unsigned char*>(a.data);
+    const auto* y = reinterpret_cast<const unsigned char*>(b.data);
     while (*x != 0 && FoldAscii(*x) == FoldAscii(*y)) {
         ++x, ++y;
     }

@@ -29,22 +29,26 @@
 //
 // Threads: one object belongs to one thread at a time, even for reading, because c_str_utf16() and
 // normalize() may build the UTF-16 form. Distinct objects are independent.
+// NOLINTNEXTLINE(cppcoreguidelines-special-member-functions): to move out is to make new buffers
 class ustring {
   public:
-    typedef std::size_t size_type;
+    using size_type = std::size_t;
     static const size_type npos = static_cast<size_type>(-1);
 
     enum normalization_form { NFC = 0, NFD = 1 };
 
     ustring();
     ustring(const ustring& other);  // copies the UTF-8 form only
+    // NOLINTBEGIN(google-explicit-constructor): a text may stand wherever a ustring is expected
     ustring(const char* bytes);
     ustring(const unsigned short* units);
     ustring(const std::string& bytes);
     explicit ustring(std::string_view bytes);  // all of them; the view need not be terminated
     ustring(char byte);
+    // NOLINTEND(google-explicit-constructor)
     ~ustring();
 
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): assign() looks for it
     ustring& operator=(const ustring& other) { return assign(other, 0, npos); }
     ustring& operator=(ustring&& other) noexcept;  // exchanges the two
     ustring& operator=(const char* bytes) { return assign(bytes); }
