@@ -35,8 +35,8 @@ struct WriterCloser {
     // Only releases: what closing the writer says has been looked at, or the extraction has failed.
     void operator()(archive* writer) const { archive_write_free(writer); }
 };
-typedef std::unique_ptr<archive, ReaderCloser> Reader;
-typedef std::unique_ptr<archive, WriterCloser> Writer;
+using Reader = std::unique_ptr<archive, ReaderCloser>;
+using Writer = std::unique_ptr<archive, WriterCloser>;
 
 int Open(archive* reader, const ustring& path) {
     archive_read_support_filter_all(reader);
@@ -332,7 +332,7 @@ int Extractor::List() {
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         const char* const name = archive_entry_pathname(entry);
         std::printf("%s\n", name != nullptr ? name : "");
-        std::fflush(stdout);
+        static_cast<void>(std::fflush(stdout));
         archive_read_data_skip(reader.get());
     }
     return 0;
