@@ -46,6 +46,7 @@ class HandlerThread : public QThread {
 // its slot runs on the worker thread. Destroying it waits for a run that has begun.
 class Worker : public QObject {
     Q_OBJECT
+    Q_DISABLE_COPY(Worker)
 
   public:
     Worker();
@@ -73,6 +74,7 @@ class Worker : public QObject {
 // Main thread only.
 class Launcher : public QObject {
     Q_OBJECT
+    Q_DISABLE_COPY(Launcher)
 
   public:
     Launcher();
