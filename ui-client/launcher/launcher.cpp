@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QIcon>
 #include <limits>
+#include <utility>
 
 #include "lib/liblogger/log.h"
 #include "ui-client/launcher/mac/mac-service.h"
@@ -56,7 +57,7 @@ void Notify_Adapter::UpdateProgress(int total, int current) {
 }
 
 void Notify_Adapter::UpdateDialogText(QString text) {
-    emit sigUpdateDialogText(text);
+    emit sigUpdateDialogText(std::move(text));
 }
 
 void HandlerThread::run() {
@@ -64,8 +65,8 @@ void HandlerThread::run() {
 }
 
 Worker::Worker() {
-    service.reset(new MacService);
-    thread.reset(new HandlerThread);
+    service = std::make_unique<MacService>();
+    thread = std::make_unique<HandlerThread>();
     moveToThread(thread.get());
 }
 
