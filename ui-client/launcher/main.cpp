@@ -38,17 +38,18 @@ void UseUtf8InQt() {
 void UseUtf8InLibC() {
     const bool is_utf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
     if (!is_utf8 && setlocale(LC_CTYPE, "C.UTF-8") == nullptr) {
-        setlocale(LC_CTYPE, "UTF-8");  // its name on macOS
+        static_cast<void>(setlocale(LC_CTYPE, "UTF-8"));  // its name on macOS
     }
 }
 
 // Makes the bundle's plug-in folder the only place where Qt looks for plug-ins.
 QString SetLibraryPath(const char* program_path) {
-    const QString plugins = QDir::cleanPath(QString::fromLatin1(program_path) +
-                                            QStringLiteral("/../../Frameworks/plugins"));
+    QString plugins = QDir::cleanPath(QString::fromLatin1(program_path) +
+                                      QStringLiteral("/../../Frameworks/plugins"));
     QCoreApplication::setLibraryPaths(QStringList(plugins));
     std::printf("lib path = '%s'\n", plugins.toUtf8().constData());
-    std::fflush(stdout);  // to be seen also when Qt finds no plug-in there and gives up
+    static_cast<void>(
+        std::fflush(stdout));  // to be seen also when Qt finds no plug-in there and gives up
     return plugins;
 }
 
@@ -90,7 +91,7 @@ void InitializeLog() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    setlocale(LC_ALL, "");
+    static_cast<void>(setlocale(LC_ALL, ""));
     platform::NameTimeZone();
     qInitResources_texts();
     UseUtf8InQt();
@@ -111,7 +112,7 @@ int main(int argc, char** argv) {
     StrTable::InitStrTable();
     platform::QuitOnSignal();  // an upgrade that has begun is finished first
 
-    Launcher* const launcher = new Launcher;
+    auto* const launcher = new Launcher;
     launcher->Run();
     launcher->Start();
     const int result = QApplication::exec();
