@@ -10,6 +10,7 @@
 
 #include <climits>
 #include <cstddef>
+#include <fstream>
 #include <map>
 #include <set>
 #include <stdexcept>
@@ -36,15 +37,33 @@ std::string PathOf(pid_t tid, unsigned long long fd) {
     return std::string(path, size > 0 ? static_cast<std::size_t>(size) : 0);
 }
 
+std::string TextAt(pid_t tid, unsigned long long address) {
+    std::ifstream memory("/proc/" + std::to_string(tid) + "/mem", std::ios::binary);
+    memory.seekg(static_cast<std::streamoff>(address));
+    std::string text;
+    std::getline(memory, text, '\0');
+    return text;
+}
+
+// Where a build that counts what is executed keeps its counters. They are no part of a run: it
+// writes them when it has ended.
+bool IsCounterFile(const std::string& path) {
+    const std::string suffix = ".gcda";
+    return path.size() > suffix.size() &&
+           path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
 bool ChangesFiles(pid_t tid, const SyscallEntry& call) {
-    const long number = static_cast<long>(call.nr);
+    const auto number = static_cast<long>(call.nr);
     if (number == SYS_open || number == SYS_openat) {
-        const unsigned long long flags = call.args[number == SYS_open ? 1 : 2];
-        return (flags & (O_CREAT | O_TRUNC)) != 0;
+        const std::size_t flags = number == SYS_open ? 1 : 2;
+        return (call.args[flags] & (O_CREAT | O_TRUNC)) != 0 &&
+               !IsCounterFile(TextAt(tid, call.args[flags - 1]));
     }
     if (kWrites.count(number) != 0) {
         const std::string path = PathOf(tid, call.args[0]);
-        return path.compare(0, 1, "/") == 0 && path.compare(0, 5, "/dev/") != 0;
+        return path.compare(0, 1, "/") == 0 && path.compare(0, 5, "/dev/") != 0 &&
+               !IsCounterFile(path);
     }
     return kChanges.count(number) != 0;
 }
