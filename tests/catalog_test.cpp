@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QRegularExpression>
 #include <QResource>
 #include <QXmlStreamReader>
@@ -275,10 +274,3 @@ TEST_P(CatalogTest, TheDialogsTextsFit) {
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    QGuiApplication app(argc, argv);
-    return RUN_ALL_TESTS();
-}

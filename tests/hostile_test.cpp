@@ -1,24 +1,22 @@
 // Packages that try to get out of the folder that they are unpacked into, or that lie.
 
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <random>
+#include <sstream>
 
 #include "lib/liblogger/log.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/translations/str-table.h"
 
-#include <QCoreApplication>
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -107,28 +105,26 @@ class HostileTest : public testing::Test {
         return result;
     }
 
+    // All but the content of the destination.
     FileTree sentinel() const {
-        namespace fs = std::filesystem;
         FileTree tree;
-        const auto add = [&](const std::string& path, bool whole) {
+        const auto add = [&](const std::string& path) {
             struct stat status = {};
             lstat(path.c_str(), &status);
-            std::string text = "mode " + std::to_string(status.st_mode);
-            if (whole) {
-                text += ", " + std::to_string(status.st_nlink) + " links, changed " +
-                        std::to_string(status.st_ctim.tv_sec) + "." +
-                        std::to_string(status.st_ctim.tv_nsec) + ": " +
-                        (S_ISREG(status.st_mode) ? ReadFile(path) : "");
+            std::ostringstream text;
+            text << std::oct << "mode " << status.st_mode;
+            if (path != dest_) {
+                text << std::dec << ", " << status.st_nlink << " links, changed "
+                     << status.st_ctim.tv_sec << '.' << status.st_ctim.tv_nsec << ": "
+                     << (S_ISREG(status.st_mode) ? ReadFile(path) : "");
             }
-            tree[path] = text;
+            tree[path] = text.str();
         };
-        add(dest_, false);
-        add(folder_.path(), true);
+        add(folder_.path());
         for (fs::recursive_directory_iterator at(folder_.path()), end; at != end; ++at) {
+            add(at->path());
             if (at->path() == dest_) {
                 at.disable_recursion_pending();
-            } else {
-                add(at->path(), true);
             }
         }
         return tree;
@@ -281,17 +277,7 @@ TEST_F(HostileTest, LongPathsAreUnpackedOrRefused) {
     const std::size_t longest = PATH_MAX - 1 - (dest_ + "/").size();
     EXPECT_EQ(extract(File(DeepPath(longest)) + kEnd), 0);
     EXPECT_EQ(extract(File(DeepPath(longest + 1)) + kEnd), -1);
-    EXPECT_EQ(LinesWith(log_, "': its path is too long").size(), 1u);
-}
-
-// What stood in the destination before counts as little as what the archive made.
-TEST_F(HostileTest, OldLinksAreNotFollowedEither) {
-    MakeLink(kUp, dest_ + "/a");
-    EXPECT_EQ(extract(File("a/file") + kEnd), -1);
-    EXPECT_EQ(extract(Dir("a", 0) + kEnd), -1);
-    EXPECT_EQ(Tree(dest_), kOnlyLink);
-    EXPECT_EQ(extract(File("a") + kEnd), 0);
-    EXPECT_EQ(Tree(dest_), (FileTree{{"a", kEvil}}));
+    EXPECT_TRUE(HasOneLine(log_, "': its path is too long"));
 }
 
 // The text format, whose entries can name the file that holds their content, or be two things.
@@ -318,7 +304,7 @@ TEST_P(CutTest, FailsOrIsWhole) {
     ASSERT_EQ(extract(bytes), 0);
     const FileTree whole = Tree(dest_);
     for (std::size_t size = 0; size < bytes.size(); size += 512) {
-        std::filesystem::remove_all(dest_);
+        fs::remove_all(dest_);
         MakeFolder(dest_);
         if (extract(bytes.substr(0, size)) == 0) {
             EXPECT_EQ(Tree(dest_), whole) << size << " of " << bytes.size();
@@ -327,24 +313,16 @@ TEST_P(CutTest, FailsOrIsWhole) {
 }
 INSTANTIATE_TEST_SUITE_P(Formats, CutTest, testing::Values("tar", "tar.gz", "zip"));
 
-// The disk is mounted where this process alone sees it.
 TEST_F(HostileTest, ABombFillsASmallDiskOnly) {
-    if (unshare(CLONE_NEWNS) != 0 || mount("", "/", "", MS_REC | MS_PRIVATE, "") != 0 ||
-        mount("tmpfs", dest_.c_str(), "tmpfs", 0, "size=1m") != 0) {
-        GTEST_SKIP() << "can't mount a small disk: " << std::strerror(errno);
+    const SmallDisk disk(dest_, "1m");
+    if (!disk.mounted()) {
+        GTEST_SKIP() << "this user may not mount a small disk";
     }
     MakeArchive(folder_ / "bomb", "tar.gz", {{"a", std::string(64 << 20, '0')}});
     const std::string bomb = ReadFile(folder_ / "bomb");
     EXPECT_LT(bomb.size(), 100000u);
     EXPECT_EQ(extract(bomb), -1);
-    EXPECT_EQ(LinesWith(log_, kWriter).size(), 1u) << log_;
-    umount2(dest_.c_str(), MNT_DETACH);
+    EXPECT_TRUE(HasOneLine(log_, kWriter)) << log_;
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    QCoreApplication app(argc, argv);
-    return RUN_ALL_TESTS();
-}

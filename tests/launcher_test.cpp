@@ -161,22 +161,4 @@ TEST_F(LauncherTest, AnEndOfTheMainLoopWaitsForTheWork) {
     EXPECT_TRUE(installed());
 }
 
-TEST_F(LauncherTest, OneNotifierServesAllThreads) {
-    Notify_Adapter* const here = Notify_Adapter::GetInstance();
-    Notify_Adapter* there = nullptr;
-    QThread* const thread = QThread::create([&] { there = Notify_Adapter::GetInstance(); });
-    thread->start();
-    thread->wait();
-    delete thread;
-    EXPECT_EQ(here, there);
-    EXPECT_EQ(here->thread(), QApplication::instance()->thread());
-}
-
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    QApplication app(argc, argv);
-    return RUN_ALL_TESTS();
-}

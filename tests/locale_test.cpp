@@ -84,16 +84,14 @@ TEST_F(LocaleTest, NumbersItsLanguages) {
 }
 
 TEST_F(LocaleTest, LoadsTextsInEnglishAndTranslated) {
-    EXPECT_EQ(StrTable::LoadStr(43), QStringLiteral("Tarnwell is ready."));
+    int argc = 0;
+    const QCoreApplication app(argc, nullptr);
     EXPECT_EQ(StrTable::LoadStr(493), QStringLiteral("Tarnwell Backup"));
     QTranslator english;
     ASSERT_TRUE(english.load(QStringLiteral(":/enu.qm")));
     QCoreApplication::installTranslator(&english);
     EXPECT_EQ(StrTable::LoadStr(493), QStringLiteral("Orvane Tarnwell"));
     EXPECT_EQ(StrTable::LoadStr(43), QStringLiteral("Tarnwell is ready."));
-}
-
-TEST_F(LocaleTest, TurnsEscapesIntoCharacters) {
     class Escapes : public QTranslator {
         QString translate(const char*, const char*, const char*, int) const override {
             return QStringLiteral("one\\ntwo\\tthree\\Nfour");
@@ -104,17 +102,14 @@ TEST_F(LocaleTest, TurnsEscapesIntoCharacters) {
 }
 
 TEST_F(LocaleTest, FindsIdsByKey) {
-    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("btn_resume")), 0);
-    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("APP_NAME")), 493);
-    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("app_name ")), -1);
-    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("desc_cannot_list_version")), 599);
-    EXPECT_EQ(StrTable::LookupStrID(QString()), -1);
+    const std::pair<const char*, int> cases[] = {{"btn_resume", 0},
+                                                 {"APP_NAME", 493},
+                                                 {"desc_cannot_list_version", 599},
+                                                 {"app_name ", -1},
+                                                 {"", -1}};
+    for (const auto& [key, id] : cases) {
+        EXPECT_EQ(StrTable::LookupStrID(QString::fromLatin1(key)), id) << key;
+    }
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    QCoreApplication app(argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -3,8 +3,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <fstream>
-
 #include <archive_entry.h>
 
 #include "lib/liblogger/log.h"
@@ -13,8 +11,6 @@
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/launcher/translations/str-table.h"
-
-#include <QCoreApplication>
 
 namespace {
 
@@ -53,8 +49,7 @@ TEST_F(CopyTest, MergesATreeIntoAnother) {
 
 TEST_F(CopyTest, RefusesWhatIsMissing) {
     EXPECT_EQ(copy(folder_ / "missing", folder_ / "dst"), -1);
-    EXPECT_TRUE(
-        HasOneLine(log_, "FSCopyPath: source path '" + folder_ / "missing" + "' does not exist"));
+    EXPECT_TRUE(HasOneLine(log_, "source path '" + folder_ / "missing" + "' does not exist"));
     EXPECT_EQ(copy("", folder_ / "dst"), -1);
     EXPECT_TRUE(HasOneLine(log_, "FSCopyPath: failed to stat source ''"));
     EXPECT_TRUE(Tree(folder_.path()).empty());
@@ -68,13 +63,13 @@ TEST_F(CopyTest, RefusesADestinationInsideTheSource) {
         EXPECT_EQ(copy(folder_ / "src", folder_ / inside), -1) << inside;
         EXPECT_TRUE(HasOneLine(log_, "lies inside source")) << inside;
     }
-    EXPECT_EQ(Tree(folder_ / "src").size(), 1u);
-    ASSERT_EQ(chdir((folder_ / "src").c_str()), 0);
-    EXPECT_EQ(copy(folder_ / "src", "new"), -1);
     MakeFolder(folder_ / "gone");
-    ASSERT_EQ(chdir((folder_ / "gone").c_str()), 0);
-    rmdir((folder_ / "gone").c_str());
-    EXPECT_EQ(copy(folder_ / "src", "new"), -1);
+    for (const char* const current : {"src", "gone"}) {
+        ASSERT_EQ(chdir((folder_ / current).c_str()), 0);
+        rmdir((folder_ / current).c_str());  // only the one that is empty
+        EXPECT_EQ(copy(folder_ / "src", "new"), -1) << current;
+    }
+    EXPECT_EQ(Tree(folder_ / "src").size(), 1u);
     EXPECT_EQ(copy(folder_ / "src", folder_ / "src-evil"), 0);
     EXPECT_TRUE(Exists(folder_ / "src-evil/file"));
 }
@@ -104,10 +99,10 @@ TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
     MakeFile(folder_ / "src/file");
     chmod((folder_ / "src").c_str(), 0);
     chmod(folder_.path().c_str(), 0777);
-    const bool root = geteuid() == 0;
-    ASSERT_EQ(root ? seteuid(65534) : 0, 0);
-    EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
-    ASSERT_EQ(root ? seteuid(0) : 0, 0);
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
+    }
     EXPECT_TRUE(HasOneLine(log_, "[WARNING] tarnwell-service(")) << log_;
     EXPECT_TRUE(HasOneLine(log_, "failed to create handle  for src"));
     EXPECT_TRUE(Exists(folder_ / "dst"));
@@ -115,16 +110,14 @@ TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
 }
 
 TEST_F(CopyTest, ADeepTreeNeedsFewDescriptors) {
-    std::string deep = folder_ / "src";
-    MakeFolder(deep);
-    for (int i = 0; i < 1000; ++i) {
-        ASSERT_EQ(mkdir((deep += "/d").c_str(), 0755), 0);
-    }
-    std::ofstream(deep + "/file") << "bottom";
+    MakeDeepTree(folder_ / "src", 1000);
     const FewDescriptors few;
     EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
-    EXPECT_EQ(ReadFile(folder_ / "dst" + deep.substr((folder_ / "src").size()) + "/file"),
-              "bottom");
+    std::string bottom = folder_ / "dst/";
+    for (int level = 0; level < 1000; ++level) {
+        bottom += "d/";
+    }
+    EXPECT_TRUE(Exists(bottom + "file"));
 }
 
 class ExtractorTest : public testing::Test {
@@ -180,18 +173,6 @@ TEST_F(ExtractorTest, ReportsEachEntryOnce) {
     EXPECT_EQ(texts, QStringList(QStringLiteral("Tarnwell is initializing...")));
 }
 
-TEST_F(ExtractorTest, ReplacesWhatIsThereAndStripsRights) {
-    MakeFile(folder_ / "dest/file", "old and longer", 0400);
-    MakeLink("elsewhere", folder_ / "dest/link");
-    MakeArchive(folder_ / "package", "tar",
-                {{"file", "new", 0600}, {"link", "file now"}, {"/absolute", "in", 06755}});
-    umask(022);
-    EXPECT_EQ(call(&Extractor::Extract).first, 0);
-    EXPECT_EQ(Tree(folder_ / "dest"), (FileTree{{"absolute", "file 0755: in"},
-                                                {"file", "file 0600: new"},
-                                                {"link", "file 0644: file now"}}));
-}
-
 TEST_F(ExtractorTest, SaysWhatIsWrongWithAnEntry) {
     const std::string content = "stored text, the size of which is known";
     MakeArchive(folder_ / "package", "zip", {{"file", content}});
@@ -201,8 +182,7 @@ TEST_F(ExtractorTest, SaysWhatIsWrongWithAnEntry) {
     MakeFile(folder_ / "package", bytes);
     const auto [result, log] = call(&Extractor::Extract);
     EXPECT_EQ(result, -1);
-    const std::vector<std::string> lines = LinesWith(log, "archive_read_extract2 failed: '");
-    ASSERT_EQ(lines.size(), 1u) << log;
+    EXPECT_TRUE(HasOneLine(log, "archive_read_extract2 failed: '")) << log;
     EXPECT_EQ(LinesWith(log, "(null)").size() + LinesWith(log, "failed: ''").size(), 0u) << log;
 }
 
@@ -225,9 +205,3 @@ TEST_F(ExtractorTest, CopiesTheDataOfAnEntry) {
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    QCoreApplication app(argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -2,11 +2,15 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <clocale>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
@@ -53,6 +57,19 @@ void MakeLink(const std::string& target, const std::string& path) {
     fs::create_symlink(target, path);
 }
 
+void MakeDeepTree(const std::string& path, int depth) {
+    MakeFolder(path);
+    int fd = open(path.c_str(), O_RDONLY | O_DIRECTORY);
+    for (int level = 0; level < depth; ++level) {
+        Check(mkdirat(fd, "d", 0755) == 0, "can't make a folder in " + path);
+        const int next = openat(fd, "d", O_RDONLY | O_DIRECTORY);
+        close(fd);
+        fd = next;
+    }
+    close(openat(fd, "file", O_WRONLY | O_CREAT, 0644));
+    close(fd);
+}
+
 std::string ReadFile(const std::string& path) {
     std::ostringstream text;
     text << std::ifstream(path, std::ios::binary).rdbuf();
@@ -90,6 +107,17 @@ FileTree Tree(const std::string& path) {
     return tree;
 }
 
+AsNobody::AsNobody() : active_(getuid() == 0) {
+    const uid_t nobody = 65534;
+    Check(!active_ || setresuid(nobody, nobody, 0) == 0, "can't become another user");
+}
+
+AsNobody::~AsNobody() {
+    if (active_ && setresuid(0, 0, 0) != 0) {
+        std::abort();
+    }
+}
+
 FewDescriptors::FewDescriptors() {
     getrlimit(RLIMIT_NOFILE, &saved_);
     rlimit few = saved_;
@@ -99,6 +127,19 @@ FewDescriptors::FewDescriptors() {
 
 FewDescriptors::~FewDescriptors() {
     setrlimit(RLIMIT_NOFILE, &saved_);
+}
+
+SmallDisk::SmallDisk(const std::string& path, const char* size) : path_(path) {
+    MakeFolder(path);
+    mounted_ = (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+               mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+               mount("none", path.c_str(), "tmpfs", 0, ("size=" + std::string(size)).c_str()) == 0;
+}
+
+SmallDisk::~SmallDisk() {
+    if (mounted_) {
+        umount2(path_.c_str(), MNT_DETACH);
+    }
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

@@ -32,6 +32,8 @@ class Folder {
 void MakeFolder(const std::string& path);
 void MakeFile(const std::string& path, const std::string& content = "", mode_t mode = 0644);
 void MakeLink(const std::string& target, const std::string& path);
+// Makes a chain of folders named "d", longer than a path may be, with a file at its end.
+void MakeDeepTree(const std::string& path, int depth);
 
 std::string ReadFile(const std::string& path);  // empty when there is none
 bool Exists(const std::string& path);           // a dangling link does
@@ -42,6 +44,16 @@ typedef std::map<std::string, std::string> FileTree;
 FileTree Tree(const std::string& path);
 std::string DescribeFile(mode_t mode, const std::string& content);
 
+// Makes this process a user who isn't root, for what root may always do.
+class AsNobody {
+  public:
+    AsNobody();
+    ~AsNobody();
+
+  private:
+    bool active_;
+};
+
 // Lets this process open no more than a hundred files at a time.
 class FewDescriptors {
   public:
@@ -50,6 +62,22 @@ class FewDescriptors {
 
   private:
     rlimit saved_;
+};
+
+// A small disk in memory on this folder, where this process and its children alone see it. Not
+// every user may mount one.
+class SmallDisk {
+  public:
+    SmallDisk(const std::string& path, const char* size);
+    ~SmallDisk();
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+    bool mounted() const { return mounted_; }
+
+  private:
+    const std::string path_;
+    bool mounted_;
 };
 
 // Waits until the condition holds; false after ten seconds.
