@@ -4,9 +4,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <regex>
+#include <set>
 
 #include "tests/support/installation.h"
 
@@ -14,11 +15,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The messages of a log without their time stamps and without the lines of the source.
+// The messages of a log without their time stamps, and without the lines of the sources whose line
+// numbers are no part of the text.
 std::vector<std::string> Messages(const std::string& log) {
+    const std::regex any_line("(tarnwell-service|extractor)\\([0-9]+\\)");
     std::vector<std::string> messages;
     for (const std::string& line : LinesWith(log, "")) {
-        messages.push_back(line.substr(std::string("Nov 16 21:52:51 ").size()));
+        const std::size_t stamp = std::string("Nov 16 21:52:51 ").size();
+        messages.push_back(std::regex_replace(line.substr(stamp), any_line, "$1(#)"));
     }
     return messages;
 }
@@ -27,33 +31,34 @@ bool Logged(const Installation::Result& result, const std::string& fragment) {
     return !LinesWith(result.log, fragment).empty();
 }
 
-// Nothing but the log and, where there is one, the application may be left of a run.
-std::vector<std::string> UserFolder(const Installation& installation) {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(installation.user())) {
-        names.push_back(entry.path().filename());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-const std::vector<std::string> kCleanFolder = {"Tarnwell.app", "log"};
-
 std::string PidFile(pid_t pid) {
     return "pid=" + std::to_string(pid) + "\n";
 }
 
+// Cuts a package off at this fragment of it, or in the middle.
+void CutOff(const std::string& package, const std::string& fragment = "") {
+    const std::string bytes = ReadFile(package);
+    fs::resize_file(package, fragment.empty() ? bytes.size() / 2 : bytes.find(fragment));
+}
+
 class RunTest : public testing::Test {
   protected:
-    // Cuts the package off, so that unpacking fails in the middle.
-    void damagePackage() {
-        fs::resize_file(installation_.package(), fs::file_size(installation_.package()) / 2);
+    // Begins anew, with an application of this build as an earlier run would have left it.
+    void startFrom(const std::string& number) {
+        fs::remove_all(installation_.user());
+        installation_.install(number);
     }
-
     void expectBuild(const std::string& number) {
         EXPECT_EQ(Tree(installation_.app()), installation_.expectedApp(number));
     }
-    void expectOldApp() { EXPECT_TRUE(Exists(installation_.app("old"))); }
+    // Nothing but the log and the application may be left of a run.
+    void expectNoRests() {
+        std::set<std::string> names;
+        for (const auto& entry : fs::directory_iterator(installation_.user())) {
+            names.insert(entry.path().filename());
+        }
+        EXPECT_EQ(names, (std::set<std::string>{"Tarnwell.app", "log"}));
+    }
 
     Installation installation_;
 };
@@ -62,35 +67,26 @@ TEST_F(RunTest, InstallsForANewUser) {
     installation_.logEverything();
     const Installation::Result result = installation_.run();
     expectBuild("100");
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+    expectNoRests();
     EXPECT_TRUE(installation_.clientStarted());
     EXPECT_EQ(result.out,
               "lib path = '" + installation_.bundle("Contents/Frameworks/plugins") + "'\n");
-
-    const std::string target = installation_.app();
-    const std::vector<std::string> expected = {
-        "[DEBUG] launcher(87): running",
-        "[INFO] tarnwell-service(#): target_version = (2, 1, 100, 7)",
-        "[INFO] tarnwell-service(#): source does not exist",
-        "[DEBUG] mac/mac-service(74): Source version: ('', '')",
-        "[DEBUG] mac/mac-service(75): Target version: ('100', '7')",
-        "[DEBUG] mac/mac-service(141): source version = 0, target version = 100",
-        "[INFO] tarnwell-service(#): extract package: '" + installation_.package() + "' -> '" +
-            target + "'",
-        "[DEBUG] extractor(#): decompress from '" + installation_.package() + "' to '" + target +
-            "'",
-        "[INFO] tarnwell-service(#): user installation is ready, removing backup app",
-        "[INFO] tarnwell-service(#): removing aged app folder " + installation_.user("app"),
-        "[DEBUG] launcher(115): done"};
-    std::vector<std::string> messages = Messages(result.log);
-    ASSERT_EQ(messages.size(), expected.size()) << result.log;
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        const std::size_t open = expected[i].find('(');
-        const std::size_t close = messages[i].find(')');
-        const bool any_line = expected[i].compare(open, 3, "(#)") == 0;
-        EXPECT_EQ(any_line ? messages[i].replace(open, close - open + 1, "(#)") : messages[i],
-                  expected[i]);
-    }
+    const std::string way = "'" + installation_.package() + "' -> '" + installation_.app() + "'";
+    EXPECT_EQ(
+        Messages(result.log),
+        (std::vector<std::string>{
+            "[DEBUG] launcher(87): running",
+            "[INFO] tarnwell-service(#): target_version = (2, 1, 100, 7)",
+            "[INFO] tarnwell-service(#): source does not exist",
+            "[DEBUG] mac/mac-service(74): Source version: ('', '')",
+            "[DEBUG] mac/mac-service(75): Target version: ('100', '7')",
+            "[DEBUG] mac/mac-service(141): source version = 0, target version = 100",
+            "[INFO] tarnwell-service(#): extract package: " + way,
+            "[DEBUG] extractor(#): decompress from " +
+                std::regex_replace(way, std::regex("->"), "to"),
+            "[INFO] tarnwell-service(#): user installation is ready, removing backup app",
+            "[INFO] tarnwell-service(#): removing aged app folder " + installation_.user("app"),
+            "[DEBUG] launcher(115): done"}));
 }
 
 TEST_F(RunTest, WritesOnlyErrorsUnlessToldOtherwise) {
@@ -114,26 +110,25 @@ TEST_F(RunTest, DecidesByTheBuildNumbers) {
     installation_.logEverything();
     for (const auto& row : cases) {
         SCOPED_TRACE(std::string(row.source) + " to " + row.target);
-        fs::remove_all(installation_.user());
-        installation_.install(row.source);
+        const Client client(Client::EndsAtOnce);
+        startFrom(row.source);
+        installation_.setClientPid(PidFile(client.pid()));
         installation_.setBuild(row.target);
         const Installation::Result result = installation_.run();
         EXPECT_EQ(Exists(installation_.app("old")), !row.upgrade);
+        EXPECT_EQ(client.running(), !row.upgrade);
         EXPECT_EQ(Logged(result, "launcher(92): no need to upgrade"), !row.upgrade);
         EXPECT_TRUE(installation_.clientStarted());
     }
 }
 
 TEST_F(RunTest, AnInstallationWithoutVersionOrClientIsReplaced) {
-    installation_.install("500");
-    fs::remove(installation_.app("Contents/Resources/INFO"));
-    installation_.run();
-    expectBuild("100");
-
-    installation_.install("500");
-    fs::remove(installation_.app("Contents/MacOS/tarnwell-ui"));
-    installation_.run();
-    expectBuild("100");
+    for (const char* const missing : {"Contents/Resources/INFO", "Contents/MacOS/tarnwell-ui"}) {
+        startFrom("500");
+        fs::remove(installation_.app(missing));
+        installation_.run();
+        expectBuild("100");
+    }
 }
 
 TEST_F(RunTest, StopsARunningClient) {
@@ -147,8 +142,7 @@ TEST_F(RunTest, StopsARunningClient) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.least_seconds);
         Client client(row.behaviour);
-        fs::remove_all(installation_.user());
-        installation_.install("99");
+        startFrom("99");
         installation_.setClientPid(PidFile(client.pid()));
         const auto begin = std::chrono::steady_clock::now();
         installation_.run();
@@ -161,50 +155,32 @@ TEST_F(RunTest, StopsARunningClient) {
     }
 }
 
-TEST_F(RunTest, LeavesTheClientAloneWithoutAnUpgrade) {
-    Client client(Client::EndsAtOnce);
-    installation_.install("100");
-    installation_.setClientPid(PidFile(client.pid()));
-    installation_.run();
-    EXPECT_TRUE(client.running());
-}
-
 TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
-    pid_t gone;
-    {
-        Client client(Client::EndsAtOnce);
-        gone = client.pid();
-    }
-    const struct {
-        std::string pid_file;
-        const char* message;
-    } cases[] = {{PidFile(gone), ""},
-                 {"pid=0\n", "names no client: pid '0'"},
-                 {"pid=-1\n", "names no client: pid '-1'"},
-                 {"pid=abc\n", "names no client: pid 'abc'"},
-                 {"pid=''\n", "names no client: pid ''"},
-                 {"other=1\n", "names no client: pid ''"},
-                 {"pid=4294967297\n", "names no client: pid '4294967297'"},
-                 {"pid=99999999999999999999\n", "names no client"},
-                 {"garbage\n", "[NOTE] mac/mac-service(97): Failed to read pid file"}};
+    const pid_t gone = Client(Client::EndsAtOnce).pid();
+    const std::pair<std::string, std::string> cases[] = {
+        {PidFile(gone), "[DEBUG] mac/mac-service(154): local appdata exist"},
+        {"pid=0\n", "names no client: pid '0'"},
+        {"pid=-1\n", "names no client: pid '-1'"},
+        {"pid=abc\n", "names no client: pid 'abc'"},
+        {"pid=''\n", "names no client: pid ''"},
+        {"other=1\n", "names no client: pid ''"},
+        {"pid=4294967297\n", "names no client: pid '4294967297'"},
+        {"pid=99999999999999999999\n", "names no client"},
+        {"garbage\n", "[NOTE] mac/mac-service(97): Failed to read pid file"},
+        {"",
+         "mac/mac-service(92): pid file '" + installation_.user("ui.pid") + "' does not exist"}};
     installation_.logEverything();
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.pid_file);
-        fs::remove_all(installation_.user());
-        installation_.install("99");
-        installation_.setClientPid(row.pid_file);
+    for (const auto& [pid_file, message] : cases) {
+        SCOPED_TRACE(pid_file);
+        startFrom("99");
+        if (!pid_file.empty()) {
+            installation_.setClientPid(pid_file);
+        }
         const Installation::Result result = installation_.run();
-        const bool silent = *row.message == 0;
-        EXPECT_EQ(Logged(result, silent ? "pid" : row.message), !silent) << result.log;
+        EXPECT_TRUE(Logged(result, message)) << result.log;
         EXPECT_FALSE(Logged(result, "kill:")) << result.log;
-        EXPECT_TRUE(Logged(result, "mac/mac-service(154): local appdata exist"));
         expectBuild("100");
     }
-    fs::remove_all(installation_.user());
-    installation_.install("99");
-    EXPECT_TRUE(Logged(installation_.run(), "mac/mac-service(92): pid file '" +
-                                                installation_.user("ui.pid") +
-                                                "' does not exist, no need to terminate"));
 }
 
 TEST_F(RunTest, AClientThatMayNotBeSignalledIsWaitedFor) {
@@ -248,22 +224,6 @@ TEST_F(RunTest, AProcessThatTookTheClientsIdIsLeftAlone) {
     EXPECT_EQ(client.wait(), 1000 + SIGTERM) << "the clock may have been set; it is the client";
 }
 
-TEST_F(RunTest, AnUpgradeThatWasCutOffIsUndoneFirst) {
-    installation_.install("99");
-    fs::rename(installation_.app(), installation_.user("Tarnwell.app_tmp"));
-    struct stat status;
-    ASSERT_EQ(stat(installation_.user("Tarnwell.app_tmp").c_str(), &status), 0);
-    MakeFile(installation_.app("half"), "unpacked");
-    MakeFile(installation_.user("upgrade.journal"),
-             "state=replacing\nbackup=0\nobject=" + std::to_string(status.st_ino) + "\n");
-    installation_.setBuild("99");  // so that nothing else happens
-    const Installation::Result result = installation_.run();
-    EXPECT_TRUE(Logged(result, "an upgrade was cut off, rollback to old installation"));
-    expectOldApp();
-    EXPECT_FALSE(Exists(installation_.app("half")));
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
-}
-
 TEST_F(RunTest, ARecordThatIsNoneIsNeverObeyed) {
     const std::string outside = installation_.home() + "/outside";
     const std::string record = installation_.user("upgrade.journal");
@@ -296,83 +256,67 @@ TEST_F(RunTest, ARecordThatIsNoneIsNeverObeyed) {
     }
 }
 
-TEST_F(RunTest, LeftOverBackupsAreSteppedOverAndRemoved) {
-    installation_.install("99");
-    MakeFile(installation_.user("Tarnwell.app_tmp/rest"));
-    MakeFile(installation_.user("Tarnwell.app_tmp1/rest"));
-    MakeFile(installation_.user("app/older layout"));
-    const Installation::Result result = installation_.run();
-    expectBuild("100");
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
-    EXPECT_EQ(LinesWith(result.log, "failed to backup app").size(), 2u);
-}
-
-TEST_F(RunTest, TenBlockedBackupNamesEndTheUpgrade) {
-    installation_.install("99");
-    MakeFile(installation_.user("Tarnwell.app_tmp/rest"));
-    for (int n = 1; n < 10; ++n) {
-        MakeFile(installation_.user("Tarnwell.app_tmp" + std::to_string(n) + "/rest"));
+TEST_F(RunTest, BlockedBackupNamesAreSteppedOverUpToTheTenth) {
+    for (const int blocked : {2, 10}) {
+        SCOPED_TRACE(blocked);
+        startFrom("99");
+        MakeFile(installation_.user("app/older layout"));
+        for (int n = 0; n < blocked; ++n) {
+            const std::string name = "Tarnwell.app_tmp" + (n > 0 ? std::to_string(n) : "");
+            MakeFile(installation_.user(name + "/rest"));
+        }
+        const Installation::Result result = installation_.run();
+        EXPECT_TRUE(installation_.clientStarted());
+        if (blocked < 10) {
+            expectBuild("100");
+            expectNoRests();
+            EXPECT_EQ(LinesWith(result.log, "failed to backup app").size(), 2u);
+        } else {
+            EXPECT_TRUE(Exists(installation_.app("old")));
+            EXPECT_EQ(LinesWith(result.log, "failed to backup app").size(), 11u);
+            EXPECT_TRUE(HasOneLine(result.log, "Tarnwell.app_tmp9' at max retries, exiting"));
+            EXPECT_TRUE(HasOneLine(result.log, "[ERROR] launcher(99): Failed to upgrade package"));
+        }
     }
-    const Installation::Result result = installation_.run();
-    expectOldApp();
-    EXPECT_TRUE(installation_.clientStarted());
-    const std::vector<std::string> lines = LinesWith(result.log, "failed to backup app");
-    ASSERT_EQ(lines.size(), 11u);
-    EXPECT_NE(lines[10].find("Tarnwell.app_tmp9' at max retries, exiting"), std::string::npos);
-    EXPECT_TRUE(Logged(result, "[ERROR] launcher(99): Failed to upgrade package"));
 }
 
 TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
     const struct {
-        const char* name;
-        std::function<void()> spoil;
+        const char* format;
+        void (*spoil)(const std::string& package);
         const char* message;
     } cases[] = {
-        {"cut off", [this] { damagePackage(); }, "rollback to old installation"},
-        {"cut between two entries",
-         [this] {
-             installation_.setBuild("100", "tar");
-             const std::string package = ReadFile(installation_.package());
-             fs::resize_file(installation_.package(), package.find("Contents/MacOS/tarnwell-ui"));
-         },
+        {"tar.gz", [](const std::string& package) { CutOff(package); },
+         "rollback to old installation"},
+        {"tar", [](const std::string& package) { CutOff(package, "Contents/MacOS/tarnwell-ui"); },
          "the archive was cut off after"},
-        {"without the client", [this] { MakeArchive(installation_.package(), "zip", {{"file"}}); },
-         "the package has no client"},
-        {"empty", [this] { MakeFile(installation_.package()); }, "total file numbers, ret: 0"},
-        {"short zip",
-         [this] {
-             installation_.setBuild("100");
-             damagePackage();
-         },
+        {"zip", [](const std::string& package) { CutOff(package); },
          "archive_read_next_header failed: 'Truncated ZIP"},
-        {"garbage", [this] { MakeFile(installation_.package(), std::string(5000, 'g')); },
+        {"zip", [](const std::string& package) { MakeArchive(package, "zip", {{"file"}}); },
+         "the package has no client"},
+        {"zip", [](const std::string& package) { MakeFile(package); },
+         "total file numbers, ret: 0"},
+        {"zip", [](const std::string& package) { MakeFile(package, std::string(5000, 'g')); },
          "archive_read_open_filename failed: 'Unrecognized archive format'"},
-        {"missing", [this] { fs::remove(installation_.package()); }, "total file numbers, ret: -1"},
-        {"with ..",
-         [this] {
-             MakeArchive(installation_.package(), "tar",
-                         {{"good", "1"}, {"Contents/../../../evil", "2"}});
-         },
-         "archive_read_extract2 failed: 'Path contains '..''"}};
+        {"zip", [](const std::string& package) { fs::remove(package); },
+         "total file numbers, ret: -1"}};
     for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
-        fs::remove_all(installation_.user());
-        installation_.install("99");
+        SCOPED_TRACE(row.message);
+        startFrom("99");
         const auto before = Tree(installation_.app());
-        installation_.setBuild("100", "tar.gz");
-        row.spoil();
+        installation_.setBuild("100", row.format);
+        row.spoil(installation_.package());
         const Installation::Result result = installation_.run();
         EXPECT_TRUE(Logged(result, row.message)) << result.log;
         EXPECT_EQ(Tree(installation_.app()), before);
-        EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+        expectNoRests();
         EXPECT_TRUE(installation_.clientStarted());
-        EXPECT_FALSE(Exists(installation_.home() + "/evil"));
     }
 }
 
 TEST_F(RunTest, AFailedFirstInstallationIsReportedAndRepaired) {
     installation_.setBuild("100", "tar.gz");
-    damagePackage();
+    CutOff(installation_.package());
     const Installation::Result result = installation_.run();
     EXPECT_TRUE(Logged(result, "Failed to extract package, and no old installation to rollback"));
     EXPECT_TRUE(Logged(result, "[ERROR] mac/mac-service(80): Failed to launch Tarnwell UI"));
@@ -393,21 +337,11 @@ TEST_F(RunTest, TakesEveryFormat) {
     }
 }
 
-TEST_F(RunTest, HardLinksStayInsideTheApplication) {
-    MakeArchive(installation_.package(), "tar",
-                {{"Contents/MacOS/tarnwell-ui", "#!/bin/sh\n", 0755},
-                 {"Contents/copy", "", 0644, "", "Contents/MacOS/tarnwell-ui"}});
-    installation_.run();
-    struct stat status;
-    ASSERT_EQ(stat(installation_.app("Contents/copy").c_str(), &status), 0);
-    EXPECT_EQ(status.st_nlink, 2u);
-}
-
 TEST_F(RunTest, AFileInThePlaceOfTheApplicationFolderIsMovedAside) {
     MakeFile(installation_.app(), "not a folder");
     installation_.run();
     expectBuild("100");
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+    expectNoRests();
 }
 
 TEST_F(RunTest, ADanglingLinkInThePlaceOfTheApplicationFolder) {
@@ -427,7 +361,7 @@ TEST_F(RunTest, AReadOnlyHomeStillStartsTheClient) {
     EXPECT_FALSE(LinesWith(result.err, "at max retries, exiting").empty());
     EXPECT_TRUE(installation_.clientStarted());
     fs::permissions(installation_.user(), fs::perms(0755));
-    expectOldApp();
+    EXPECT_TRUE(Exists(installation_.app("old")));
 }
 
 TEST_F(RunTest, EndsWellWithoutAUsableHome) {
@@ -440,57 +374,10 @@ TEST_F(RunTest, EndsWellWithoutAUsableHome) {
     }
 }
 
-// A package that is a pipe holds the launcher in the middle of an upgrade for as long as we like.
-class HeldRunTest : public RunTest {
-  protected:
-    ~HeldRunTest() override {
-        if (held_ > 0) {
-            kill(held_, SIGKILL);
-            Installation::wait(held_);
-        }
-    }
-    HeldRunTest() {
-        installation_.logEverything();
-        fs::remove(installation_.package());
-        EXPECT_EQ(mkfifo(installation_.package().c_str(), 0644), 0);
-    }
-    void startAndHold() {
-        held_ = installation_.start();
-        EXPECT_TRUE(WaitFor([this] {
-            return !LinesWith(ReadFile(installation_.user("log/launcher.log")), "decompress from")
-                        .empty();
-        }));
-    }
-    int endOfHeld() {
-        const int end = Installation::wait(held_);
-        held_ = 0;
-        return end;
-    }
-
-    pid_t held_ = 0;
-};
-
-TEST_F(HeldRunTest, ASecondStartEndsAtOnce) {
-    startAndHold();
-    const Installation::Result second = installation_.run();
-    ASSERT_EQ(Messages(second.log).size(), 1u);
-    EXPECT_EQ(Messages(second.log)[0], "[DEBUG] main(80): app has already launched, return");
-    MakeFile(installation_.package(), "no archive");  // lets the first one go on
-    EXPECT_EQ(endOfHeld(), 0);
-}
-
-TEST_F(HeldRunTest, AKilledRunBlocksNobody) {
-    startAndHold();
-    kill(held_, SIGKILL);
-    EXPECT_EQ(endOfHeld(), 1000 + SIGKILL);
-    fs::remove(installation_.package());
-    installation_.setBuild("100");
-    installation_.run();
-    expectBuild("100");
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
-}
-
-TEST_F(HeldRunTest, OfManyStartsAtOnceOneWorks) {
+TEST_F(RunTest, OfManyStartsAtOnceOneWorks) {
+    installation_.logEverything();
+    fs::remove(installation_.package());  // a pipe holds the one in the middle of its upgrade
+    ASSERT_EQ(mkfifo(installation_.package().c_str(), 0644), 0);
     std::vector<pid_t> starts;
     for (int i = 0; i < 100; ++i) {
         starts.push_back(installation_.start());
@@ -499,7 +386,8 @@ TEST_F(HeldRunTest, OfManyStartsAtOnceOneWorks) {
         return LinesWith(ReadFile(installation_.user("log/launcher.log")), fragment).size();
     };
     EXPECT_TRUE(WaitFor([&] {
-        return logged("app has already launched") == 99u && logged("decompress from") == 1u;
+        return logged("[DEBUG] main(80): app has already launched, return") == 99u &&
+               logged("decompress from") == 1u;
     }));
     MakeFile(installation_.package(), "no archive");
     for (const pid_t pid : starts) {
@@ -508,32 +396,30 @@ TEST_F(HeldRunTest, OfManyStartsAtOnceOneWorks) {
     EXPECT_EQ(logged("): extract package"), 1u);
 }
 
+// The label of the window, by a part that no other language has in it.
 TEST_F(RunTest, SpeaksTheUsersLanguage) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"en_US.UTF-8", "Tarnwell is initializing..."},
-        {"zh_TW.UTF-8", "Tarnwell 正在初始化…"},
-        {"zh_HK", "Tarnwell 正在初始化…"},
-        {"zh_CN", "Tarnwell 正在初始化…"},
-        {"ja_JP", "Tarnwellを初期化中…"},
-        {"de_CH", "Tarnwell wird initialisiert\u00A0…"},
-        {"ko_KR", "Tarnwell 초기화 중…"},
-        {"fr_FR", "Initialisation de Tarnwell…"},
-        {"it_IT", "Preparazione di Tarnwell…"},
-        {"es_ES", "Preparando Tarnwell…"},
-        {"pt_BR", "Inicializando o Tarnwell…"},
-        {"pt_PT", "A inicializar o Tarnwell…"},
-        {"ru_RU", "Инициализация Tarnwell…"},
-        {"da_DK", "Tarnwell klargøres…"},
-        {"nb_NO", "Tarnwell klargjøres\u00A0…"},
-        {"nn_NO", "Tarnwell klargjøres\u00A0…"},
-        {"sv_SE", "Tarnwell förbereds…"},
-        {"nl_NL", "Tarnwell wordt voorbereid…"},
-        {"pl_PL", "Inicjowanie programu Tarnwell…"},
-        {"hu_HU", "A Tarnwell előkészítése…"},
-        {"tr_TR", "Tarnwell hazırlanıyor…"},
-        {"cs_CZ", "Tarnwell se inicializuje…"},
-        {"el_GR", "Tarnwell is initializing..."},
-        {"C", "Tarnwell is initializing..."}};
+    const std::pair<const char*, const char*> cases[] = {{"en_US.UTF-8", "Tarnwell is"},
+                                                         {"zh_TW.UTF-8", "正在"},
+                                                         {"zh_CN", "正在"},
+                                                         {"ja_JP", "を初期化中"},
+                                                         {"de_CH", "wird"},
+                                                         {"ko_KR", "초기화"},
+                                                         {"fr_FR", "Initialisation"},
+                                                         {"it_IT", "Prepara"},
+                                                         {"es_ES", "Preparando"},
+                                                         {"pt_BR", "Inicializando"},
+                                                         {"pt_PT", "A inic"},
+                                                         {"ru_RU", "Инициализация"},
+                                                         {"da_DK", "klargøres"},
+                                                         {"nb_NO", "klargjøres"},
+                                                         {"sv_SE", "förbereds"},
+                                                         {"nl_NL", "wordt"},
+                                                         {"pl_PL", "Inicjowanie"},
+                                                         {"hu_HU", "előkészítése"},
+                                                         {"tr_TR", "hazırlanıyor"},
+                                                         {"cs_CZ", "inicializuje"},
+                                                         {"el_GR", "Tarnwell is"},
+                                                         {"C", "Tarnwell is"}};
     const std::string plugin = installation_.bundle("Contents/Frameworks/plugins/generic");
     MakeFolder(plugin);
     fs::copy(WINDOW_READER, plugin);
@@ -544,7 +430,9 @@ TEST_F(RunTest, SpeaksTheUsersLanguage) {
         fs::remove_all(installation_.user());
         installation_.setEnvironment("LANG", locale);
         installation_.run();
-        EXPECT_EQ(ReadFile(seen), std::string("Orvane Tarnwell\n") + label) << locale;
+        const std::string window = ReadFile(seen);
+        EXPECT_TRUE(HasOneLine(window, "Orvane Tarnwell")) << locale << ": " << window;
+        EXPECT_TRUE(HasOneLine(window, label)) << locale << ": " << window;
     }
 }
 
