@@ -1,5 +1,7 @@
 #include "lib/config/config.h"
 
+#include <climits>
+
 #include "tests/support/scenario.h"
 
 namespace {
@@ -44,14 +46,10 @@ TEST_F(ConfigTest, Accepts) {
 
 TEST_F(ConfigTest, RefusesTheWholeFile) {
     for (const char* const text :
-         {"key=two words\n", "key=\n", "key=   \n", "key", "a/b=1\n", "key= # comment\n",
+         {"key=two words\n", "key=\n", "key=   \n", "a/b=1\n", "key= # comment\n",
           "\xEF\xBB\xBFkey=1\n", "[Version]\n", "key\n", "key 1\n", "key='open\n", "key='a\tb'\n",
           "key='a'b\n", "key=a\x01\n", "key=a\x7F", "key:1\n", "\xC3\xA9=1\n"}) {
         config_.entries = {{"earlier", "entry"}};
-        if (std::string(text) == "key") {
-            EXPECT_EQ(read(text), 0) << "a key that the file ends with is ignored";
-            continue;
-        }
         EXPECT_EQ(read(std::string("good=1\n") + text), -1) << text;
         EXPECT_TRUE(config_.entries.empty()) << text;
     }
@@ -59,13 +57,10 @@ TEST_F(ConfigTest, RefusesTheWholeFile) {
 
 TEST_F(ConfigTest, AddsToWhatItHolds) {
     EXPECT_EQ(read("a=1\nb=2\n"), 0);
-    EXPECT_EQ(read("b=3\nc=4\n"), 0);
-    EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"b", "3"}, {"c", "4"}}));
+    EXPECT_EQ(read("b=3\nc=4\nignored"), 0);
     EXPECT_EQ(config_.read(""), -1);
     EXPECT_EQ(config_.read((folder_ / "missing").c_str()), -1);
-    EXPECT_EQ(config_.entries.size(), 3u);
-    EXPECT_EQ(read("bad line\n"), -1);
-    EXPECT_TRUE(config_.entries.empty());
+    EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"b", "3"}, {"c", "4"}}));
 }
 
 TEST_F(ConfigTest, ReadsALongLineInPieces) {
@@ -78,17 +73,17 @@ TEST_F(ConfigTest, ReadsALongLineInPieces) {
 }
 
 TEST_F(ConfigTest, ReadsIntegers) {
-    const std::vector<std::pair<const char*, int>> cases = {{"12abc", 12},
-                                                            {"abc", 0},
-                                                            {"-7", -7},
-                                                            {"+5", 5},
-                                                            {"''", 0},
-                                                            {"' 8'", 8},
-                                                            {"0x10", 0},
-                                                            {"2147483647", 2147483647},
-                                                            {"2147483648", 0},
-                                                            {"-2147483648", -2147483647 - 1},
-                                                            {"99999999999999999999", 0}};
+    const std::pair<const char*, int> cases[] = {{"12abc", 12},
+                                                 {"abc", 0},
+                                                 {"-7", -7},
+                                                 {"+5", 5},
+                                                 {"''", 0},
+                                                 {"' 8'", 8},
+                                                 {"0x10", 0},
+                                                 {"2147483647", INT_MAX},
+                                                 {"-2147483648", INT_MIN},
+                                                 {"2147483648", 0},
+                                                 {"99999999999999999999", 0}};
     for (const auto& [text, number] : cases) {
         ASSERT_EQ(read(std::string("x= ") + text + "\n"), 0) << text;
         EXPECT_EQ(config_.get_int("x"), number) << text;

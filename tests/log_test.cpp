@@ -48,13 +48,17 @@ class LogTest : public testing::Test {
 
 TEST_F(LogTest, BeforeItsStartMessagesGoToStandardError) {
     const std::string text = CaptureStderr([] {
-        LOG_MSG_AT(4711, WARNING, "%s %d\n", "shown", 1);
+        LOG_MSG_AT(4711, WARNING, "%s %d", "shown", 1);
         LOG_MSG(NOTE, "hidden\n");
     });
     tm time{};
     const char* const message = strptime(text.c_str(), "%b %d %H:%M:%S ", &time);
     ASSERT_NE(message, nullptr) << text;
-    EXPECT_STREQ(message, "[WARNING] log_test(4711): shown 1\n");
+    EXPECT_STREQ(message, "[WARNING] log_test(4711): shown 1");
+    for (const std::string& path : {std::string(), folder_ / "missing/test.log"}) {
+        EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, path.c_str(), "", 50), -1);
+        EXPECT_TRUE(HasOneLine(CaptureStderr([] { LOG_MSG(ERROR, "still here\n"); }), "still"));
+    }
 }
 
 TEST_F(LogTest, ThresholdsComeFromTheLevelFile) {
@@ -73,37 +77,27 @@ TEST_F(LogTest, ThresholdsComeFromTheLevelFile) {
     }
 }
 
-TEST_F(LogTest, AFixedLineNumberReplacesTheSources) {
-    ASSERT_EQ(logToFile(), 0);
-    LOG_MSG_AT(4711, ERROR, "message without an end");
-    EXPECT_EQ(ReadFile(log_).substr(16), "[ERROR] log_test(4711): message without an end");
-}
-
-TEST_F(LogTest, WritesToTheChosenStream) {
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDERR, log_.c_str(), "", 1), 0);
-    EXPECT_NE(CaptureStderr([] { LOG_MSG(ERROR, "to err\n"); }), "");
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDOUT, log_.c_str(), "", 1), 0);
-    testing::internal::CaptureStdout();
-    LOG_MSG(ERROR, "to out\n");
-    EXPECT_NE(testing::internal::GetCapturedStdout(), "");
-    EXPECT_FALSE(Exists(log_));
-}
-
 // vsyslog writes to /dev/log, and with LOG_PERROR to standard error as well, without a time.
-TEST_F(LogTest, WritesToTheSystemLog) {
+TEST_F(LogTest, WritesWhereItIsTold) {
     openlog("log_test", LOG_PERROR, LOG_USER);
-    MakeFile(levels_, "log_test_debug=7\n");
-    ASSERT_EQ(Logger::Initialize(Logger::TYPE_SYSLOG, log_.c_str(), levels_.c_str(), 1), 0);
-    const std::string text = CaptureStderr([] { LOG_MSG_AT(1, DEBUG, "%s\n", "to the system"); });
-    EXPECT_EQ(text, "log_test: [DEBUG] log_test(1): to the system\n");
-    EXPECT_FALSE(Exists(log_));
-}
-
-TEST_F(LogTest, AFileThatCannotBeOpenedLeavesStandardError) {
-    for (const std::string& path : {std::string(), folder_ / "missing/test.log"}) {
-        EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, path.c_str(), "", 50), -1);
-        EXPECT_TRUE(HasOneLine(CaptureStderr([] { LOG_MSG(ERROR, "still here\n"); }), "still"));
+    const struct {
+        Logger::Type type;
+        std::string out;
+        std::string err;
+    } cases[] = {{Logger::TYPE_STDERR, "", "[ERROR] log_test(1): message\n"},
+                 {Logger::TYPE_STDOUT, "[ERROR] log_test(1): message\n", ""},
+                 {Logger::TYPE_SYSLOG, "", "log_test: [ERROR] log_test(1): message\n"}};
+    const auto without_time = [](const std::string& text) {
+        return text.compare(0, 8, "log_test") == 0 || text.empty() ? text : text.substr(16);
+    };
+    for (const auto& row : cases) {
+        ASSERT_EQ(Logger::Initialize(row.type, log_.c_str(), "", 1), 0);
+        testing::internal::CaptureStdout();
+        const std::string err = CaptureStderr([] { LOG_MSG_AT(1, ERROR, "%s\n", "message"); });
+        EXPECT_EQ(without_time(testing::internal::GetCapturedStdout()), row.out);
+        EXPECT_EQ(without_time(err), row.err);
     }
+    EXPECT_FALSE(Exists(log_));
 }
 
 TEST_F(LogTest, DestroyGoesBackToStandardOutput) {
@@ -117,7 +111,7 @@ TEST_F(LogTest, DestroyGoesBackToStandardOutput) {
     EXPECT_TRUE(HasOneLine(ReadFile(log_), ""));
 }
 
-TEST_F(LogTest, TakesAnArgumentList) {
+TEST_F(LogTest, TakesAnArgumentListAndKeepsErrno) {
     ASSERT_EQ(logToFile(), 0);
     char component[] = "log_test_debug";
     const auto log = [&](const char* format, ...) {
@@ -126,15 +120,10 @@ TEST_F(LogTest, TakesAnArgumentList) {
         LogMSG_c(Logger::LEVEL_WARNING, component, format, args);
         va_end(args);
     };
-    log("%d and %s\n", 7, "text");
-    EXPECT_EQ(ReadFile(log_).substr(16), "7 and text\n");
-}
-
-TEST_F(LogTest, KeepsErrno) {
-    ASSERT_EQ(logToFile(), 0);
     errno = ENOTDIR;
-    LOG_MSG(ERROR, "message\n");
+    log("%d and %s\n", 7, "text");
     EXPECT_EQ(errno, ENOTDIR);
+    EXPECT_EQ(ReadFile(log_).substr(16), "7 and text\n");
 }
 
 TEST_F(LogTest, RotatesWhenThisProcessHasWrittenAMebibyte) {

@@ -1,6 +1,8 @@
 #include "lib/libtmpname/tmp_name_gen.h"
 
 #include <cstring>
+#include <mutex>
+#include <regex>
 #include <set>
 #include <thread>
 
@@ -39,40 +41,39 @@ TEST(TmpNameGen, AnEmptyKeyIsFilled) {
 
 TEST(TmpNameGen, TheKeyIsTheTime) {
     unsigned char key[256];
-    const long before = static_cast<long>(std::time(nullptr));
+    char* const text = reinterpret_cast<char*>(key);
     const int length = TmpNameGen::get_key(key, sizeof key);
-    EXPECT_EQ(std::strlen(reinterpret_cast<char*>(key)), static_cast<std::size_t>(length));
+    EXPECT_EQ(std::strlen(text), static_cast<std::size_t>(length));
     long seconds = 0;
     long microseconds = -1;
-    ASSERT_EQ(std::sscanf(reinterpret_cast<char*>(key), "%ld-%ld", &seconds, &microseconds), 2);
-    EXPECT_NEAR(static_cast<double>(seconds), static_cast<double>(before), 5);
+    ASSERT_EQ(std::sscanf(text, "%ld-%ld", &seconds, &microseconds), 2);
+    EXPECT_NEAR(double(seconds), double(std::time(nullptr)), 5);
     EXPECT_LT(microseconds, 1000000);
     EXPECT_GT(TmpNameGen::get_key(key, 4), 4);
     EXPECT_EQ(key[3], 0);
 }
 
 TEST(TmpNameGen, ThreadsGetDistinctNames) {
-    std::vector<std::set<std::string>> names(4);
+    std::set<std::string> names;
+    std::mutex mutex;
     std::vector<std::thread> threads;
-    for (std::set<std::string>& mine : names) {
-        threads.emplace_back([&mine] {
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([&] {
             for (int i = 0; i < 1000; ++i) {
-                mine.insert(TmpNameGen::getInstance().getTmpPath("/tmp").c_str());
+                const ustring path = TmpNameGen::getInstance().getTmpPath("/tmp");
+                const std::lock_guard<std::mutex> lock(mutex);
+                names.insert(path.c_str());
             }
         });
     }
-    std::set<std::string> all;
-    for (std::size_t i = 0; i < threads.size(); ++i) {
-        threads[i].join();
-        all.insert(names[i].begin(), names[i].end());
+    for (std::thread& thread : threads) {
+        thread.join();
     }
-    EXPECT_EQ(all.size(), 4000u);
-    const std::string alphabet = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
-    for (const std::string& path : all) {
-        EXPECT_EQ(path.size(), 13u);
-        EXPECT_EQ(path.find_first_not_of(alphabet, 5), std::string::npos) << path;
+    EXPECT_EQ(names.size(), 4000u);
+    const std::regex expected("/tmp/[-_0-9a-zA-Z]{8}");
+    for (const std::string& name : names) {
+        EXPECT_TRUE(std::regex_match(name, expected)) << name;
     }
-    EXPECT_EQ(TmpNameGen::getInstance().getTmpPath("").find('/'), 0u);
 }
 
 }  // namespace
