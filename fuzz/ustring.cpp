@@ -228,7 +228,7 @@ void Trim(State& s) {
     const bool right = way % 3 != 0;
     std::string set = s.program.text<char>();
     const auto trim = [&](const auto& x) {
-        left&& right ? s.a.text.trim(x) : left ? s.a.text.ltrim(x) : s.a.text.rtrim(x);
+        !right ? s.a.text.ltrim(x) : left ? s.a.text.trim(x) : s.a.text.rtrim(x);
     };
     if (way < 128) {
         trim(ustring(set));
