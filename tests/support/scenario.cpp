@@ -45,7 +45,7 @@ void MakeFolder(const std::string& path) {
 }
 
 void MakeFile(const std::string& path, const std::string& content, mode_t mode) {
-    fs::create_directories(fs::path(path).parent_path());
+    MakeFolder(fs::absolute(path).parent_path());
     std::ofstream file(path, std::ios::binary);
     file << content;
     file.close();
@@ -53,7 +53,7 @@ void MakeFile(const std::string& path, const std::string& content, mode_t mode) 
 }
 
 void MakeLink(const std::string& target, const std::string& path) {
-    fs::create_directories(fs::path(path).parent_path());
+    MakeFolder(fs::absolute(path).parent_path());
     fs::create_symlink(target, path);
 }
 
