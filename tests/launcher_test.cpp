@@ -3,8 +3,6 @@
 #include "ui-client/launcher/launcher.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFont>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTimer>
@@ -145,19 +143,6 @@ TEST_F(LauncherTest, ClosingTheWindowStopsNothing) {
     const Watched watched = RunAndWatch(launcher, dialog());
     EXPECT_EQ(watched.result, 0);
     EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is ready."));
-    EXPECT_TRUE(installed());
-}
-
-TEST_F(LauncherTest, AnEndOfTheMainLoopWaitsForTheWork) {
-    writePackage(2000);
-    {
-        Launcher launcher;
-        QObject::connect(dialog()->findChild<QProgressBar*>(), &QProgressBar::valueChanged,
-                         [] { QCoreApplication::quit(); });
-        launcher.Run();
-        launcher.Start();
-        QApplication::exec();
-    }
     EXPECT_TRUE(installed());
 }
 
