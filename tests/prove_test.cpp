@@ -180,12 +180,17 @@ class ProveTest : public testing::Test {
         run.follow(installation_.start(BeTraced));
         return run;
     }
-    int countCalls(Start start) {
+    // Counts the calls of an undisturbed run, and does something at each of them in turn.
+    void sweep(Start start, const std::function<void(int k, const std::string& where)>& strike) {
         arrange(start);
         const TracedRun run = traced();
         EXPECT_EQ(run.end, 0);
         EXPECT_GT(run.calls, 20);
-        return calls_ = run.calls;
+        calls_ = run.calls;
+        for (int k = 1; k <= calls_; k += Stride()) {
+            arrange(start);
+            strike(k, " at call " + std::to_string(k));
+        }
     }
 
     bool isNew() const { return isApp(installation_.app(), installation_.expectedApp("100")); }
@@ -216,25 +221,20 @@ class ProveTest : public testing::Test {
     }
 
     void sweepKills(Start start) {
-        const int calls = countCalls(start);
-        for (int k = 1; k <= calls; k += Stride()) {
-            arrange(start);
+        sweep(start, [&](int k, const std::string& where) {
             check(traced(k).end == 1000 + SIGKILL, "not killed");
-            checkRecovery(start, "killed at call " + std::to_string(k));
-        }
+            checkRecovery(start, "killed" + where);
+        });
     }
 
     void sweepPowerCuts(Start start) {
-        const int calls = countCalls(start);
         for (const bool lost : {true, false}) {
-            for (int k = 1; k <= calls; k += Stride()) {
-                arrange(start);
+            sweep(start, [&](int k, const std::string& where) {
                 Disk disk(installation_.user());
                 traced(k, 0, &disk);
                 lost ? disk.loseTheRest() : disk.emptyTheRest();
-                checkRecovery(start, std::string(lost ? "lost" : "emptied") + " at call " +
-                                         std::to_string(k));
-            }
+                checkRecovery(start, (lost ? "lost" : "emptied") + where);
+            });
         }
     }
 
@@ -259,19 +259,15 @@ TEST_F(ProveTest, AKilledRollback) {
 }
 
 TEST_F(ProveTest, AnUpgradeKilledTwice) {
-    const int calls = countCalls(Upgrade);
-    for (int k = 1; k <= calls; k += Stride()) {
-        for (int again = 1;; again += Stride()) {
+    sweep(Upgrade, [this](int k, const std::string& where) {
+        traced(k);
+        for (int again = 1; traced(again).end != 0; again += Stride()) {
+            checkRecovery(Upgrade, "killed" + where + " and then at " + std::to_string(again));
             arrange(Upgrade);
             traced(k);
-            if (traced(again).end == 0) {
-                check(isNew(), "undisturbed second run");
-                break;
-            }
-            checkRecovery(Upgrade, "killed at call " + std::to_string(k) + " and then at " +
-                                       std::to_string(again));
         }
-    }
+        check(isNew(), "undisturbed second run");
+    });
 }
 
 TEST_F(ProveTest, CallsThatFail) {
@@ -279,17 +275,13 @@ TEST_F(ProveTest, CallsThatFail) {
         if (start == Rollback) {
             damagePackage();
         }
-        const int calls = countCalls(start);
         for (const int error : {EIO, ENOSPC, EACCES, EXDEV}) {
-            for (int k = 1; k <= calls; k += Stride()) {
-                arrange(start);
-                const TracedRun run = traced(k, error);
-                const std::string what =
-                    std::string(strerror(error)) + " at call " + std::to_string(k);
-                check(run.end == 0, what + ": exit code");
+            sweep(start, [&](int k, const std::string& where) {
+                const std::string what = strerror(error) + where;
+                check(traced(k, error).end == 0, what + ": exit code");
                 check(isOld() || isNew(), what + ": neither the old nor the new application");
                 checkRecovery(start, what + ", and the next run");
-            }
+            });
         }
     }
 }
@@ -302,38 +294,36 @@ TEST_F(ProveTest, APowerCut) {
 }
 
 TEST_F(ProveTest, SignalsDuringAnUpgrade) {
-    const int calls = countCalls(Upgrade);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        for (int k = calls / 3; k <= calls; k += Stride()) {
-            arrange(Upgrade);
-            const auto send = [signal](pid_t pid) { kill(pid, signal); };
-            const int end = traced(k, 0, nullptr, send).end;
-            ++broken_;
-            check(end == 0 && isNew(),
-                  std::string(strsignal(signal)) + " at call " + std::to_string(k));
-        }
+        sweep(Upgrade, [&](int k, const std::string& where) {
+            if (k >= calls_ / 3) {  // the launcher has begun to listen
+                const auto send = [signal](pid_t pid) { kill(pid, signal); };
+                const int end = traced(k, 0, nullptr, send).end;
+                ++broken_;
+                check(end == 0 && isNew(), strsignal(signal) + where);
+            }
+        });
     }
 }
 
 TEST_F(ProveTest, TheHomeGoesAway) {
-    const int calls = countCalls(Upgrade);
+    const std::string elsewhere = installation_.home() + "/elsewhere";
     const std::function<void(pid_t)> harms[] = {
-        [this](pid_t) { fs::remove_all(installation_.user()); },
-        [this](pid_t) { fs::rename(installation_.user(), installation_.home() + "/elsewhere"); },
-        [this](pid_t) {
+        [&](pid_t) { fs::remove_all(installation_.user()); },
+        [&](pid_t) { fs::rename(installation_.user(), elsewhere); },
+        [&](pid_t) {
             fs::remove_all(installation_.user());
             MakeFile(installation_.user(), "a file in its place");
         }};
     for (const auto& harm : harms) {
-        for (int k = 1; k <= calls; k += Stride()) {
-            arrange(Upgrade);
+        sweep(Upgrade, [&](int k, const std::string& where) {
             ++broken_;
-            check(traced(k, 0, nullptr, harm).end == 0, "at call " + std::to_string(k));
-            fs::remove_all(installation_.home() + "/elsewhere");
+            check(traced(k, 0, nullptr, harm).end == 0, "gone" + where);
+            fs::remove_all(elsewhere);
             fs::remove_all(installation_.user());
             installation_.run();
             check(isNew(), "the next run");
-        }
+        });
     }
 }
 
@@ -350,19 +340,18 @@ TEST_F(ProveTest, ADiskThatFillsUp) {
         }
         close(fd);
     };
-    const int calls = countCalls(Upgrade);
-    for (int k = 1; k <= calls; k += Stride()) {
-        arrange(Upgrade);
+    sweep(Upgrade, [&](int k, const std::string& where) {
         const int end = traced(k, 0, nullptr, fill).end;
-        check(end == 0 && (isOld() || isNew()), "full at call " + std::to_string(k));
+        check(end == 0 && (isOld() || isNew()), "full" + where);
         fs::remove(filler);
-        checkRecovery(Upgrade, "full at call " + std::to_string(k));
-    }
+        checkRecovery(Upgrade, "full" + where);
+    });
 }
 
 TEST_F(ProveTest, AThousandRandomKillsLeaveNothing) {
-    const unsigned calls = static_cast<unsigned>(countCalls(Upgrade));
     std::mt19937 random(1);
+    arrange(Upgrade);
+    const unsigned calls = static_cast<unsigned>(calls_ = traced().calls);
     arrange(Upgrade);
     for (int i = 0; i < 1000; i += Stride()) {
         const std::string version = installation_.app("Contents/Resources/INFO");

@@ -35,10 +35,9 @@ std::string PidFile(pid_t pid) {
     return "pid=" + std::to_string(pid) + "\n";
 }
 
-// Cuts a package off at this fragment of it, or in the middle.
-void CutOff(const std::string& package, const std::string& fragment = "") {
-    const std::string bytes = ReadFile(package);
-    fs::resize_file(package, fragment.empty() ? bytes.size() / 2 : bytes.find(fragment));
+// Cuts a package off in the middle.
+void CutOff(const std::string& package) {
+    fs::resize_file(package, fs::file_size(package) / 2);
 }
 
 class RunTest : public testing::Test {
@@ -281,30 +280,22 @@ TEST_F(RunTest, BlockedBackupNamesAreSteppedOverUpToTheTenth) {
 }
 
 TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
+    typedef const std::string& Package;
     const struct {
-        const char* format;
-        void (*spoil)(const std::string& package);
+        void (*spoil)(Package package);
         const char* message;
-    } cases[] = {
-        {"tar.gz", [](const std::string& package) { CutOff(package); },
-         "rollback to old installation"},
-        {"tar", [](const std::string& package) { CutOff(package, "Contents/MacOS/tarnwell-ui"); },
-         "the archive was cut off after"},
-        {"zip", [](const std::string& package) { CutOff(package); },
-         "archive_read_next_header failed: 'Truncated ZIP"},
-        {"zip", [](const std::string& package) { MakeArchive(package, "zip", {{"file"}}); },
-         "the package has no client"},
-        {"zip", [](const std::string& package) { MakeFile(package); },
-         "total file numbers, ret: 0"},
-        {"zip", [](const std::string& package) { MakeFile(package, std::string(5000, 'g')); },
-         "archive_read_open_filename failed: 'Unrecognized archive format'"},
-        {"zip", [](const std::string& package) { fs::remove(package); },
-         "total file numbers, ret: -1"}};
+    } cases[] = {{CutOff, "rollback to old installation"},
+                 {[](Package package) { MakeArchive(package, "zip", {{"file"}}); },
+                  "the package has no client"},
+                 {[](Package package) { MakeFile(package); }, "total file numbers, ret: 0"},
+                 {[](Package package) { MakeFile(package, std::string(5000, 'g')); },
+                  "archive_read_open_filename failed: 'Unrecognized archive format'"},
+                 {[](Package package) { fs::remove(package); }, "total file numbers, ret: -1"}};
     for (const auto& row : cases) {
         SCOPED_TRACE(row.message);
         startFrom("99");
         const auto before = Tree(installation_.app());
-        installation_.setBuild("100", row.format);
+        installation_.setBuild("100", "tar.gz");
         row.spoil(installation_.package());
         const Installation::Result result = installation_.run();
         EXPECT_TRUE(Logged(result, row.message)) << result.log;

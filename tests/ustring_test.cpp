@@ -2,9 +2,7 @@
 
 #include <iostream>
 #include <random>
-#include <sstream>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 #include "tests/support/scenario.h"
@@ -46,8 +44,7 @@ TEST(UString, AgreesWithItsModel) {
     std::cerr.rdbuf(shown);
 }
 
-TEST(UString, HoldsBytesAndUnits) {
-    EXPECT_EQ(UnitsOf(kAccented), Units{0xE9});
+TEST(UString, TakesBytesUnitsAndItself) {
     EXPECT_EQ(UnitsOf(kEmoji), (Units{0xD83D, 0xDE00}));
     EXPECT_EQ(ustring(Units{0xD83D, 0xDE00, 'x', 0}.data()), ustring(kEmoji) + 'x');
     EXPECT_EQ(UnitsOf(ustring()), Units());
@@ -79,24 +76,6 @@ TEST(UString, WarnsAboutWhatIsIllFormed) {
     }
 }
 
-TEST(UString, Compares) {
-    EXPECT_TRUE(ustring("\xC3") > "z") << "bytes are unsigned";
-    EXPECT_TRUE(ustring("ab") < "abc");
-    const struct {
-        const char* a;
-        const char* b;
-        int difference;
-        bool ignore_case;
-    } cases[] = {{"abc", "abd", 'c' - 'd', false}, {"abc", "ab", 'c', false},
-                 {"ab", "ab\xC3", -0xC3, false},   {"ABZ", "abz", 'A' - 'a', false},
-                 {"ABZ", "abz", 0, true},          {"\xC3\x84", "\xC3\xA4", 0x84 - 0xA4, true},
-                 {"A[", "a{", '[' - '{', true}};
-    for (const auto& row : cases) {
-        EXPECT_EQ(ustring::compare(row.a, row.b, row.ignore_case), row.difference)
-            << row.a << " and " << row.b;
-    }
-}
-
 TEST(UString, Normalizes) {
     EXPECT_EQ(ustring(kAccented).normalize(ustring::NFD), kDecomposed);
     EXPECT_EQ(ustring(kDecomposed).normalize(ustring::NFC), kAccented);
@@ -115,17 +94,6 @@ TEST(UString, HoldsTextFarBeyondItsFirstBuffers) {
     EXPECT_EQ(text.normalize(ustring::NFD).size(), 60000u);
     text.assign(text.c_str_utf16(), 1);
     EXPECT_EQ(text, kAccented);
-}
-
-TEST(UString, StreamsAndHashes) {
-    std::stringstream stream("  first second");
-    ustring word;
-    stream >> word;
-    EXPECT_EQ(word, "first");
-    std::ostringstream out;
-    out << word << ustring(kAccented);
-    EXPECT_EQ(out.str(), std::string("first") + kAccented);
-    EXPECT_EQ(std::unordered_set<ustring>({"x", "y", "x"}).size(), 2u);
 }
 
 }  // namespace
