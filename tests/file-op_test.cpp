@@ -287,17 +287,18 @@ TEST_F(FileOpTest, GivesFoldersToTheOwner) {
     }
     FSInitialize(12, 0xFFFFFFFF);
     EXPECT_EQ(FSMKDir("a/b", true), 0);
+    EXPECT_EQ(FSMKDir("single", false), 0);
     FSInitialize(0xFFFFFFFF, 34);
     EXPECT_EQ(FSChown("a/b"), 0);
     EXPECT_EQ(FSChown("/nowhere/at all"), -1);
     EXPECT_EQ(errno, ENOENT);
     FSInitialize(0xFFFFFFFF, 0xFFFFFFFF);
-    _FILE_INFO_tag info;
-    ASSERT_EQ(GetFileInfo("a/b", info), 0);
-    EXPECT_EQ(info.uid, 12u);
-    EXPECT_EQ(info.gid, 34u);
-    ASSERT_EQ(GetFileInfo("a", info), 0);
-    EXPECT_EQ(info.uid, 12u);
+    for (const char* const folder : {"a", "a/b", "single"}) {
+        _FILE_INFO_tag info;
+        ASSERT_EQ(GetFileInfo(folder, info), 0);
+        EXPECT_EQ(info.uid, 12u) << folder;
+        EXPECT_EQ(info.gid == 34, folder == std::string("a/b")) << folder;
+    }
 }
 
 TEST_F(FileOpTest, RemovesFilesLinksAndTrees) {

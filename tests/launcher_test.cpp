@@ -46,53 +46,48 @@ class LauncherTest : public testing::Test {
         return nullptr;
     }
 
+    struct Watched {
+        std::vector<int> values;
+        std::vector<QString> labels;
+        std::vector<bool> visible;  // before the run, at each value, and after the run
+        int result;
+    };
+    // Runs a launcher to the end of its event loop and keeps what the user would see.
+    static Watched runAndWatch() {
+        Launcher launcher;
+        QLabel* const label = dialog()->findChild<QLabel*>();
+        Watched watched = {{}, {}, {dialog()->isVisible()}, -1};
+        const auto look = [&] {
+            watched.labels.push_back(label->text());
+            watched.visible.push_back(dialog()->isVisible());
+        };
+        QObject::connect(dialog()->findChild<QProgressBar*>(), &QProgressBar::valueChanged,
+                         [&](int value) {
+                             watched.values.push_back(value);
+                             look();
+                         });
+        launcher.Run();
+        launcher.Start();
+        watched.result = QApplication::exec();
+        look();
+        return watched;
+    }
+
     bool installed() const { return Exists(home_ / ".Tarnwell/Tarnwell.app/Contents/MacOS"); }
 
     Folder home_;
 };
 
-struct Watched {
-    std::vector<int> values;
-    std::vector<QString> labels;
-    bool was_visible = false;
-    int result = -1;
-};
-
-// Runs a launcher to the end of its event loop and keeps what the user would see.
-Watched RunAndWatch(Launcher& launcher, QProgressDialog* dialog) {
-    Watched watched;
-    QLabel* const label = dialog->findChild<QLabel*>();
-    QObject::connect(dialog->findChild<QProgressBar*>(), &QProgressBar::valueChanged,
-                     [&](int value) {
-                         watched.values.push_back(value);
-                         watched.labels.push_back(label->text());
-                         watched.was_visible |= dialog->isVisible();
-                     });
-    launcher.Run();
-    launcher.Start();
-    watched.result = QApplication::exec();
-    watched.labels.push_back(label->text());
-    return watched;
-}
-
 TEST_F(LauncherTest, TheDialogShowsAnUpgrade) {
-    Launcher launcher;
-    ASSERT_NE(dialog(), nullptr);
-    EXPECT_FALSE(dialog()->isVisible());
-    const Watched watched = RunAndWatch(launcher, dialog());
+    const Watched watched = runAndWatch();
     EXPECT_EQ(watched.result, 0);
     EXPECT_EQ(watched.values, (std::vector<int>{14, 28, 42, 57, 71, 85, 100}));
     EXPECT_EQ(watched.labels.front(), QStringLiteral("Tarnwell is initializing..."));
     EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is ready."));
-    EXPECT_TRUE(watched.was_visible);
-    EXPECT_FALSE(dialog()->isVisible());
+    EXPECT_FALSE(watched.visible.front());
+    EXPECT_TRUE(watched.visible[1]);
+    EXPECT_FALSE(watched.visible.back());
     EXPECT_TRUE(installed());
-}
-
-TEST_F(LauncherTest, OneEntryFillsTheBarAtOnce) {
-    writePackage(1);
-    Launcher launcher;
-    EXPECT_EQ(RunAndWatch(launcher, dialog()).values, std::vector<int>{100});
 }
 
 TEST_F(LauncherTest, TheDialogIsBuiltAsDesigned) {
@@ -112,13 +107,15 @@ TEST_F(LauncherTest, TheDialogIsBuiltAsDesigned) {
     EXPECT_FALSE(built->autoReset());
 }
 
-TEST_F(LauncherTest, AFailedUpgradeKeepsTheLastLabel) {
+TEST_F(LauncherTest, OneEntryFillsTheBarAndAFailureKeepsTheLabel) {
+    writePackage(1);
+    EXPECT_EQ(runAndWatch().values, std::vector<int>{100});
     MakeFile(bundle() + "/Contents/Resources/package/tarnwell.opk", "no archive");
-    Launcher launcher;
-    const Watched watched = RunAndWatch(launcher, dialog());
+    MakeFile(bundle() + "/Contents/Resources/INFO", "[Version]\nbuild_version=101\n");
+    std::filesystem::remove_all(home_ / ".Tarnwell");
+    const Watched watched = runAndWatch();
     EXPECT_EQ(watched.result, 0);
     EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is initializing..."));
-    EXPECT_FALSE(dialog()->isVisible());
 }
 
 // Qt shows a progress dialog by itself when its work takes long.
@@ -135,12 +132,11 @@ TEST_F(LauncherTest, TheDialogNeverShowsItself) {
 }
 
 TEST_F(LauncherTest, ClosingTheWindowStopsNothing) {
-    Launcher launcher;
     QTimer::singleShot(0, [] {
         dialog()->show();
         dialog()->close();
     });
-    const Watched watched = RunAndWatch(launcher, dialog());
+    const Watched watched = runAndWatch();
     EXPECT_EQ(watched.result, 0);
     EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is ready."));
     EXPECT_TRUE(installed());

@@ -92,7 +92,8 @@ TEST(BundleExecutable, IsReadFromTheInfoPlist) {
         return platform::BundleExecutable("<?xml version=\"1.0\"?><plist version=\"1.0\">" + dict +
                                           "</plist>");
     };
-    EXPECT_EQ(plist("<dict><key>A</key><true/><key>CFBundleExecutable</key><string>ui &amp; "
+    EXPECT_EQ(plist("<dict><key>A</key><true/><key>B</key><string>no</"
+                    "string><key>CFBundleExecutable</key><string>ui &amp; "
                     "\xC3\xA9</string></dict>"),
               QString::fromUtf8("ui & \xC3\xA9"));
     for (const char* const refused :

@@ -31,10 +31,6 @@ bool Logged(const Installation::Result& result, const std::string& fragment) {
     return !LinesWith(result.log, fragment).empty();
 }
 
-std::string PidFile(pid_t pid) {
-    return "pid=" + std::to_string(pid) + "\n";
-}
-
 // Cuts a package off in the middle.
 void CutOff(const std::string& package) {
     fs::resize_file(package, fs::file_size(package) / 2);
@@ -111,7 +107,7 @@ TEST_F(RunTest, DecidesByTheBuildNumbers) {
         SCOPED_TRACE(std::string(row.source) + " to " + row.target);
         const Client client(Client::EndsAtOnce);
         startFrom(row.source);
-        installation_.setClientPid(PidFile(client.pid()));
+        installation_.setClientPid(client.pid());
         installation_.setBuild(row.target);
         const Installation::Result result = installation_.run();
         EXPECT_EQ(Exists(installation_.app("old")), !row.upgrade);
@@ -142,7 +138,7 @@ TEST_F(RunTest, StopsARunningClient) {
         SCOPED_TRACE(row.least_seconds);
         Client client(row.behaviour);
         startFrom("99");
-        installation_.setClientPid(PidFile(client.pid()));
+        installation_.setClientPid(client.pid());
         const auto begin = std::chrono::steady_clock::now();
         installation_.run();
         const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(
@@ -157,7 +153,7 @@ TEST_F(RunTest, StopsARunningClient) {
 TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
     const pid_t gone = Client(Client::EndsAtOnce).pid();
     const std::pair<std::string, std::string> cases[] = {
-        {PidFile(gone), "[DEBUG] mac/mac-service(154): local appdata exist"},
+        {"pid=" + std::to_string(gone), "[DEBUG] mac/mac-service(154): local appdata exist"},
         {"pid=0\n", "names no client: pid '0'"},
         {"pid=-1\n", "names no client: pid '-1'"},
         {"pid=abc\n", "names no client: pid 'abc'"},
@@ -173,7 +169,7 @@ TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
         SCOPED_TRACE(pid_file);
         startFrom("99");
         if (!pid_file.empty()) {
-            installation_.setClientPid(pid_file);
+            MakeFile(installation_.user("ui.pid"), pid_file);
         }
         const Installation::Result result = installation_.run();
         EXPECT_TRUE(Logged(result, message)) << result.log;
@@ -188,7 +184,7 @@ TEST_F(RunTest, AClientThatMayNotBeSignalledIsWaitedFor) {
     }
     const Client client(Client::EndsAtOnce);
     installation_.install("99");
-    installation_.setClientPid(PidFile(client.pid()));
+    installation_.setClientPid(client.pid());
     installation_.runAsNobody();
     const Installation::Result result = installation_.run();
     EXPECT_TRUE(
@@ -199,7 +195,7 @@ TEST_F(RunTest, AClientThatMayNotBeSignalledIsWaitedFor) {
 
 TEST_F(RunTest, AProcessThatTookTheClientsIdIsLeftAlone) {
     const auto write_pid_file_long_before = [this](const Client& client) {
-        installation_.setClientPid(PidFile(client.pid()));
+        installation_.setClientPid(client.pid());
         fs::last_write_time(installation_.user("ui.pid"),
                             fs::file_time_type::clock::now() - std::chrono::hours(1));
     };
@@ -357,10 +353,10 @@ TEST_F(RunTest, AReadOnlyHomeStillStartsTheClient) {
 
 TEST_F(RunTest, EndsWellWithoutAUsableHome) {
     installation_.runAsNobody();
-    installation_.unsetEnvironment("HOME");
+    installation_.environment.erase("HOME");
     installation_.run();
     for (const char* const home : {"/nowhere/at/all", "/dev/null", "relative", "/proc/\xFF\xFE"}) {
-        installation_.setEnvironment("HOME", home);
+        installation_.environment["HOME"] = home;
         installation_.run();
     }
 }
@@ -415,11 +411,11 @@ TEST_F(RunTest, SpeaksTheUsersLanguage) {
     MakeFolder(plugin);
     fs::copy(WINDOW_READER, plugin);
     const std::string seen = installation_.home() + "/window";
-    installation_.setEnvironment("QT_QPA_GENERIC_PLUGINS", "window-reader");
-    installation_.setEnvironment("WINDOW_READER_FILE", seen);
+    installation_.environment["QT_QPA_GENERIC_PLUGINS"] = "window-reader";
+    installation_.environment["WINDOW_READER_FILE"] = seen;
     for (const auto& [locale, label] : cases) {
         fs::remove_all(installation_.user());
-        installation_.setEnvironment("LANG", locale);
+        installation_.environment["LANG"] = locale;
         installation_.run();
         const std::string window = ReadFile(seen);
         EXPECT_TRUE(HasOneLine(window, "Orvane Tarnwell")) << locale << ": " << window;
@@ -428,7 +424,7 @@ TEST_F(RunTest, SpeaksTheUsersLanguage) {
 }
 
 TEST_F(RunTest, TheClientGetsTheUsersEnvironment) {
-    installation_.setEnvironment("QT_QPA_PLATFORM_PLUGIN_PATH", "/somewhere");
+    installation_.environment["QT_QPA_PLATFORM_PLUGIN_PATH"] = "/somewhere";
     installation_.install("100");
     MakeFile(installation_.app("Contents/MacOS/tarnwell-ui"),
              "#!/bin/sh\necho \"$QT_QPA_PLATFORM_PLUGIN_PATH\" >\"$HOME/seen\"\n", 0755);
@@ -438,25 +434,24 @@ TEST_F(RunTest, TheClientGetsTheUsersEnvironment) {
 }
 
 TEST_F(RunTest, WorksWhateverItsExecutableIsCalled) {
-    installation_.moveBundle("f\xC3\xBCr mich");
     for (const char* const name : {"", "tarnwell-launcher", "/nowhere"}) {
         SCOPED_TRACE(name);
-        fs::remove_all(installation_.user());
-        installation_.startAs(name);
-        installation_.run();
-        expectBuild("100");
+        Installation elsewhere("f\xC3\xBCr mich");
+        elsewhere.startAs(name);
+        const Installation::Result result = elsewhere.run();
+        EXPECT_EQ(Tree(elsewhere.app()), elsewhere.expectedApp("100"));
+        EXPECT_TRUE(*name != '/' || result.out == "lib path = '/../Frameworks/plugins'\n");
     }
-    EXPECT_EQ(installation_.run().out, "lib path = '/../Frameworks/plugins'\n");
 }
 
 TEST_F(RunTest, WorksWhereverTheHomeIs) {
     const std::string home = installation_.home() + "/\xE5\xAE\xB6 with\nblanks \xF0\x9F\x98\x80";
     MakeFolder(home);
-    installation_.setEnvironment("HOME", home);
+    installation_.environment["HOME"] = home;
     for (const char* const locale : {"C", "C.UTF-8"}) {
         SCOPED_TRACE(locale);
         fs::remove_all(home + "/.Tarnwell");
-        installation_.setEnvironment("LC_ALL", locale);
+        installation_.environment["LC_ALL"] = locale;
         installation_.run();
         EXPECT_EQ(Tree(home + "/.Tarnwell/Tarnwell.app"), installation_.expectedApp("100"));
     }

@@ -89,25 +89,23 @@ int Client::wait() {
     return end_.get();
 }
 
-Installation::Installation() : home_(folder_ / "home") {
+Installation::Installation(const std::string& bundle_folder)
+    : home_(folder_ / "home"),
+      bundle_(fs::path(folder_ / bundle_folder + "/Tarnwell.app").lexically_normal()) {
     MakeFolder(home_);
     MakeFolder(bundle("Contents/MacOS"));
     MakeFolder(bundle("Contents/Frameworks/plugins/platforms"));
     fs::copy(BUNDLE "/Contents/MacOS/tarnwell-launcher", bundle("Contents/MacOS"));
     fs::copy(BUNDLE "/Contents/Frameworks/plugins/platforms/libqoffscreen.so",
              bundle("Contents/Frameworks/plugins/platforms"));
-    setEnvironment("PATH", "/usr/bin:/bin");
-    setEnvironment("HOME", home_);
-    setEnvironment("QT_QPA_PLATFORM", "offscreen");
+    environment = {{"PATH", "/usr/bin:/bin"}, {"HOME", home_}, {"QT_QPA_PLATFORM", "offscreen"}};
     for (const char* const options : {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS"}) {
         if (const char* const value = getenv(options)) {
-            setEnvironment(options, value);
+            environment[options] = value;
         }
     }
     setBuild("100");
 }
-
-Installation::~Installation() = default;
 
 std::string Installation::user(const std::string& name) const {
     return home_ + "/.Tarnwell" + (name.empty() ? "" : "/" + name);
@@ -140,21 +138,13 @@ void Installation::install(const std::string& number) {
     MakeFile(app("old"), "of build " + number);
 }
 
-void Installation::setClientPid(const std::string& text) const {
-    MakeFile(user("ui.pid"), text);
+void Installation::setClientPid(pid_t pid) const {
+    MakeFile(user("ui.pid"), "pid=" + std::to_string(pid) + "\n");
 }
 
 void Installation::logEverything() const {
     MakeFile(bundle("log/launcher.debug"),
              "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n");
-}
-
-void Installation::setEnvironment(const std::string& name, const std::string& value) {
-    environment_[name] = value;
-}
-
-void Installation::unsetEnvironment(const std::string& name) {
-    environment_.erase(name);
 }
 
 void Installation::runAsNobody() {
@@ -168,33 +158,22 @@ void Installation::runAsNobody() {
     chown(home_.c_str(), kNobody, kNobody);
 }
 
-void Installation::moveBundle(const std::string& folder) {
-    const std::string target = folder_ / folder;
-    MakeFolder(target);
-    fs::rename(bundle_, target + "/Tarnwell.app");
-    bundle_ = target + "/Tarnwell.app";
-}
-
-void Installation::startAs(const std::string& name) {
-    started_as_ = name;
-}
-
 pid_t Installation::start(void (*before_exec)()) {
     const std::string program = bundle("Contents/MacOS/tarnwell-launcher");
     const std::string out = folder_ / "out";
     const std::string err = folder_ / "err";
     std::vector<std::string> variables;
-    std::vector<char*> environment;
-    for (const auto& [name, value] : environment_) {
+    std::vector<char*> pointers;
+    for (const auto& [name, value] : environment) {
         variables.push_back(name + "=" + value);
         if (name == "ASAN_OPTIONS" && before_exec != nullptr) {
             variables.back() += ":detect_leaks=0";  // which doesn't work in a traced process
         }
     }
     for (std::string& variable : variables) {
-        environment.push_back(variable.data());
+        pointers.push_back(variable.data());
     }
-    environment.push_back(nullptr);
+    pointers.push_back(nullptr);
     const pid_t pid = fork();
     if (pid == 0) {
         umask(022);
@@ -208,7 +187,7 @@ pid_t Installation::start(void (*before_exec)()) {
         }
         const std::string& name = started_as_.empty() ? program : started_as_;
         char* const arguments[] = {const_cast<char*>(name.c_str()), nullptr};
-        execve(program.c_str(), arguments, environment.data());
+        execve(program.c_str(), arguments, pointers.data());
         _exit(127);
     }
     return pid;

@@ -32,8 +32,7 @@ class Client {
 // them through the real executable.
 class Installation {
   public:
-    Installation();
-    ~Installation();
+    explicit Installation(const std::string& bundle_folder = ".");  // beside the home folder
 
     const std::string& home() const { return home_; }
     std::string user(const std::string& name = "") const;  // below ~/.Tarnwell
@@ -45,17 +44,14 @@ class Installation {
     void setBuild(const std::string& number, const std::string& format = "zip");
     // Puts an application of this build in place, as an earlier run would have.
     void install(const std::string& number);
-    void setClientPid(const std::string& text) const;
+    void setClientPid(pid_t pid) const;
     void logEverything() const;  // otherwise errors and warnings only
 
-    // Started with the environment of a user who has set nothing but what is given.
-    void setEnvironment(const std::string& name, const std::string& value);
-    void unsetEnvironment(const std::string& name);
+    // Of the launcher: that of a user who has set nothing but what a test adds.
+    std::map<std::string, std::string> environment;
     void runAsNobody();  // from now on, when we are root
-    // Moves the bundle to a folder of this name beside the home folder, and starts it by this name
-    // of its executable instead of its path.
-    void moveBundle(const std::string& folder);
-    void startAs(const std::string& name);
+    // Starts the launcher by this name of its executable instead of its path.
+    void startAs(const std::string& name) { started_as_ = name; }
 
     struct Result {
         int exit_code;    // or 1000 plus the signal
@@ -74,10 +70,9 @@ class Installation {
 
   private:
     Folder folder_;
-    std::string home_;
-    std::string bundle_ = folder_ / "Tarnwell.app";
+    const std::string home_;
+    const std::string bundle_;
     std::string started_as_;
-    std::map<std::string, std::string> environment_;
     bool nobody_ = false;
 };
 
