@@ -28,11 +28,9 @@ const QRegularExpression kNames(
                    "\\b(ID|SSL|IP|OK)\\b|MB|\\.tmp|%[12]"));
 
 // Texts that are the same word in a language as in English.
-const std::set<QString> kSameEverywhere = {
-    QStringLiteral("%1 / %2"),       QStringLiteral("ID"),     QStringLiteral("OK"),
-    QStringLiteral("OrvaneLink ID"), QStringLiteral("Proxy"),  QStringLiteral("Internet"),
-    QStringLiteral("Port"),          QStringLiteral("Server"), QStringLiteral("Status"),
-    QStringLiteral("Version")};
+const std::set<std::string> kSameEverywhere = {"%1 / %2", "ID",       "OK",   "OrvaneLink ID",
+                                               "Proxy",   "Internet", "Port", "Server",
+                                               "Status",  "Version"};
 const std::map<std::string, std::set<std::string>> kSame = {
     {"deu", {"April", "August", "Name", "November", "September"}},
     {"fra", {"Action", "Date", "Destination", "Inactive", "Options"}},
@@ -201,18 +199,17 @@ TEST_P(CatalogTest, IsInItsOwnLanguage) {
         EXPECT_EQ(reworded, 4);
         return;
     }
-    const std::map<QString, std::set<QChar::Script>> scripts = {
-        {QStringLiteral("rus"), {QChar::Script_Cyrillic}},
-        {QStringLiteral("cht"), {QChar::Script_Han}},
-        {QStringLiteral("chs"), {QChar::Script_Han}},
-        {QStringLiteral("jpn"),
-         {QChar::Script_Han, QChar::Script_Hiragana, QChar::Script_Katakana}},
-        {QStringLiteral("krn"), {QChar::Script_Hangul}}};
-    const auto own = scripts.find(code_);
+    const std::map<std::string, std::set<QChar::Script>> scripts = {
+        {"rus", {QChar::Script_Cyrillic}},
+        {"cht", {QChar::Script_Han}},
+        {"chs", {QChar::Script_Han}},
+        {"jpn", {QChar::Script_Han, QChar::Script_Hiragana, QChar::Script_Katakana}},
+        {"krn", {QChar::Script_Hangul}}};
+    const auto own = scripts.find(GetParam());
     const auto same = kSame.find(GetParam());
     for (const Message& message : messages_) {
         const std::string text = message.translation.toStdString();
-        const bool may_be_same = kSameEverywhere.count(message.source) != 0 ||
+        const bool may_be_same = kSameEverywhere.count(message.source.toStdString()) != 0 ||
                                  (same != kSame.end() && same->second.count(text) != 0) ||
                                  message.source.contains(QLatin1String("Orvane Station"));
         EXPECT_TRUE(may_be_same || message.source != message.translation) << text;
@@ -244,18 +241,15 @@ TEST_P(CatalogTest, OneThingHasOneName) {
         EXPECT_TRUE(is_new || other->second == translated) << plain.toStdString();
     }
     // Buttons that one word names rightly in some languages; any other two must differ.
-    const std::set<std::set<QString>> synonyms = {
-        {QStringLiteral("Finish"), QStringLiteral("Done")},
-        {QStringLiteral("OK"), QStringLiteral("Got it")},
-        {QStringLiteral("Remove"), QStringLiteral("Delete")},
-        {QStringLiteral("Change"), QStringLiteral("Edit")}};
-    std::map<QString, QString> buttons;
+    const std::set<std::set<std::string>> synonyms = {
+        {"Finish", "Done"}, {"OK", "Got it"}, {"Remove", "Delete"}, {"Change", "Edit"}};
+    std::map<QString, std::string> buttons;
     for (const StrTableRow& row : kStrTableRows) {
-        const QString text = QString::fromUtf8(row.text);
         if (IsButton(row.key)) {
-            const QString other = buttons.emplace(translations[text], text).first->second;
-            EXPECT_TRUE(other == text || synonyms.count({other, text}) != 0)
-                << other.toStdString() << " and " << row.text;
+            const QString& translation = translations[QString::fromUtf8(row.text)];
+            const std::string other = buttons.emplace(translation, row.text).first->second;
+            EXPECT_TRUE(other == row.text || synonyms.count({other, row.text}) != 0)
+                << other << " and " << row.text;
         }
     }
 }
