@@ -77,6 +77,9 @@ TEST_F(FileOpTest, ComparesInfoRecords) {
     EXPECT_TRUE(a == b);
     b.alt_path = "x";
     EXPECT_TRUE(a != b);
+    b = a;
+    b.size = 1;
+    EXPECT_TRUE(a != b);
 }
 
 TEST_F(FileOpTest, KnowsWhatExists) {
@@ -122,6 +125,8 @@ TEST_F(FileOpTest, CopiesBytes) {
         EXPECT_TRUE(ReadFile("in/dst") == content);
     }
     EXPECT_EQ(ModeOf("in/dst"), 0644u) << "a new file's, not the source's";
+    EXPECT_EQ(FSCopy("kinds/link to file", "in/dst", false), 0);
+    EXPECT_EQ(ReadFile("in/dst"), "12345");
     MakeFile("in/dst", std::string(1000, 'o'), 0640);
     MakeFile("in/src", "short");
     EXPECT_EQ(FSCopy("in/src", "in/dst", true), 0);
@@ -207,6 +212,10 @@ TEST_F(FileOpTest, WhatCannotMoveAcrossVolumesStaysBehind) {
     EXPECT_FALSE(Exists(other_volume_ / "x"));
     EXPECT_EQ(FSRename("kinds", other_volume_ / "kinds", false), -3);
     EXPECT_TRUE(Exists("kinds/link to file") && Exists("kinds/pipe"));
+    MakeFile("left/file");
+    mkfifo("left/pipe", 0600);
+    EXPECT_EQ(FSRename("left", other_volume_ / "left", false), -3);
+    EXPECT_TRUE(Exists("left/pipe"));
 
     MakeFile("tree/name/file");
     MakeFile(other_volume_ / "tree/name", "a file where a folder goes");

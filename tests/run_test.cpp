@@ -278,9 +278,14 @@ TEST_F(RunTest, BlockedBackupNamesAreSteppedOverUpToTheTenth) {
 TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
     typedef const std::string& Package;
     const struct {
-        void (*spoil)(Package package);
+        std::function<void(Package package)> spoil;
         const char* message;
     } cases[] = {{CutOff, "rollback to old installation"},
+                 {[this](Package package) {
+                      installation_.setBuild("100", "zip");
+                      CutOff(package);
+                  },
+                  "archive_read_next_header failed: 'Truncated ZIP"},
                  {[](Package package) { MakeArchive(package, "zip", {{"file"}}); },
                   "the package has no client"},
                  {[](Package package) { MakeFile(package); }, "total file numbers, ret: 0"},
