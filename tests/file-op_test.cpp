@@ -416,4 +416,19 @@ TEST_F(FileOpTest, KnowsVolumes) {
     EXPECT_TRUE(HasOneLine(log, "IsSupportLargeFile" + message));
 }
 
+TEST_F(FileOpTest, TellsWhatItMayNotRemove) {
+    const std::string file = folder_ / "tree/fixed/file";
+    MakeFile(file);
+    chmod(other_volume_.path().c_str(), 0777);
+    chmod((folder_ / "tree/fixed").c_str(), 0555);
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(FSRemove(U(file), false), -3);
+        EXPECT_EQ(FSRemove(U(folder_ / "tree"), false), -3);
+        EXPECT_EQ(FSRename(U(file), U(other_volume_ / "file"), false), -3);
+    }
+    EXPECT_TRUE(Exists(file));
+    chmod((folder_ / "tree/fixed").c_str(), 0755);
+}
+
 }  // namespace

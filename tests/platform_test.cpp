@@ -8,11 +8,14 @@
 #include <unistd.h>
 
 #include <QString>
+#include <filesystem>
 
 #include "lib/platform/core-services.h"
 #include "lib/platform/file-system-type.h"
 #include "lib/platform/instance-lock.h"
 #include "lib/platform/open-bundle.h"
+#include "lib/platform/process-info.h"
+#include "tests/support/installation.h"
 #include "tests/support/scenario.h"
 
 namespace {
@@ -210,6 +213,20 @@ TEST_F(InstanceLockTest, AnotherUsersLockedFileDoesNotBlock) {
         EXPECT_TRUE(heldForAnotherProcess());
     }
     close(fd);
+}
+
+TEST(ProcessInfo, NamesTheExecutableAlsoWhenItIsGone) {
+    const Folder folder;
+    std::filesystem::copy("/bin/sleep", folder / "client");
+    const Client client(folder / "client");
+    platform::ProcessInfo info;
+    const auto is_named = [&] {
+        return platform::DescribeProcess(client.pid(), info) &&
+               info.executable == folder / "client";
+    };
+    EXPECT_TRUE(WaitFor(is_named));
+    ASSERT_EQ(unlink((folder / "client").c_str()), 0);
+    EXPECT_TRUE(is_named()) << info.executable;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The real executable, with a home folder of its own, real processes and real archives.
 
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -460,6 +461,49 @@ TEST_F(RunTest, WorksWhereverTheHomeIs) {
         installation_.run();
         EXPECT_EQ(Tree(home + "/.Tarnwell/Tarnwell.app"), installation_.expectedApp("100"));
     }
+}
+
+TEST_F(HeldRunTest, AnotherInstallationLeavesARunningUpgradeAlone) {
+    installation_.install("99");
+    startAndHold();
+    int pipe = -1;  // opens when the first launcher waits for its package
+    EXPECT_TRUE(WaitFor([&] {
+        return (pipe = open(installation_.package().c_str(), O_WRONLY | O_NONBLOCK)) >= 0;
+    }));
+    installation_.moveBundle("elsewhere");
+    fs::remove(installation_.package());
+    installation_.setBuild("101");
+    EXPECT_TRUE(Logged(installation_.run(), "another upgrade is not finished"));
+    close(pipe);  // a package of no bytes
+    EXPECT_EQ(endOfHeld(), 0);
+    expectOldApp();
+    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+}
+
+TEST_F(RunTest, AnUpgradeThatWasCutOffAndHasNoBackupIsStartedAgain) {
+    installation_.install("100");  // what is there seems to be new
+    MakeFile(installation_.user("upgrade.journal"), "state=replacing\nbackup=0\nobject=1\n");
+    EXPECT_TRUE(Logged(installation_.run(), "is gone; removing '" + installation_.app()));
+    expectBuild("100");
+    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+}
+
+TEST_F(RunTest, WhatCannotBeRemovedStepsAsideForTheOldApplication) {
+    installation_.install("100");
+    fs::rename(installation_.app(), installation_.user("Tarnwell.app_tmp"));
+    struct stat status;
+    ASSERT_EQ(stat(installation_.user("Tarnwell.app_tmp").c_str(), &status), 0);
+    MakeFile(installation_.app("closed/file"));
+    MakeFile(installation_.user("upgrade.journal"),
+             "state=replacing\nbackup=0\nobject=" + std::to_string(status.st_ino) + "\n");
+    installation_.runAsNobody();
+    fs::permissions(installation_.app("closed"), fs::perms::none);
+    installation_.run();
+    expectOldApp();
+    const std::string aside = installation_.user("Tarnwell.app_tmp1/closed");
+    EXPECT_TRUE(Exists(aside));
+    EXPECT_FALSE(Exists(installation_.user("upgrade.journal")));
+    fs::permissions(aside, fs::perms::owner_all);
 }
 
 }  // namespace
