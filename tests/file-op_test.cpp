@@ -423,9 +423,9 @@ TEST_F(FileOpTest, TellsWhatItMayNotRemove) {
     chmod((folder_ / "tree/fixed").c_str(), 0555);
     {
         const AsNobody nobody;
-        EXPECT_EQ(FSRemove(U(file), false), -3);
-        EXPECT_EQ(FSRemove(U(folder_ / "tree"), false), -3);
-        EXPECT_EQ(FSRename(U(file), U(other_volume_ / "file"), false), -3);
+        EXPECT_EQ(FSRemove(ustring(file), false), -3);
+        EXPECT_EQ(FSRemove("tree", false), -3);
+        EXPECT_EQ(FSRename(ustring(file), ustring(other_volume_ / "file"), false), -3);
     }
     EXPECT_TRUE(Exists(file));
     chmod((folder_ / "tree/fixed").c_str(), 0755);

@@ -16,6 +16,10 @@ class Descriptor {
     explicit Descriptor(int fd) : fd_(fd) {}
     ~Descriptor() { reset(-1); }
     Descriptor(Descriptor&& other) noexcept : fd_(other.release()) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        reset(other.release());
+        return *this;
+    }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
@@ -44,7 +48,7 @@ struct DirCloser {
 };
 
 // A folder that is being listed.
-typedef std::unique_ptr<DIR, DirCloser> DirStream;
+using DirStream = std::unique_ptr<DIR, DirCloser>;
 
 // A stream on an open folder, which it takes over; none, with errno set, on failure.
 inline DirStream OpenStream(int fd) {
