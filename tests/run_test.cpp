@@ -463,21 +463,25 @@ TEST_F(RunTest, WorksWhereverTheHomeIs) {
     }
 }
 
-TEST_F(HeldRunTest, AnotherInstallationLeavesARunningUpgradeAlone) {
+TEST_F(RunTest, AnotherInstallationLeavesARunningUpgradeAlone) {
     installation_.install("99");
-    startAndHold();
+    const FileTree old_application = Tree(installation_.app());
+    fs::remove(installation_.package());
+    ASSERT_EQ(mkfifo(installation_.package().c_str(), 0644), 0);
+    const pid_t first = installation_.start();
     int pipe = -1;  // opens when the first launcher waits for its package
     EXPECT_TRUE(WaitFor([&] {
         return (pipe = open(installation_.package().c_str(), O_WRONLY | O_NONBLOCK)) >= 0;
     }));
-    installation_.moveBundle("elsewhere");
-    fs::remove(installation_.package());
-    installation_.setBuild("101");
-    EXPECT_TRUE(Logged(installation_.run(), "another upgrade is not finished"));
+    Installation other;
+    other.environment["HOME"] = installation_.home();
+    EXPECT_EQ(Installation::wait(other.start()), 0);
+    EXPECT_TRUE(HasOneLine(ReadFile(installation_.user("log/launcher.log")),
+                           "another upgrade is not finished"));
     close(pipe);  // a package of no bytes
-    EXPECT_EQ(endOfHeld(), 0);
-    expectOldApp();
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+    EXPECT_EQ(Installation::wait(first), 0);
+    EXPECT_EQ(Tree(installation_.app()), old_application);
+    expectNoRests();
 }
 
 TEST_F(RunTest, AnUpgradeThatWasCutOffAndHasNoBackupIsStartedAgain) {
@@ -485,11 +489,12 @@ TEST_F(RunTest, AnUpgradeThatWasCutOffAndHasNoBackupIsStartedAgain) {
     MakeFile(installation_.user("upgrade.journal"), "state=replacing\nbackup=0\nobject=1\n");
     EXPECT_TRUE(Logged(installation_.run(), "is gone; removing '" + installation_.app()));
     expectBuild("100");
-    EXPECT_EQ(UserFolder(installation_), kCleanFolder);
+    expectNoRests();
 }
 
 TEST_F(RunTest, WhatCannotBeRemovedStepsAsideForTheOldApplication) {
     installation_.install("100");
+    const FileTree old_application = Tree(installation_.app());
     fs::rename(installation_.app(), installation_.user("Tarnwell.app_tmp"));
     struct stat status;
     ASSERT_EQ(stat(installation_.user("Tarnwell.app_tmp").c_str(), &status), 0);
@@ -499,7 +504,7 @@ TEST_F(RunTest, WhatCannotBeRemovedStepsAsideForTheOldApplication) {
     installation_.runAsNobody();
     fs::permissions(installation_.app("closed"), fs::perms::none);
     installation_.run();
-    expectOldApp();
+    EXPECT_EQ(Tree(installation_.app()), old_application);
     const std::string aside = installation_.user("Tarnwell.app_tmp1/closed");
     EXPECT_TRUE(Exists(aside));
     EXPECT_FALSE(Exists(installation_.user("upgrade.journal")));
