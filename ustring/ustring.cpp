@@ -551,35 +551,35 @@ ustring ustring::normalize(const ustring& source, normalization_form form) {
     return result;
 }
 
-namespace {
-
-template <typename Right>
-ustring Concatenate(const ustring& a, Right b) {
-    ustring result(a);
-    result += b;
+ustring ustring::joined(std::string_view a, std::string_view b) {
+    ustring result;
+    result.realloc_data(a.size() + b.size() + 1);
+    std::memcpy(result.data, a.data(), a.size());
+    std::memcpy(result.data + a.size(), b.data(), b.size());
+    result.set_data_len(a.size() + b.size());
     return result;
 }
 
-}  // namespace
-
 ustring operator+(const ustring& a, const ustring& b) {
-    return Concatenate<const ustring&>(a, b);
+    return ustring::joined(a.view(), b.view());
 }
 
 ustring operator+(const ustring& a, const char* b) {
-    return Concatenate(a, b);
+    return ustring::joined(a.view(), b);
 }
 
 ustring operator+(const ustring& a, char b) {
-    return Concatenate(a, b);
+    return ustring::joined(a.view(), std::string_view(&b, 1));
 }
 
 ustring operator+(const ustring& a, const unsigned short* b) {
-    return Concatenate(a, b);
+    ustring result(a);
+    return result += b;
 }
 
 ustring operator+(const ustring& a, unsigned short b) {
-    return Concatenate(a, b);
+    ustring result(a);
+    return result += b;
 }
 
 std::ostream& operator<<(std::ostream& out, const ustring& text) {

@@ -171,6 +171,11 @@ class ustring {
     void clear_data();
     void clear_wdata() const;
 
+    static ustring joined(std::string_view a, std::string_view b);
+    friend ustring operator+(const ustring& a, const ustring& b);
+    friend ustring operator+(const ustring& a, const char* b);
+    friend ustring operator+(const ustring& a, char b);
+
     void build_wdata() const;
     void set_data_len(size_type len);
     ustring& assign_bytes(const char* bytes, size_type n);

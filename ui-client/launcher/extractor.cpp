@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "lib/liblogger/log.h"
 #include "lib/platform/durability.h"
@@ -224,37 +225,40 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Target&
     return 0;
 }
 
-// Whether an archive that was read to its end without an error is all there; read is where the last
-// entry ended. A tar that was cut between two entries only lacks the mark at its end. A zip that
-// was cut in the directory at its end still gives its files, but their modes and links are lost.
-bool IsWhole(archive* reader, la_int64_t read, const ustring& archive_path) {
-    switch (archive_format(reader) & ARCHIVE_FORMAT_BASE_MASK) {
-        case ARCHIVE_FORMAT_TAR:
-            return archive_filter_bytes(reader, 0) != read;
-        case ARCHIVE_FORMAT_ZIP: {
-            if (archive_filter_count(reader) > 1) {
-                return true;  // within another compression the directory is never read
-            }
-            const Reader strict(archive_read_new());
-            archive_entry* entry = nullptr;
-            return strict != nullptr &&
-                   archive_read_support_format_zip_seekable(strict.get()) == ARCHIVE_OK &&
-                   archive_read_open_filename(strict.get(), archive_path.c_str_utf8(),
-                                              kBlockSize) == ARCHIVE_OK &&
-                   archive_read_next_header(strict.get(), &entry) == ARCHIVE_OK;
-        }
-        default:
-            return true;
-    }
+// A zip that was cut in the directory at its end still gives its files, but their modes and links
+// are lost. Within another compression the directory is never read.
+bool HasWholeDirectory(const ustring& archive_path) {
+    const Reader reader(archive_read_new());
+    archive_entry* entry = nullptr;
+    return reader != nullptr &&
+           archive_read_support_format_zip_seekable(reader.get()) == ARCHIVE_OK &&
+           archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) ==
+               ARCHIVE_OK &&
+           archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK;
 }
 
-int ExtractEntries(const Extractor& extractor, archive* reader, archive* writer, int total) {
+// Whether an archive that was read to its end without an error is all there; read is where the last
+// entry ended. A tar that was cut between two entries only lacks the mark at its end. The reader is
+// freed: it may hold as much of the directory as the next one.
+bool IsWhole(Reader reader, la_int64_t read, const ustring& archive_path) {
+    const int format = archive_format(reader.get()) & ARCHIVE_FORMAT_BASE_MASK;
+    if (format == ARCHIVE_FORMAT_TAR) {
+        return archive_filter_bytes(reader.get(), 0) != read;
+    }
+    if (format != ARCHIVE_FORMAT_ZIP || archive_filter_count(reader.get()) > 1) {
+        return true;
+    }
+    reader.reset();
+    return HasWholeDirectory(archive_path);
+}
+
+int ExtractEntries(const Extractor& extractor, Reader reader, archive* writer, int total) {
     Target target(extractor.dest_dir);
     for (int number = 1;; ++number) {
-        const la_int64_t read = archive_filter_bytes(reader, 0);
+        const la_int64_t read = archive_filter_bytes(reader.get(), 0);
         archive_entry* entry = nullptr;
-        const int result = archive_read_next_header(reader, &entry);
-        if (result == ARCHIVE_EOF && IsWhole(reader, read, extractor.archive_path)) {
+        const int result = archive_read_next_header(reader.get(), &entry);
+        if (result == ARCHIVE_EOF && IsWhole(std::move(reader), read, extractor.archive_path)) {
             return 0;
         }
         if (result == ARCHIVE_EOF) {
@@ -262,10 +266,10 @@ int ExtractEntries(const Extractor& extractor, archive* reader, archive* writer,
             return -1;
         }
         if (result != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
+            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", ErrorText(reader.get()));
             return -1;
         }
-        if (ExtractEntry(reader, entry, writer, target, total, number) != 0) {
+        if (ExtractEntry(reader.get(), entry, writer, target, total, number) != 0) {
             return -1;
         }
     }
@@ -286,7 +290,7 @@ int Extractor::Extract() {
         LOG_MSG(ERROR, "Failed to calculate total file numbers, ret: %d\n", total);
         return -1;
     }
-    const Reader reader(archive_read_new());
+    Reader reader(archive_read_new());
     const Writer writer(reader != nullptr ? archive_write_disk_new() : nullptr);
     if (writer == nullptr) {
         LOG_MSG(ERROR, "Allocate extractor failed\n");
@@ -298,7 +302,7 @@ int Extractor::Extract() {
                 ErrorText(reader.get()));
         return -1;
     }
-    if (ExtractEntries(*this, reader.get(), writer.get(), total) != 0) {
+    if (ExtractEntries(*this, std::move(reader), writer.get(), total) != 0) {
         return -1;
     }
     // Closing applies what was put off until now: the permissions of folders.
