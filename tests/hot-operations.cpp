@@ -1,0 +1,288 @@
+// Runs one operation as often as its instructions are to be counted, all of it within Counted(),
+// and arranges what it needs outside. Used by instructions.sh.
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "lib/libclient/file-op.h"
+#include "lib/liblogger/log.h"
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/mac/mac-service.h"
+#include "ui-client/launcher/translations/str-table.h"
+
+#define LOG_SOURCE "hot-operations"
+
+int qInitResources_texts();  // generated with the catalogs
+
+// What is counted: callgrind knows it by this name. False when the operation failed.
+extern "C" [[gnu::noinline]] bool Counted(const std::function<bool()>& operation) {
+    const bool done = operation();
+    asm volatile("");  // keeps the call from becoming a jump, which would never return to here
+    return done;
+}
+
+namespace {
+
+const ustring log_component("hot_debug");
+
+// What macOS stores for names with accents: decomposed.
+const char kDecomposed[] =
+    "/Users/Rene\xCC\x81/Bibliothe\xCC\x80que/Tarnwell.app/Contents/Resources/"
+    "E\xCC\x81te\xCC\x81.txt";
+const char kFolder[] = "/home/user/.Tarnwell/Tarnwell.app/Contents/Resources";
+const char kName[] = "images/ico_72_tarnwell.png";
+
+const char kVersionFile[] = ".Tarnwell/Tarnwell.app/Contents/Resources/INFO";
+const char kVersion[] =
+    "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=100\nicon_overlay_version=1\n";
+
+// Lets the version that was read be seen.
+class InstalledVersion : public MacService {
+  public:
+    const ustring& build() const { return source_version.build_version; }
+};
+
+// Runs an operation once so that what is only done the first time isn't counted, and then count
+// times. What prepare() does isn't counted.
+void Repeat(
+    int count, const std::function<bool()>& operation,
+    const std::function<void()>& prepare = [] {}) {
+    for (int i = -1; i < count; ++i) {
+        prepare();
+        if (!(i < 0 ? operation() : Counted(operation))) {
+            throw std::runtime_error("the operation failed");
+        }
+    }
+}
+
+// Text that doesn't compress to nothing, and is the same in every run.
+std::string Content(unsigned number) {
+    std::string text;
+    for (unsigned word = number; text.size() < 1024; word = word * 1664525 + 1013904223) {
+        text += std::to_string(word >> 16) + ' ';
+    }
+    text.resize(1024);
+    return text;
+}
+
+std::string NameOf(int number) {
+    return "folder" + std::to_string(number % 4) + "/file" + std::to_string(1000 + number);
+}
+
+void LogToFile(const Folder& folder) {
+    Logger::Initialize(Logger::TYPE_FILE, ustring(folder / "log"), "", 3);
+}
+
+void LogWritten(const Folder& folder, int count) {
+    LogToFile(folder);
+    Repeat(count, [] {
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' (%d)\n", kFolder, kName, 17);
+        return true;
+    });
+    if (LinesWith(ReadFile(folder / "log"), kName).size() != static_cast<std::size_t>(count) + 1) {
+        throw std::runtime_error("lines are missing in the log");
+    }
+}
+
+void LogDropped(const Folder& folder, int count) {
+    LogToFile(folder);
+    Repeat(count, [] {
+        LOG_MSG(DEBUG, " org path [%s]\n", kFolder);
+        return true;
+    });
+    if (!ReadFile(folder / "log").empty()) {
+        throw std::runtime_error("the line was written");
+    }
+}
+
+void JoinPath(const Folder&, int count) {
+    const ustring folder(kFolder);
+    const ustring name(kName);
+    Repeat(count, [&] {
+        const ustring path = folder + "/" + name;
+        return path.size() == std::strlen(kFolder) + std::strlen(kName) + 1;
+    });
+}
+
+void ComposePath(const Folder&, int count) {
+    const ustring path(kDecomposed);
+    Repeat(count, [&] { return path.normalize(ustring::NFC).size() == path.size() - 4; });
+}
+
+void FileExists(const Folder& folder, int count) {
+    MakeFile(folder / "Contents/Resources/file");
+    const ustring path(folder / "Contents/Resources/file");
+    Repeat(count, [&] { return IsFileExist(path, false); });
+}
+
+void FileInfo(const Folder& folder, int count) {
+    MakeFile(folder / "Contents/Resources/file");
+    const ustring path(folder / "Contents/Resources/file");
+    _FILE_INFO_tag info;
+    Repeat(count, [&] { return GetFileInfo(path, info) == 0 && info.exists; });
+}
+
+void MakeExistingFolder(const Folder& folder, int count) {
+    MakeFolder(folder / "Contents/Resources/images");
+    const ustring path(folder / "Contents/Resources/images");
+    Repeat(count, [&] { return FSMKDirP(path, nullptr, false, 0xFFFF) == 0; });
+}
+
+// One tree of so many files.
+void RemoveTree(const Folder& folder, int count) {
+    const ustring path(folder / "tree");
+    Repeat(
+        1, [&] { return FSRemove(path, false) == 0; },
+        [&] {
+            for (int i = 0; i < count; ++i) {
+                MakeFile(folder / "tree/" + NameOf(i));
+            }
+        });
+    if (Exists(folder / "tree")) {
+        throw std::runtime_error("the tree is still there");
+    }
+}
+
+void CopyFile(const Folder& folder, int count) {
+    MakeFile(folder / "from", std::string(4096, 'x'));
+    const ustring from(folder / "from");
+    const ustring to(folder / "to");
+    Repeat(
+        count, [&] { return FSCopy(from, to, false) == 0; }, [&] { FSRemove(to, false); });
+    if (ReadFile(folder / "to") != ReadFile(folder / "from")) {
+        throw std::runtime_error("the copy differs");
+    }
+}
+
+// One archive of so many files.
+void Unpack(const Folder& folder, int count, const std::string& format) {
+    std::vector<Entry> entries;
+    entries.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        entries.push_back({NameOf(i), Content(static_cast<unsigned>(i))});
+    }
+    MakeArchive(folder / "package", format, entries);
+    StrTable::InitStrTable();
+    Extractor extractor;
+    extractor.archive_path = folder / "package";
+    extractor.dest_dir = folder / "target";
+    Repeat(
+        1, [&] { return extractor.Extract() == 0; },
+        [&] {
+            FSRemove(extractor.dest_dir, false);
+            MakeFolder(folder / "target");
+        });
+    if (ReadFile(folder / "target/" + entries.back().name) != entries.back().content) {
+        throw std::runtime_error("the last file differs");
+    }
+}
+
+void UnpackZip(const Folder& folder, int count) {
+    Unpack(folder, count, "zip");
+}
+
+void UnpackTarGz(const Folder& folder, int count) {
+    Unpack(folder, count, "tar.gz");
+}
+
+void LoadString(const Folder&, int count) {
+    qInitResources_texts();
+    StrTable::InitStrTable();
+    QTranslator translator;
+    if (!translator.load(QStringLiteral(":/deu.qm")) ||
+        !QCoreApplication::installTranslator(&translator)) {
+        throw std::runtime_error("the catalog can't be loaded");
+    }
+    Repeat(count, [] { return !StrTable::LoadStr(StrTable::kPreparing).isEmpty(); });
+}
+
+// Each time the file has another time, so that nothing kept of an earlier reading will do.
+void ReadVersion(const Folder& folder, int count) {
+    MakeFile(folder / kVersionFile, kVersion);
+    InstalledVersion version;
+    long time = 1000000000;
+    Repeat(
+        count,
+        [&] {
+            version.LoadSourceVerInfo();
+            return version.build() == "100";
+        },
+        [&] {
+            ++time;
+            FSUTime(ustring(folder / kVersionFile), time, time);
+        });
+}
+
+// What every start does: no upgrade was cut off.
+void FindNoRecord(const Folder& folder, int count) {
+    MakeFolder(folder / ".Tarnwell");
+    MacService service;
+    Repeat(count, [&] {
+        service.FinishCutOffUpgrade();
+        return true;
+    });
+}
+
+struct Operation {
+    const char* name;
+    int count;
+    void (*run)(const Folder& folder, int count);
+};
+
+const Operation kOperations[] = {
+    {"log-written", 1000, LogWritten},
+    {"log-dropped", 1000, LogDropped},
+    {"join-path", 1000, JoinPath},
+    {"compose-path", 200, ComposePath},
+    {"file-exists", 200, FileExists},
+    {"file-info", 200, FileInfo},
+    {"make-existing-folder", 200, MakeExistingFolder},
+    {"remove-tree", 200, RemoveTree},
+    {"copy-file", 50, CopyFile},
+    {"unpack-zip", 200, UnpackZip},
+    {"unpack-tar-gz", 200, UnpackTarGz},
+    {"load-string", 200, LoadString},
+    {"read-version", 50, ReadVersion},
+    {"find-no-record", 200, FindNoRecord},
+};
+
+int Run(const Operation& operation) {
+    const Folder home;
+    if (setenv("HOME", home.path().c_str(), 1) != 0) {
+        return 1;
+    }
+    try {
+        operation.run(home, operation.count);
+    } catch (const std::exception& error) {
+        std::cerr << operation.name << ": " << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::string name = argc == 2 ? argv[1] : "";
+    for (const Operation& operation : kOperations) {
+        if (name == "--list") {
+            std::cout << operation.name << ' ' << operation.count << '\n';
+        } else if (name == operation.name) {
+            const QCoreApplication application(argc, argv);
+            return Run(operation);
+        }
+    }
+    if (name != "--list") {
+        std::cerr << "usage: hot_operations OPERATION | --list\n";
+        return 2;
+    }
+    return 0;
+}
