@@ -144,10 +144,7 @@ class Bench:
     def fresh(self, name):
         """The path of something that isn't there, with everything written before on the disk."""
         path = self.folder / name
-        if path.is_dir():
-            shutil.rmtree(path)
-        elif path.exists():
-            path.unlink()
+        subprocess.run(["rm", "-rf", path], check=True)
         subprocess.run(["sync", "-f", self.folder], check=True)
         return path
 
@@ -280,32 +277,31 @@ class Bench:
                 self.rows.append(row)
                 print("  ".join(row.cells()[:5]), row.note, flush=True)
 
+    def deep(self, operation, depth):
+        """Seconds of an operation on a chain of folders."""
+        root, other = self.fresh("deep"), self.fresh("deep-copy")
+        root.mkdir()
+        path = root / "/".join(["d"] * depth)
+        if operation == "unpack":
+            archive = self.fresh("deep.zip")
+            with zipfile.ZipFile(archive, "w") as file:
+                for i in range(depth):
+                    file.writestr("d/" * (i + 1), b"")
+            return self.run_tool("unpack", archive, root)[0]
+        made = self.run_tool("make-folders", path)[0]
+        if operation == "make-folders":
+            return made
+        arguments = {"describe": [path], "copy-tree": [root, other], "remove": [root]}[operation]
+        return self.run_tool(operation, *arguments)[0]
+
     def depth(self):
         """What twice the depth costs: 2 is linear, 4 quadratic."""
-        def chain(depth):
-            return "/".join(["d"] * depth)
-
-        for operation in ("make-folders", "describe", "copy-tree", "remove"):
+        for operation in ("make-folders", "describe", "copy-tree", "remove", "unpack"):
             times = {}
             for depth in DEPTHS:
                 samples = []
                 for _ in range(5):
-                    root = self.fresh("deep")
-                    root.mkdir()
-                    copied = self.fresh("deep-copy")
-                    path = root / chain(depth)
-                    made = self.run_tool("make-folders", path)[0]
-                    if operation == "make-folders":
-                        samples.append(made)
-                    elif operation == "describe":
-                        samples.append(self.run_tool("describe", path)[0])
-                    elif operation == "copy-tree":
-                        samples.append(self.run_tool("copy-tree", root, copied)[0])
-                        self.run_tool("remove", copied)
-                    else:
-                        samples.append(self.run_tool("remove", root)[0])
-                        continue
-                    self.run_tool("remove", root)
+                    samples.append(self.deep(operation, depth))
                 times[depth] = min(samples)
             row = Row(f"depth: `{operation}`", f"{DEPTHS[-2]} deep (ours {DEPTHS[-1]:,})", 2.6)
             row.ratios.append(times[DEPTHS[-1]] / times[DEPTHS[-2]])
