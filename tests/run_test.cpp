@@ -218,6 +218,13 @@ TEST_F(RunTest, AProcessThatTookTheClientsIdIsLeftAlone) {
     write_pid_file_long_before(client);
     installation_.run();
     EXPECT_EQ(client.wait(), 1000 + SIGTERM) << "the clock may have been set; it is the client";
+
+    installation_.install("99");
+    installation_.runAsNobody();  // so that the other process is another user's, too
+    write_pid_file_long_before(another);
+    EXPECT_FALSE(Logged(installation_.run(), "kill:"));
+    EXPECT_TRUE(another.running());
+    expectBuild("100");
 }
 
 TEST_F(RunTest, ARecordThatIsNoneIsNeverObeyed) {

@@ -61,7 +61,7 @@ bool DescribeProcess(pid_t pid, ProcessInfo& info) {
     const long ticks = StartTicks(folder);
     info.executable = Executable(folder);
     info.started = boot + ticks / sysconf(_SC_CLK_TCK);
-    return boot > 0 && ticks >= 0 && !info.executable.empty();
+    return boot > 0 && ticks >= 0;
 }
 
 }  // namespace platform

@@ -43,7 +43,8 @@ pid_t ClientPid(const std::map<ustring, ustring>& entries, const ustring& pid_fi
 }
 
 // Whether the process can't be the one that wrote the pid file: it was started after that, and it
-// isn't the client. Its id was given to it when the client's was free again. In doubt it may be.
+// isn't the client. Its id was given to it when the client's was free again. In doubt it may be;
+// but one whose executable isn't told is another user's.
 bool IsAnother(pid_t pid, const ustring& pid_file, ustring client) {
     platform::ProcessInfo process;
     _FILE_INFO_tag file;
