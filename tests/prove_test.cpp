@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -147,7 +148,7 @@ class ProveTest : public testing::Test {
     }
 
     // The state before each run: an old application or none, and a good package or a damaged one.
-    void arrange(Start start) {
+    virtual void arrange(Start start) {
         fs::remove_all(installation_.user());
         MakeFolder(installation_.user("log"));
         if (start != Install) {
@@ -368,6 +369,90 @@ TEST_F(ProveTest, AThousandRandomKillsLeaveNothing) {
         check(name == "log" || name == "Tarnwell.app" || name == "Tarnwell.app_tmp",
               name + " is left");
     }
+}
+
+// The old application came with the lower layer of an overlay: its folders can't be renamed, its
+// files can. It has rights of its own, and a link that soon leads nowhere; the first backup's name
+// is another's.
+class OverlayTest : public ProveTest {
+  protected:
+    ~OverlayTest() override { umount2(installation_.user().c_str(), MNT_DETACH); }
+
+    void arrange(Start start) override {
+        umount2(installation_.user().c_str(), MNT_DETACH);
+        ProveTest::arrange(start);
+        MakeFile(installation_.app("private/file"), "secret", 0600);
+        MakeFolder(installation_.app("private/empty"));
+        MakeFile(installation_.user("Tarnwell.app_tmp/rest"));
+        old_ = Tree(installation_.app());
+        fs::remove_all(layers_);
+        MakeFolder(layers_ + "/upper");
+        MakeFolder(layers_ + "/work");
+        fs::copy(installation_.user(), layers_ + "/lower",
+                 fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+        fs::permissions(layers_ + "/lower/Tarnwell.app/private", kRights);
+        fs::permissions(layers_ + "/lower/Tarnwell.app/private/empty", kRights);
+        const std::string layers = "lowerdir=" + layers_ + "/lower,upperdir=" + layers_ +
+                                   "/upper,workdir=" + layers_ + "/work,redirect_dir=off";
+        mounted_ = disk_.mounted() &&
+                   mount("none", installation_.user().c_str(), "overlay", 0, layers.c_str()) == 0;
+    }
+    bool isHalfDone() const {
+        return Exists(installation_.user("upgrade.journal")) ||
+               Exists(installation_.user("Tarnwell.app_part"));
+    }
+    // Whether nothing has happened to the old application and to what isn't ours.
+    bool isUntouched() const {
+        return isOld() && fs::status(installation_.app("private")).permissions() == kRights &&
+               fs::status(installation_.app("private/empty")).permissions() == kRights &&
+               Tree(installation_.user("Tarnwell.app_tmp")).size() == 1 && !isHalfDone();
+    }
+    // A run that only looks at what an earlier one has left: the package is damaged.
+    void checkNextRun(const std::string& what) {
+        ++broken_;
+        installation_.run();
+        check(isUntouched(), what + ": not as it was");
+    }
+
+    const fs::perms kRights = fs::perms::owner_all | fs::perms::group_all;
+    const std::string layers_ = installation_.home() + "/layers/overlay";
+    const SmallDisk disk_{installation_.home() + "/layers", "8m"};
+    bool mounted_ = false;
+};
+
+TEST_F(OverlayTest, AFolderThatCannotBeRenamed) {
+    if (geteuid() == 0) {
+        arrange(Upgrade);
+    }
+    if (!mounted_) {
+        GTEST_SKIP() << "only root can mount an overlay, where it is allowed to";
+    }
+    ASSERT_NE(rename(installation_.app().c_str(), installation_.user("other").c_str()), 0);
+    ASSERT_EQ(errno, EXDEV);
+    installation_.run();
+    check(isNew() && !isHalfDone() && !Exists(installation_.user("Tarnwell.app_tmp")), "upgraded");
+
+    damagePackage();
+    sweep(Rollback, [this](int k, const std::string& where) {
+        traced(k);
+        checkNextRun("killed" + where);
+
+        arrange(Rollback);
+        traced(k);
+        traced(k);
+        checkNextRun("killed twice" + where);
+
+        for (const int error : {ENOSPC, EXDEV}) {
+            arrange(Rollback);
+            traced(k, error);
+            const std::string log = ReadFile(installation_.user("log/launcher.log"));
+            check(isUntouched() || isHalfDone(), strerror(error) + where);
+            check(LinesWith(log, "at max retries").empty() ||
+                      LinesWith(log, "failed to backup app").size() == 11,
+                  "the attempts, " + std::string(strerror(error)) + where);
+            checkNextRun(strerror(error) + where);
+        }
+    });
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "ui-client/launcher/tarnwell-service.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,6 +16,7 @@
 #include "lib/platform/durability.h"
 #include "lib/platform/instance-lock.h"
 #include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/move-entries.h"
 #include "ui-client/launcher/upgrade-journal.h"
 
 #define LOG_SOURCE "tarnwell-service"
@@ -59,28 +61,109 @@ ustring GetAppBackupDir(ustring const& app, int n) {
     return backup += postfix;
 }
 
-// Moves the application folder aside, each attempt announced in the journal, and keeps in record
-// where it went. Without a record nothing is moved. Returns 0, or -1 when every attempt has failed.
+// Where the entries of an application folder that can't be renamed are gathered on their way to the
+// backup. Nothing else has that name, so what is in it belongs into the application.
+ustring GetAppPartDir(ustring const& app) {
+    return app + "_part";
+}
+
+// FSRename without its way of moving between volumes, which loses permissions and isn't undone. -1
+// with errno set, to EXDEV where a folder can't be renamed.
+int RenameApp(ustring const& app, ustring const& backup) {
+    _FILE_INFO_tag info;
+    return FSStat(app, info, false) == 0 ? std::rename(app.c_str(), backup.c_str()) : -1;
+}
+
+// Moves an application folder that can't be renamed to a backup name entry by entry, by way of a
+// new folder, which the record names from before the first entry is moved. That folder gets the
+// backup's name when it holds them all, which makes it the backup: there is no other moment at
+// which something could be cut off between. A name that is occupied is left alone.
+bool MoveByEntry(ustring const& app, ustring const& backup, const UpgradeJournal& journal,
+                 UpgradeJournal::Record& record) {
+    const ustring part = GetAppPartDir(app);
+    if (rmdir(backup.c_str()) != 0 && errno != ENOENT) {
+        return false;
+    }
+    rmdir(part.c_str());  // an empty one may be left
+    if (!MakeFolderLike(app, part)) {
+        return false;
+    }
+    if (!UpgradeJournal::Identify(part, record.object) || journal.write(record) != 0 ||
+        !MoveEntries(app, part) || platform::SyncVolume(part.c_str()) != 0) {
+        return false;
+    }
+    static_cast<void>(std::rename(part.c_str(), backup.c_str()));  // a look tells more
+    if (!UpgradeJournal::IsAt(backup, record.object)) {
+        return false;
+    }
+    rmdir(app.c_str());  // empty; if it stays, it is unpacked into
+    return true;
+}
+
+// Moves back what MoveByEntry has moved, also in an earlier run. The record names the application
+// in its place then, and only after that the way there is taken down. As long as this fails, the
+// record must stay.
+bool TakeBack(ustring const& app, const UpgradeJournal& journal, UpgradeJournal::Record& record) {
+    const ustring part = GetAppPartDir(app);
+    if (!MoveEntries(part, app) || platform::SyncVolume(app.c_str()) != 0 ||
+        !UpgradeJournal::Identify(app, record.object)) {
+        return false;
+    }
+    if (journal.write(record) == 0) {
+        rmdir(part.c_str());
+    }
+    return true;
+}
+
+enum Attempt : int { Moved, NotMoved, HalfMoved };
+
+// One attempt to move the application aside, announced in the journal; entry by entry only if
+// allowed. Without a record nothing is moved. The record tells where it went.
+Attempt TryBackup(ustring const& app, ustring const& backup, const UpgradeJournal& journal,
+                  UpgradeJournal::Record& record, bool by_entry) {
+    const ustring object = record.object;
+    const bool announced = journal.write(record) == 0;
+    if (announced && RenameApp(app, backup) == 0) {
+        if (!UpgradeJournal::IsAt(backup, object)) {
+            UpgradeJournal::Identify(backup, record.object);  // the rename has numbered it anew
+            journal.write(record);
+        }
+        return Moved;
+    }
+    by_entry = by_entry && announced && errno == EXDEV;
+    // A remote disk can report a failure for what it has done.
+    if (UpgradeJournal::IsAt(backup, object) ||
+        (by_entry && MoveByEntry(app, backup, journal, record))) {
+        return Moved;
+    }
+    return record.object == object ? NotMoved : HalfMoved;
+}
+
+// Moves the application folder aside. Returns 0, or -1 when every attempt has failed; then the
+// application is in its place and the record gone, or the next run has something to take back.
 int MoveAside(ustring const& app, const UpgradeJournal& journal, UpgradeJournal::Record& record) {
     ustring backup;
+    bool by_entry = true;
+    bool in_place = true;
     UpgradeJournal::Identify(app, record.object);
-    for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
+    for (int n = 0; n < UpgradeJournal::kMaxBackups && in_place; ++n) {
         record.backup = n;
         backup = GetAppBackupDir(app, n);
-        if (journal.write(record) == 0 && FSRename(app, backup, false) == 0) {
-            if (!UpgradeJournal::IsAt(backup, record.object)) {
-                UpgradeJournal::Identify(backup, record.object);  // it was copied, not renamed
-                journal.write(record);
-            }
+        const Attempt attempt = TryBackup(app, backup, journal, record, by_entry);
+        if (attempt == Moved) {
             return 0;
         }
-        if (UpgradeJournal::IsAt(backup, record.object)) {
-            return 0;  // a remote disk can report a failure for what it has done
+        if (attempt == HalfMoved) {
+            by_entry = false;  // it would fail again
+            in_place = TakeBack(app, journal, record);
         }
         LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app.c_str(), backup.c_str());
     }
     LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
             backup.c_str());
+    if (in_place) {
+        journal.remove();
+    }
     return -1;
 }
 
@@ -106,11 +189,7 @@ int PutBack(ustring const& app, const UpgradeJournal::Record& record) {
             StepAside(app, record.backup);
         }
     }
-    if (UpgradeJournal::IsAt(app, record.object)) {
-        return 0;
-    }
-    // Where a rename is impossible, moving file by file is all that is left.
-    return UpgradeJournal::IsAt(backup, record.object) ? FSRename(backup, app, false) : -1;
+    return UpgradeJournal::IsAt(app, record.object) ? 0 : -1;
 }
 
 // After a failed extraction: puts the old installation back, if there was one. As long as the
@@ -168,21 +247,25 @@ void RemoveBackups(ustring const& app, const UpgradeJournal& journal,
     journal.remove();
 }
 
-// Removes what a first installation has left, unless something else has taken its place.
+// Removes what an unfinished installation has left. Returns whether it is gone.
 bool RemoveRest(ustring const& app, ustring const& object) {
-    if (UpgradeJournal::IsAt(app, object)) {
-        LOG_MSG(WARNING, "a first installation was not finished, removing '%s'\n", app.c_str());
-        FSRemove(app, false);
-    }
+    FSRemove(app, false);
     return !UpgradeJournal::IsAt(app, object);
+}
+
+// Removes what a first installation has left, unless something else has taken its place.
+bool UndoInstallation(ustring const& app, ustring const& object) {
+    if (!UpgradeJournal::IsAt(app, object)) {
+        return true;
+    }
+    LOG_MSG(WARNING, "a first installation was not finished, removing '%s'\n", app.c_str());
+    return RemoveRest(app, object);
 }
 
 // Undoes an upgrade of which the record says that it was replacing the application. Returns whether
 // that is settled; otherwise the record must stay.
-bool Undo(ustring const& app, const UpgradeJournal::Record& record) {
-    if (record.backup == UpgradeJournal::kNoBackup) {
-        return RemoveRest(app, record.object);
-    }
+bool UndoUpgrade(ustring const& app, const UpgradeJournal& journal,
+                 UpgradeJournal::Record& record) {
     const ustring backup = GetAppBackupDir(app, record.backup);
     ustring in_place;
     ustring aside;
@@ -197,6 +280,15 @@ bool Undo(ustring const& app, const UpgradeJournal::Record& record) {
         LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
                 backup.c_str());
         return PutBack(app, record) == 0;
+    }
+    const ustring part = GetAppPartDir(app);
+    if (!UpgradeJournal::Identify(part, aside)) {
+        return false;
+    }
+    if (!aside.empty()) {
+        LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
+                part.c_str());
+        return TakeBack(app, journal, record);
     }
     LOG_MSG(WARNING, "an upgrade was cut off, and '%s' is gone; removing '%s'\n", backup.c_str(),
             app.c_str());
@@ -260,7 +352,6 @@ int Service::PrepareUserEnv() {
     if (!IsFileExist(app, false)) {
         BeginInstallation(app, journal, record);
     } else if (MoveAside(app, journal, record) != 0) {
-        journal.remove();
         return -1;
     }
     if (ExtractPackage() != 0 || HasLostClient(app, record) || SyncApp(app) != 0) {
@@ -295,7 +386,10 @@ void Service::FinishCutOffUpgrade() {
         LOG_MSG(WARNING, "an upgrade was cut off after its end, removing backup app\n");
         RemoveBackups(user_app_path, journal, record);
     } else if (finding == UpgradeJournal::Found) {
-        if (Undo(user_app_path, record)) {
+        const bool undone = record.backup == UpgradeJournal::kNoBackup
+                                ? UndoInstallation(user_app_path, record.object)
+                                : UndoUpgrade(user_app_path, journal, record);
+        if (undone) {
             journal.remove();
         } else {
             LOG_MSG(ERROR, "failed to undo an upgrade that was cut off\n");
