@@ -86,7 +86,7 @@ bool IsButton(const char* key) {
     return strncmp(key, "btn_", 4) == 0 || strncmp(key, "msi_button_", 11) == 0;
 }
 
-QString CaseAndMarksAside(QString text) {
+QString CaseAndMarksAside(const QString& text) {
     return text.toLower().remove(QRegularExpression(QStringLiteral("[.:…\\s]+$")));
 }
 
@@ -124,7 +124,7 @@ TEST(StrTable, RowsAreWhatTheCatalogsKnow) {
         const QString text = QString::fromUtf8(row.text);
         keys.insert(QString::fromLatin1(row.key).toLower());
         texts.insert(text);
-        with_placeholder += text.contains(QLatin1String("%1"));
+        with_placeholder += text.contains(QLatin1String("%1")) ? 1 : 0;
         EXPECT_EQ(text, text.trimmed());
         EXPECT_EQ(strncmp(row.key, "msi_", 4) == 0 && text.contains(QLatin1String("Tarnwell")),
                   false)
@@ -194,7 +194,7 @@ TEST_P(CatalogTest, IsInItsOwnLanguage) {
     if (code_ == QLatin1String("enu")) {
         int reworded = 0;
         for (const Message& message : messages_) {
-            reworded += message.source != message.translation;
+            reworded += message.source != message.translation ? 1 : 0;
         }
         EXPECT_EQ(reworded, 4);
         return;

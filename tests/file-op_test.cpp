@@ -354,7 +354,7 @@ TEST_F(FileOpTest, NeitherDepthNorWidthHasALimit) {
 }
 
 TEST_F(FileOpTest, ListsFolders) {
-    for (const int flags : {0, int(DIR_OPEN_STAT)}) {
+    for (const int flags : {0, static_cast<int>(DIR_OPEN_STAT)}) {
         SCOPED_TRACE(flags);
         DIR_HANDLE handle;
         ASSERT_EQ(FSOpenDir(folder_ / "kinds", flags, handle), 0);

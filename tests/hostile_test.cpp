@@ -44,14 +44,14 @@ std::string Raw(const std::string& name, Type type, const std::string& link, std
                Raw(name.substr(0, 100), type, link, size, mode, data);
     }
     char header[512] = {};
-    std::memcpy(header, name.data(), name.size());
+    name.copy(header, 100);
     std::snprintf(header + 100, 25, "%07o", mode);
     std::snprintf(header + 124, 25, "%011zo", size);
     std::snprintf(header + 136, 13, "%011o", 1000000000u);
     std::memset(header + 148, ' ', 8);
     header[156] = type;
-    std::memcpy(header + 157, link.data(), link.size());
-    std::memcpy(header + 257, "ustar\00000", 8);
+    link.copy(header + 157, 100);
+    std::string("ustar\00000", 8).copy(header + 257, 8);
     unsigned sum = 0;
     for (const char byte : header) {
         sum += static_cast<unsigned char>(byte);
@@ -143,7 +143,7 @@ struct Package {
     std::string log;  // empty: it is unpacked
     FileTree tree;    // what is in the destination then
 };
-typedef std::vector<Package> Packages;
+using Packages = std::vector<Package>;
 
 void PrintTo(const Package& package, std::ostream* out) {
     *out << package.name;

@@ -55,7 +55,7 @@ class LauncherTest : public testing::Test {
     // Runs a launcher to the end of its event loop and keeps what the user would see.
     static Watched runAndWatch() {
         Launcher launcher;
-        QLabel* const label = dialog()->findChild<QLabel*>();
+        auto* const label = dialog()->findChild<QLabel*>();
         Watched watched = {{}, {}, {dialog()->isVisible()}, -1};
         const auto look = [&] {
             watched.labels.push_back(label->text());

@@ -74,6 +74,7 @@ class PackageTest : public testing::Test {
                                  "[ ! -e $OUT.?????? ] || break; sleep 0.01; done; }; { " +
                                  command + "; } >'" + (folder_ / "stdout") + "' 2>'" +
                                  (folder_ / "stderr") + "'";
+        // NOLINTNEXTLINE(cert-env33-c): the tool is called as its users call it
         const int status = std::system(line.c_str());
         return {WEXITSTATUS(status), ReadFile(folder_ / "stdout"), ReadFile(folder_ / "stderr")};
     }

@@ -92,7 +92,7 @@ TEST(FileSystemType, NamesTheSystem) {
 
 TEST(BundleExecutable, IsReadFromTheInfoPlist) {
     const auto plist = [](const QByteArray& dict) {
-        return platform::BundleExecutable("<?xml version=\"1.0\"?><plist version=\"1.0\">" + dict +
+        return platform::BundleExecutable(R"(<?xml version="1.0"?><plist version="1.0">)" + dict +
                                           "</plist>");
     };
     EXPECT_EQ(plist("<dict><key>A</key><true/><key>B</key><string>no</"
@@ -158,7 +158,7 @@ class InstanceLockTest : public testing::Test {
     bool heldForAnotherProcess() const {
         const pid_t pid = fork();
         if (pid == 0) {
-            _exit(platform::InstanceLock(path_).heldElsewhere());
+            _exit(platform::InstanceLock(path_).heldElsewhere() ? 1 : 0);
         }
         int status = 0;
         waitpid(pid, &status, 0);

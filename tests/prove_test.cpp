@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <random>
+#include <utility>
 
 #include "tests/support/installation.h"
 #include "tests/support/traced-run.h"
@@ -29,7 +30,7 @@ int Stride() {
 // the rest is lost, or is there without its content.
 class Disk {
   public:
-    explicit Disk(const std::string& root) : root_(root) { syncAll(); }
+    explicit Disk(std::string root) : root_(std::move(root)) { syncAll(); }
 
     void sync(const std::string& path) {
         struct stat status;
@@ -209,7 +210,7 @@ class ProveTest : public testing::Test {
     }
 
     void check(bool good, const std::string& what) {
-        bad_ends_ += !good;
+        bad_ends_ += good ? 0 : 1;
         EXPECT_TRUE(good) << what << "\n" << ReadFile(installation_.user("log/launcher.log"));
     }
     // After a cut: nothing is lost, and the next run comes to the right end.

@@ -284,7 +284,7 @@ TEST_F(RunTest, BlockedBackupNamesAreSteppedOverUpToTheTenth) {
 }
 
 TEST_F(RunTest, RollsBackWhenThePackageIsNoGood) {
-    typedef const std::string& Package;
+    using Package = const std::string&;
     const struct {
         std::function<void(Package package)> spoil;
         const char* message;
@@ -354,13 +354,13 @@ TEST_F(RunTest, ADanglingLinkInThePlaceOfTheApplicationFolder) {
 TEST_F(RunTest, AReadOnlyHomeStillStartsTheClient) {
     installation_.install("99");
     installation_.runAsNobody();
-    fs::permissions(installation_.user(), fs::perms(0555));
+    fs::permissions(installation_.user(), fs::perms{0555});
     const Installation::Result result = installation_.run();
     EXPECT_EQ(result.log, "");
     EXPECT_EQ(LinesWith(result.err, "[ERROR] tarnwell-service(").size(), 11u) << result.err;
     EXPECT_FALSE(LinesWith(result.err, "at max retries, exiting").empty());
     EXPECT_TRUE(installation_.clientStarted());
-    fs::permissions(installation_.user(), fs::perms(0755));
+    fs::permissions(installation_.user(), fs::perms{0755});
     EXPECT_TRUE(Exists(installation_.app("old")));
 }
 

@@ -174,7 +174,7 @@ TEST_F(ExtractorTest, SaysWhatIsWrongWithAnEntry) {
     const std::string content = "stored text, the size of which is known";
     MakeArchive(folder_ / "package", "zip", {{"file", content}});
     std::string bytes = ReadFile(folder_ / "package");
-    const std::size_t data = 30 + std::size_t(bytes[26]) + std::size_t(bytes[28]);
+    const auto data = static_cast<std::size_t>(30 + bytes[26] + bytes[28]);
     bytes[data + 3] = static_cast<char>(bytes[data + 3] ^ 0x55);
     MakeFile(folder_ / "package", bytes);
     const auto [result, log] = call(&Extractor::Extract);

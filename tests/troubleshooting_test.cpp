@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-typedef std::tuple<std::string, std::string, std::string> Message;  // level, source, format
-typedef std::set<Message> Messages;
+using Message = std::tuple<std::string, std::string, std::string>;  // level, source, format
+using Messages = std::set<Message>;
 
 std::vector<std::smatch> All(const std::string& text, const std::regex& pattern) {
     return {std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator()};

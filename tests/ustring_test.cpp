@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace {
 
-typedef std::vector<unsigned short> Units;
+using Units = std::vector<unsigned short>;
 
 Units UnitsOf(const ustring& text) {
     const unsigned short* const begin = text.c_str_utf16();
@@ -36,8 +36,9 @@ TEST(UString, AgreesWithItsModel) {
     std::vector<std::uint8_t> program(200);
     for (int i = 0; i < 20000; ++i) {
         for (std::uint8_t& byte : program) {
-            byte =
-                static_cast<std::uint8_t>(i % 2 == 0 ? random() : bytes[random() % bytes.size()]);
+            const auto any = random();
+            byte = i % 2 == 0 ? static_cast<std::uint8_t>(any)
+                              : static_cast<std::uint8_t>(bytes[any % bytes.size()]);
         }
         LLVMFuzzerTestOneInput(program.data(), program.size());
     }

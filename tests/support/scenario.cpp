@@ -185,7 +185,7 @@ void MakeArchive(const std::string& path, const std::string& format,
         {"tar.zst", {"gnutar", "zstd"}}};
     const auto& [container, filter] = formats.at(format);
     Check(archive_write_set_format_by_name(out, container) == ARCHIVE_OK &&
-              (!filter || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&
+              (filter == nullptr || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&
               archive_write_open_filename(out, path.c_str()) == ARCHIVE_OK,
           "can't write " + path);
     for (const Entry& from : entries) {

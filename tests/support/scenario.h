@@ -40,7 +40,7 @@ bool Exists(const std::string& path);           // a dangling link does
 
 // A folder's content by relative path: "folder", "file 0644: content" or "link: target". Content
 // that is too long to be read is told by its size and hash.
-typedef std::map<std::string, std::string> FileTree;
+using FileTree = std::map<std::string, std::string>;
 FileTree Tree(const std::string& path);
 std::string DescribeFile(mode_t mode, const std::string& content);
 

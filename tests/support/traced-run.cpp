@@ -17,7 +17,7 @@
 
 namespace {
 
-typedef decltype(__ptrace_syscall_info::entry) SyscallEntry;
+using SyscallEntry = decltype(__ptrace_syscall_info::entry);
 
 const std::set<long> kSyncs = {SYS_fsync, SYS_fdatasync, SYS_syncfs};
 
