@@ -19,8 +19,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-typedef AppTree::Node Node;
-typedef std::map<std::string, Node> Nodes;
+using Node = AppTree::Node;
+using Nodes = std::map<std::string, Node>;
 
 // A Mac takes paths of 1023 bytes; this leaves 223 for the home folder and .Tarnwell/Tarnwell.app.
 const std::size_t kMaxPath = 800;
@@ -41,10 +41,10 @@ std::string Printable(const std::string& text) {
     const bool utf8 = IsUtf8(text);
     std::string printable;
     for (const char byte : text) {
-        const unsigned char code = static_cast<unsigned char>(byte);
+        const auto code = static_cast<unsigned char>(byte);
         if (code < 32 || code == 127 || (code > 127 && !utf8)) {
             char escaped[5];
-            std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(code));
+            static_cast<void>(std::snprintf(escaped, sizeof escaped, "\\x%02X", +code));
             printable += escaped;
         } else {
             printable += byte;
@@ -58,8 +58,8 @@ std::string FolderOf(const std::string& name) {
     return end == std::string::npos ? "" : name.substr(0, end);
 }
 
-std::string Join(const std::string& folder, const std::string& name) {
-    return folder.empty() ? name : folder + "/" + name;
+std::string Join(const std::string& above, const std::string& name) {
+    return above.empty() ? name : above + "/" + name;
 }
 
 // Why an object can't be in a package, and what to do; empty when it can.
@@ -171,7 +171,8 @@ const char* LinkFault(const Nodes& nodes, const std::string& link) {
             } else if (++links > kMaxLinks) {
                 return "is a link that leads in a circle; remove it";
             } else {
-                rest = rest.empty() ? node->second.target : node->second.target + "/" + rest;
+                const std::string& target = node->second.target;
+                rest.insert(0, rest.empty() ? target : target + "/");
             }
         }
     }

@@ -29,7 +29,7 @@ void Interrupt(int) {
 void LeaveTheEnvironment() {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     if (setlocale(LC_ALL, "C.UTF-8") == nullptr) {
-        setlocale(LC_CTYPE, "UTF-8");  // its name on macOS
+        static_cast<void>(setlocale(LC_CTYPE, "UTF-8"));  // its name on macOS
     }
     setenv("TZ", "UTC0", 1);
     tzset();
@@ -42,14 +42,16 @@ class ProgressLine {
     explicit ProgressLine(const char* what) : what_(what) {}
     ~ProgressLine() {
         if (percent_ >= 0) {
-            std::fputs("\r\x1b[K", stderr);
+            static_cast<void>(std::fputs("\r\x1b[K", stderr));
         }
     }
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
 
     void update(std::int64_t done, std::int64_t total) {
         const int percent = static_cast<int>(total > 0 ? done * 100 / total : 100);
         if (terminal_ && percent != percent_) {
-            std::fprintf(stderr, "\r%s: %d %%", what_, percent);
+            static_cast<void>(std::fprintf(stderr, "\r%s: %d %%", what_, percent));
             percent_ = percent;
         }
     }
@@ -83,17 +85,19 @@ int main(int argc, char** argv) {
     LeaveTheEnvironment();
     StrTable::InitStrTable();
     if (argc != 3) {
-        std::fputs("usage: make-package APP_FOLDER OUT.opk\n       make-package --check FILE.opk\n",
-                   stderr);
+        static_cast<void>(
+            std::fputs("usage: make-package APP_FOLDER OUT.opk\n"
+                       "       make-package --check FILE.opk\n",
+                       stderr));
         return 2;
     }
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        std::signal(number, Interrupt);
+        static_cast<void>(std::signal(number, Interrupt));
     }
     try {
         return Run(argv[1], argv[2]);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "make-package: %s\n", error.what());
+        static_cast<void>(std::fprintf(stderr, "make-package: %s\n", error.what()));
         return 1;
     }
 }

@@ -164,7 +164,7 @@ class ZipWriter {
         }
         std::vector<char> block(kBlockSize);
         off_t left = size;
-        ssize_t count;
+        ssize_t count = 0;
         while ((count = read(file.get(), block.data(), block.size())) > 0 && count <= left) {
             const la_ssize_t written =
                 archive_write_data(zip_.get(), block.data(), static_cast<std::size_t>(count));
@@ -198,7 +198,7 @@ fs::path ResolveOut(const std::string& app, const std::string& out) {
     if (error) {
         throw PackageError(out, "has no folder to stand in; make it");
     }
-    const fs::path path = folder / fs::path(out).filename();
+    fs::path path = folder / fs::path(out).filename();
     if (!path.has_filename() || fs::is_directory(path, error)) {
         throw PackageError(out, "is a folder; name the file to make");
     }

@@ -16,7 +16,7 @@ struct PackageSummary {
 };
 
 // Told how much of the work is done; returns whether to go on.
-typedef std::function<bool(std::int64_t done, std::int64_t total)> Progress;
+using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
 
 // Makes the package out of the application folder app: a zip whose bytes depend on nothing but the
 // names, contents, permission bits and link targets in that folder. The client comes last, as the
