@@ -97,17 +97,17 @@ void SpellAsStored(char* path) {
 
 // The system tells the path of an open object; false when it can't, as without /proc, and when the
 // path has come to lead elsewhere.
-bool PathOfOpened(int fd, char* path) {
+bool PathOfOpened(int fd, char* resolved) {
     char link[32];
-    std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
-    const ssize_t size = readlink(link, path, PATH_MAX);
+    static_cast<void>(std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd));
+    const ssize_t size = readlink(link, resolved, PATH_MAX);
     if (size <= 0 || size >= PATH_MAX) {
         return false;
     }
-    path[size] = 0;
+    resolved[size] = 0;
     struct stat opened;
     struct stat named;
-    return fstat(fd, &opened) == 0 && lstat(path, &named) == 0 && IsSameObject(opened, named);
+    return fstat(fd, &opened) == 0 && lstat(resolved, &named) == 0 && IsSameObject(opened, named);
 }
 
 // The same as realpath(), which looks up every element of the path by its whole path.
