@@ -14,13 +14,13 @@
 // What the fuzz targets share.
 
 // Ends the run when a promise is broken; the input that broke it is then a find.
-#define REQUIRE(condition)                                                                       \
-    do {                                                                                         \
-        if (!(condition)) {                                                                      \
-            std::fprintf(stderr, "%s:%d: broken promise: %s\n", __FILE__, __LINE__, #condition); \
-            std::abort();                                                                        \
-        }                                                                                        \
-    } while (false)
+inline void Require(bool kept, const char* promise, const char* file, int line) {
+    if (!kept) {
+        static_cast<void>(std::fprintf(stderr, "%s:%d: broken promise: %s\n", file, line, promise));
+        std::abort();
+    }
+}
+#define REQUIRE(condition) Require(static_cast<bool>(condition), #condition, __FILE__, __LINE__)
 
 // A folder of one's own in memory, removed with all it holds when the process ends well.
 class Scratch {

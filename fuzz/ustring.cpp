@@ -15,10 +15,10 @@
 
 namespace {
 
-typedef std::size_t Size;
+using Size = std::size_t;
 template <typename Unit>
 using Text = std::basic_string<Unit>;
-typedef Text<unsigned short> Units;
+using Units = Text<unsigned short>;
 
 const Size kMaxLength = 2000;  // bytes; a longer text is emptied
 const Size npos = std::string::npos;
@@ -39,7 +39,7 @@ class Program {
     template <typename Unit>
     Unit unit() {
         const unsigned high = sizeof(Unit) > 1 ? byte() << 8 : 0;
-        return static_cast<Unit>(std::max(high | byte(), 1u));
+        return static_cast<Unit>(std::max(high | byte(), 1U));
     }
     // A text: its length, then its units.
     template <typename Unit>
@@ -57,7 +57,7 @@ class Program {
 // Converts between UTF-8 and UTF-16; false for what is ill-formed.
 template <typename From, typename To>
 bool Convert(const From& from, To& to) {
-    static const iconv_t converter =
+    static auto* const converter =
         sizeof from[0] == 1 ? iconv_open("UTF-16LE", "UTF-8") : iconv_open("UTF-8", "UTF-16LE");
     iconv(converter, nullptr, nullptr, nullptr, nullptr);  // forgets an earlier failure
     to.resize(4 * from.size());
@@ -106,6 +106,7 @@ struct State {
 template <typename Unit>
 struct Change {
     template <typename Way>
+    // NOLINTNEXTLINE(google-explicit-constructor): each row of the table below is a way alone
     Change(Way way) : subject(way), model(way) {}
 
     void (*subject)(ustring& s, const Unit* x, Size n);
@@ -163,7 +164,7 @@ void ChangeByStdString(State& s) {
     const std::string x = s.program.text<char>();
     const std::string longer = x + std::string("\0rest", 5);
     way == 0   ? s.a.text = longer
-    : way == 1 ? s.a.text = ustring(std::string_view(longer).substr(0, x.size()))
+    : way == 1 ? s.a.text = ustring(std::string_view(longer.data(), x.size()))
     : way == 2 ? s.a.text = ustring(longer)
                : s.a.text += longer;
     s.a.model = (way == 3 ? s.a.model : std::string()) + x;
@@ -197,7 +198,7 @@ void ChangeByPart(State& s) {
 #define CHECK_SEARCH(name, forward)                                                      \
     {                                                                                    \
         const auto expected = [&](const std::string& needle) {                           \
-            const bool nowhere = model.empty() || (forward && pos >= model.size());      \
+            const bool nowhere = model.empty() || ((forward) && pos >= model.size());    \
             return nowhere ? npos : model.name(needle, std::min(pos, model.size() - 1)); \
         };                                                                               \
         REQUIRE(text.name(ustring(x), pos) == expected(x));                              \
