@@ -8,6 +8,6 @@
 int main(int argc, char** argv) {
     const QApplication app(argc, argv);
     const QProgressDialog dialog;
-    QTimer::singleShot(0, &app, &QCoreApplication::quit);
+    QTimer::singleShot(0, &app, SLOT(quit()));
     return QApplication::exec();
 }

@@ -85,7 +85,7 @@ long PeakMemory() {
 int main(int argc, char** argv) {
     const auto operation = argc >= 3 ? kOperations.find(argv[1]) : kOperations.end();
     if (operation == kOperations.end()) {
-        std::fprintf(stderr, "usage: bench-files OPERATION PATH [DESTINATION]\n");
+        static_cast<void>(std::fputs("usage: bench-files OPERATION PATH [DESTINATION]\n", stderr));
         return 2;
     }
     StrTable::InitStrTable();

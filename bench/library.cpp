@@ -22,6 +22,7 @@
 namespace {
 
 const ustring log_component("bench_debug");
+std::string spdlog_file;  // beside the one of our own logger
 
 const char kFolder[] = "/home/user/.Tarnwell/Tarnwell.app/Contents/Resources";
 const char kName[] = "images/ico_72_tarnwell.png";
@@ -40,8 +41,7 @@ void LogWritten(benchmark::State& state) {
 BENCHMARK(LogWritten);
 
 void LogWritten_spdlog(benchmark::State& state) {
-    static const auto logger =
-        spdlog::basic_logger_mt("written", std::string(std::getenv("BENCH_LOG")) + ".spdlog");
+    static const auto logger = spdlog::basic_logger_mt("written", spdlog_file);
     logger->set_pattern("%b %d %H:%M:%S %v");
     logger->flush_on(spdlog::level::trace);
     for (auto _ : state) {
@@ -77,8 +77,7 @@ void LogDropped_lock_and_lookup(benchmark::State& state) {
 BENCHMARK(LogDropped_lock_and_lookup);
 
 void LogDropped_spdlog(benchmark::State& state) {
-    static const auto logger =
-        spdlog::basic_logger_mt("dropped", std::string(std::getenv("BENCH_LOG")) + ".spdlog");
+    static const auto logger = spdlog::basic_logger_mt("dropped", spdlog_file);
     for (auto _ : state) {
         logger->debug(" org path [{}]", kFolder);
     }
@@ -210,9 +209,10 @@ BENCHMARK(Compose_QString);
 int main(int argc, char** argv) {
     const char* const log = std::getenv("BENCH_LOG");
     if (log == nullptr || Logger::Initialize(Logger::TYPE_FILE, log, "", 3) != 0) {
-        std::fprintf(stderr, "bench-library: BENCH_LOG must name a log file\n");
+        static_cast<void>(std::fputs("bench-library: BENCH_LOG must name a log file\n", stderr));
         return 2;
     }
+    spdlog_file = std::string(log) + ".spdlog";
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
