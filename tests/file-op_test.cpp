@@ -353,6 +353,30 @@ TEST_F(FileOpTest, NeitherDepthNorWidthHasALimit) {
     EXPECT_FALSE(Exists(other_volume_ / "tree"));
 }
 
+// Moves a folder of the tree away while one that is far below it is copied.
+class MovesAway : public FSCopyListener {
+  public:
+    void onFolder(const char*, const char*) override {
+        EXPECT_TRUE(++folders != 25 || rename("tree/d/d/d", "moved") == 0);
+    }
+    void onNoFolder(const char*) override {}
+    void onUnlisted(const char*) override {}
+    void onSpecial(const char*, std::int32_t) override {}
+    void onFailure(const char*, const char* dst) override { failed.emplace_back(dst); }
+
+    int folders = 0;
+    std::vector<std::string> failed;
+};
+
+TEST_F(FileOpTest, ACopyEndsWhereItsWayBackIsGone) {
+    MakeDeepTree("tree", 30);
+    MovesAway mover;
+    const std::string log =
+        CaptureStderr([&] { EXPECT_EQ(FSCopyTree("tree", "copy", mover), -1); });
+    EXPECT_TRUE(HasOneLine(log, "CopyFile: open(tree/d/d/.): Stale file handle")) << log;
+    EXPECT_EQ(mover.failed, (std::vector<std::string>{"copy/d/d/d", "copy/d/d", "copy/d"}));
+}
+
 TEST_F(FileOpTest, ListsFolders) {
     for (const int flags : {0, static_cast<int>(DIR_OPEN_STAT)}) {
         SCOPED_TRACE(flags);

@@ -5,6 +5,7 @@
 
 #include <archive_entry.h>
 
+#include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/extractor.h"
@@ -96,28 +97,40 @@ TEST_F(CopyTest, EveryLevelReportsAFailure) {
 }
 
 TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
+    MakeFile(folder_ / "src/closed/file");
     MakeFile(folder_ / "src/file");
-    chmod((folder_ / "src").c_str(), 0);
-    chmod(folder_.path().c_str(), 0777);
+    MakeFolder(folder_ / "dst");
+    chmod((folder_ / "src/closed").c_str(), 0);
+    chmod((folder_ / "dst").c_str(), 0333);  // where that doesn't matter
     {
         const AsNobody nobody;
         EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
     }
     EXPECT_TRUE(HasOneLine(log_, "[WARNING] tarnwell-service(")) << log_;
     EXPECT_TRUE(HasOneLine(log_, "failed to create handle  for src"));
-    EXPECT_TRUE(Exists(folder_ / "dst"));
-    chmod((folder_ / "src").c_str(), 0755);
+    chmod((folder_ / "src/closed").c_str(), 0755);
+    chmod((folder_ / "dst").c_str(), 0755);
+    EXPECT_TRUE(Exists(folder_ / "dst/closed"));
+    EXPECT_TRUE(Exists(folder_ / "dst/file"));
 }
 
 TEST_F(CopyTest, ADeepTreeNeedsFewDescriptors) {
-    MakeDeepTree(folder_ / "src", 1000);
+    std::string path = folder_ / "src";
+    for (int level = 0; level < 50; ++level, path += "/d") {
+        MakeFile(path + "/before", path);
+        MakeFile(path + "/what comes after", path);
+    }
+    MakeDeepTree(folder_ / "long/src", 3000);  // no path leads to its bottom
     const FewDescriptors few;
     EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
-    std::string bottom = folder_ / "dst/";
-    for (int level = 0; level < 1000; ++level) {
-        bottom += "d/";
+    EXPECT_EQ(Tree(folder_ / "dst"), Tree(folder_ / "src"));
+    EXPECT_EQ(copy(folder_ / "long/src", folder_ / "long/dst"), 0);
+    ASSERT_EQ(chdir((folder_ / "long/dst").c_str()), 0);
+    for (int level = 0; level < 3000; ++level) {
+        ASSERT_EQ(chdir("d"), 0);
     }
-    EXPECT_TRUE(Exists(bottom + "file"));
+    EXPECT_TRUE(Exists("file"));
+    EXPECT_EQ(FSRemove(folder_ / "long", false), 0);
 }
 
 class ExtractorTest : public testing::Test {

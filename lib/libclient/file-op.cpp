@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "lib/libclient/folder-chain.h"
 #include "lib/liblogger/log.h"
 #include "lib/libtmpname/tmp_name_gen.h"
 #include "lib/platform/core-services.h"
@@ -24,6 +25,8 @@
 
 namespace {
 
+using file_op::FolderChain;
+using file_op::Place;
 using platform::Descriptor;
 
 const ustring log_component("file_op_debug");
@@ -32,8 +35,7 @@ const std::uint32_t kUnchanged = 0xFFFFFFFF;  // what chown reads as "leave it"
 const std::uint16_t kDefaultMode = 0xFFFF;
 const UInt32 kPathSize = 4096;
 const int kCopySize = 32 * 1024 * 1024;
-const std::size_t kCopyBatch = 32;       // files that are forced to the disk together
-const std::size_t kMaxOpenFolders = 32;  // of one walk, whatever its depth
+const std::size_t kCopyBatch = 32;  // files that are forced to the disk together
 // Of a path that is made. With whole paths the system would walk the same folders again and again.
 const int kElementsPerName = 32;
 
@@ -68,119 +70,16 @@ std::int32_t TypeOfEntry(const dirent& entry) {
     return TypeOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
 }
 
-// Reads the next entry of a stream: 1 and the entry, 0 at the end, -1 with errno set.
-int ReadEntry(DIR* stream, const dirent*& entry) {
-    errno = 0;
-    entry = readdir(stream);
-    return entry != nullptr ? 1 : errno == 0 ? 0 : -1;
+// What stands at a place itself, as its folder's listing told or else the system; unknown, with
+// errno set, when that doesn't say either.
+std::int32_t TypeAt(const Place& place, std::int32_t listed = FILE_TYPE_UNKNOWN) {
+    struct stat status;
+    if (listed == FILE_TYPE_UNKNOWN &&
+        fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
+        return TypeOfMode(status.st_mode);
+    }
+    return listed;
 }
-
-bool IsDotOrDotDot(const char* name) {
-    return name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0));
-}
-
-// An object named relative to an open folder. folder_path is for messages; without it the name is
-// a path of its own.
-struct Place {
-    int folder;
-    const char* name;
-    const std::string* folder_path;
-
-    explicit Place(const ustring& path) : Place(AT_FDCWD, path.c_str()) {}
-    Place(int in_folder, const char* entry)
-        : folder(in_folder), name(entry), folder_path(nullptr) {}
-    Place(int in_folder, const char* entry, const std::string& path_of_folder)
-        : folder(in_folder), name(entry), folder_path(&path_of_folder) {}
-
-    std::string path() const { return folder_path ? *folder_path + "/" + name : name; }
-};
-
-// The folders from the root of a walk down to the current one. Only the innermost few are open, so
-// neither the depth nor the length of the paths is limited; one that was closed is opened again
-// through ".." of its child, and must be the same folder then. Its listing then starts anew, which
-// is right for walks that take away the entries that they have dealt with.
-class FolderChain {
-  public:
-    bool enter(const Place& place) {
-        const int fd =
-            openat(place.folder, place.name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        Level level;
-        if (!open(fd, level)) {
-            return false;
-        }
-        level.name = place.name;
-        level.path_size = path_.size();
-        path_ = place.path();
-        levels_.push_back(std::move(level));
-        if (levels_.size() > kMaxOpenFolders) {
-            levels_[levels_.size() - 1 - kMaxOpenFolders].stream.reset();
-        }
-        return true;
-    }
-
-    // Back to the folder that holds the current one, or out of the walk; false when it can't be
-    // opened again.
-    bool leave() {
-        Level left = std::move(levels_.back());
-        levels_.pop_back();
-        path_.resize(left.path_size);
-        name_left_ = std::move(left.name);
-        if (levels_.empty() || levels_.back().stream != nullptr) {
-            return true;
-        }
-        Level& parent = levels_.back();
-        Level reopened;
-        if (!open(openat(dirfd(left.stream.get()), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC),
-                  reopened) ||
-            reopened.device != parent.device || reopened.inode != parent.inode) {
-            return false;
-        }
-        parent.stream = std::move(reopened.stream);
-        return true;
-    }
-
-    // The next entry but "." and ".."; null at the end of the folder and after a read error.
-    const dirent* next() {
-        const dirent* entry = nullptr;
-        while (ReadEntry(levels_.back().stream.get(), entry) > 0) {
-            if (!IsDotOrDotDot(entry->d_name)) {
-                return entry;
-            }
-        }
-        return nullptr;
-    }
-
-    bool empty() const { return levels_.empty(); }
-    const std::string& name_left() const { return name_left_; }
-    Place at(const char* name) const {
-        return Place(dirfd(levels_.back().stream.get()), name, path_);
-    }
-
-  private:
-    struct Level {
-        platform::DirStream stream;
-        dev_t device = 0;
-        ino_t inode = 0;
-        std::string name;           // in the folder that holds it
-        std::size_t path_size = 0;  // of that folder's path
-    };
-
-    // Takes the descriptor over, a negative one too.
-    static bool open(int fd, Level& level) {
-        struct stat status;
-        level.stream = platform::OpenStream(fd);
-        if (level.stream == nullptr || fstat(fd, &status) != 0) {
-            return false;
-        }
-        level.device = status.st_dev;
-        level.inode = status.st_ino;
-        return true;
-    }
-
-    std::vector<Level> levels_;
-    std::string path_;  // of the current folder, for messages
-    std::string name_left_;
-};
 
 int FailCopy(const char* operation, const std::string* path = nullptr) {
     const int error = errno;
@@ -308,21 +207,191 @@ int RefuseNonFolder(const char* path, std::int32_t type) {
     return -1;
 }
 
-// Makes one folder inside a walk; one that is there already will do.
+int RefuseUnexamined(const char* path) {
+    LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'\n", path);
+    return -1;
+}
+
+// FSMKDir for one folder inside a walk.
 int MakeFolder(const Place& place) {
     if (mkdirat(place.folder, place.name, 0777) == 0) {
         // As everywhere, failing to hand the folder over is no failure of making it.
         static_cast<void>(fchownat(place.folder, place.name, uid, gid, 0) == 0);
         return 0;
     }
-    struct stat status;
-    if (errno != EEXIST || fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-        return -2;
+    const std::int32_t type = TypeAt(place);
+    if (type == FILE_TYPE_UNKNOWN) {
+        return errno == ENOENT ? -2 : RefuseUnexamined(place.path().c_str());
     }
-    return S_ISDIR(status.st_mode)
-               ? 0
-               : RefuseNonFolder(place.path().c_str(), TypeOfMode(status.st_mode));
+    return type == FILE_TYPE_DIR ? 0 : RefuseNonFolder(place.path().c_str(), type);
 }
+
+int FailOpenDir(const char* path) {
+    LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n", path, strerror(errno));
+    return -1;
+}
+
+int FailReadDir(const char* path) {
+    LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n", path, strerror(errno));
+    return -1;
+}
+
+// Copies files as FSCopy does, but forces them to the disk a batch at a time, which takes far less
+// time than one by one. Every file is there, or its failure has been told, when sync() returns.
+class CopyBatch {
+  public:
+    CopyBatch() = default;
+    ~CopyBatch() { static_cast<void>(sync()); }
+    CopyBatch(const CopyBatch&) = delete;
+    CopyBatch& operator=(const CopyBatch&) = delete;
+
+    // Returns also what sync() does.
+    int copy(const Place& src, const Place& dst) {
+        Descriptor destination(-1);
+        const int result = CopyContent(OpenSource(src), src, dst, destination);
+        if (destination.get() >= 0) {
+            platform::StartWriting(destination.get());
+            copied_.push_back(std::move(destination));
+        }
+        return result == 0 && copied_.size() >= kCopyBatch ? sync() : result;
+    }
+
+    // Returns 0, or FSCopy's result.
+    int sync() {
+        int result = 0;
+        for (Descriptor& file : copied_) {
+            result = FinishCopy(file, result);
+        }
+        copied_.clear();
+        return result;
+    }
+
+  private:
+    std::vector<Descriptor> copied_;
+};
+
+// One run of FSCopyTree. The two chains are at the same level between the steps, the listings too.
+class TreeCopy {
+  public:
+    explicit TreeCopy(FSCopyListener& listener) : listener_(listener) {}
+
+    int copy(const ustring& src, const ustring& dst) {
+        const Place from(src);
+        const Place to(dst);
+        const std::int32_t type = TypeAt(from);
+        if (!(type == FILE_TYPE_DIR ? enter(from, to, FSMKDir(dst, true))
+                                    : copyFile(from, to, type))) {
+            return -1;
+        }
+        while (!listings_.empty()) {
+            if (!step()) {
+                return -1;
+            }
+        }
+        return batch_.sync() == 0 ? 0 : -1;
+    }
+
+  private:
+    struct Entry {
+        std::string name;
+        std::int32_t type;
+    };
+
+    // The rest of a folder, from the last entry to the next one.
+    using Listing = std::vector<Entry>;
+
+    // Copies the next entry of the current folder, or leaves the folder.
+    bool step() {
+        if (listings_.back().empty()) {
+            return leave() || fail(from_.name_left());
+        }
+        const Entry entry = std::move(listings_.back().back());
+        listings_.back().pop_back();
+        const Place src = from_.at(entry.name.c_str());
+        const Place dst = to_.at(entry.name.c_str());
+        const std::int32_t type = TypeAt(src, entry.type);
+        return (type == FILE_TYPE_DIR ? copyFolder(src, dst) : copyFile(src, dst, type)) ||
+               fail(entry.name);
+    }
+
+    bool copyFolder(const Place& src, const Place& dst) {
+        listener_.onFolder(src.path().c_str(), dst.path().c_str());
+        return enter(src, dst, MakeFolder(dst));
+    }
+
+    // Makes a folder and its copy, of which made is FSMKDir's result, the current ones.
+    bool enter(const Place& src, const Place& dst, int made) {
+        if (made < 0 || !(to_.enter(dst) || FailOpen(dst) == 0)) {
+            listener_.onNoFolder(dst.path().c_str());
+            return false;
+        }
+        if (!from_.enter(src)) {
+            FailOpenDir(src.path().c_str());
+            listener_.onUnlisted(src.path().c_str());
+            return to_.leave();
+        }
+        listings_.push_back(list());
+        return true;
+    }
+
+    // The entries of the current folder, all of them before the first is copied: what is copied may
+    // lead to new ones.
+    Listing list() {
+        Listing entries;
+        const dirent* entry = nullptr;
+        int result = 0;
+        while ((result = from_.read(entry)) > 0) {
+            entries.push_back({entry->d_name, TypeOfEntry(*entry)});
+        }
+        if (result < 0) {
+            FailReadDir(from_.path().c_str());
+        }
+        std::reverse(entries.begin(), entries.end());
+        return entries;
+    }
+
+    bool leave() {
+        listings_.pop_back();
+        const bool source = from_.leave() || FailOpen(from_.at(".")) == 0;
+        const bool destination = to_.leave() || FailOpen(to_.at(".")) == 0;
+        return source && destination;
+    }
+
+    // Opening a pipe could wait for ever, so the type is looked at first, for a link that of its
+    // target.
+    bool copyFile(const Place& src, const Place& dst, std::int32_t type) {
+        struct stat status;
+        if (type == FILE_TYPE_LNK && fstatat(src.folder, src.name, &status, 0) == 0) {
+            type = TypeOfMode(status.st_mode);
+        }
+        if (type == FILE_TYPE_DEV || type == FILE_TYPE_FIFO || type == FILE_TYPE_SOCK) {
+            listener_.onSpecial(src.path().c_str(), type);
+            return false;
+        }
+        return batch_.copy(src, dst) == 0;
+    }
+
+    // Tells of an entry of the current folder, and of each folder on the way out of the walk, that
+    // it isn't copied.
+    bool fail(std::string name) {
+        for (;;) {
+            listener_.onFailure(from_.at(name.c_str()).path().c_str(),
+                                to_.at(name.c_str()).path().c_str());
+            from_.leave();
+            to_.leave();
+            if (from_.empty()) {
+                return false;
+            }
+            name = from_.name_left();
+        }
+    }
+
+    FSCopyListener& listener_;
+    CopyBatch batch_;
+    FolderChain from_;
+    FolderChain to_{FolderChain::Pass};
+    std::vector<Listing> listings_;  // of the folders from the first to the current one
+};
 
 // What a rename that the system refused means to FSRename's caller; 0: copy and delete instead.
 int RenameRefused() {
@@ -385,15 +454,7 @@ int MoveFolder(const ustring& src, const ustring& dst, bool exact) {
 // Deletes an entry that is no folder; a folder becomes the current one of the walk.
 bool RemoveEntry(const dirent& entry, FolderChain& chain) {
     const Place place = chain.at(entry.d_name);
-    std::int32_t type = TypeOfEntry(entry);
-    if (type == FILE_TYPE_UNKNOWN) {
-        struct stat status;
-        if (fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-            return errno == ENOENT;
-        }
-        type = TypeOfMode(status.st_mode);
-    }
-    if (type == FILE_TYPE_DIR) {
+    if (TypeAt(place, TypeOfEntry(entry)) == FILE_TYPE_DIR) {
         chain.enter(place);  // one that can't be opened is passed over
         return true;
     }
@@ -598,24 +659,8 @@ int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
     return CopyFile(Place(src), Place(dst), remove_src);
 }
 
-int FSCopyBatch::copy(const ustring& src, const ustring& dst) {
-    const Place from(src);
-    Descriptor destination(-1);
-    const int result = CopyContent(OpenSource(from), from, Place(dst), destination);
-    if (destination.get() >= 0) {
-        platform::StartWriting(destination.get());
-        copied_.push_back(std::move(destination));
-    }
-    return result == 0 && copied_.size() >= kCopyBatch ? sync() : result;
-}
-
-int FSCopyBatch::sync() {
-    int result = 0;
-    for (Descriptor& file : copied_) {
-        result = FinishCopy(file, result);
-    }
-    copied_.clear();
-    return result;
+int FSCopyTree(const ustring& src, const ustring& dst, FSCopyListener& listener) {
+    return TreeCopy(listener).copy(src, dst);
 }
 
 int FSRename(const ustring& src, const ustring& dst, bool exact) {
@@ -647,8 +692,7 @@ int FSMKDir(const ustring& path, bool parents) {
     }
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'\n", path.c_str());
-        return -1;
+        return RefuseUnexamined(path.c_str());
     }
     if (info.exists) {
         return info.type == FILE_TYPE_DIR ? 0 : RefuseNonFolder(path.c_str(), info.type);
@@ -741,9 +785,7 @@ int FSUTime(const ustring& path, long atime, long mtime) {
 int FSOpenDir(const ustring& path, std::int32_t flags, DIR_HANDLE& handle) {
     DIR* const stream = opendir(path.c_str());
     if (stream == nullptr) {
-        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
-                strerror(errno));
-        return -1;
+        return FailOpenDir(path.c_str());
     }
     handle.dir.reset(stream);
     handle.path = path;
@@ -754,10 +796,9 @@ int FSOpenDir(const ustring& path, std::int32_t flags, DIR_HANDLE& handle) {
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     const dirent* read = nullptr;
     errno = EBADF;
-    const int result = handle.dir != nullptr ? ReadEntry(handle.dir.get(), read) : -1;
+    const int result = handle.dir != nullptr ? file_op::ReadEntry(handle.dir.get(), read) : -1;
     if (result < 0) {
-        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
-                strerror(errno));
+        FailReadDir(handle.path.c_str());
     }
     if (result <= 0) {
         return result;

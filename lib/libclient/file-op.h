@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <ctime>
-#include <vector>
 
 #include "lib/platform/handles.h"
 #include "ustring/ustring.h"
@@ -101,21 +100,29 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
 // for a full disk or an exhausted quota, -1 for any other failure.
 int FSCopy(const ustring& src, const ustring& dst, bool remove_src);
 
-// Copies files as FSCopy does, but forces them to the disk a batch at a time, which takes far less
-// time than one by one. Every file is there, or its failure has been told, when sync() returns.
-class FSCopyBatch {
+// Is told what FSCopyTree meets, with the paths that it is at; they are valid during the call.
+class FSCopyListener {
   public:
-    FSCopyBatch() = default;
-    ~FSCopyBatch() { static_cast<void>(sync()); }
-    FSCopyBatch(const FSCopyBatch&) = delete;
-    FSCopyBatch& operator=(const FSCopyBatch&) = delete;
+    FSCopyListener() = default;
+    virtual ~FSCopyListener() = default;
+    FSCopyListener(const FSCopyListener&) = delete;
+    FSCopyListener& operator=(const FSCopyListener&) = delete;
 
-    int copy(const ustring& src, const ustring& dst);  // returns also what sync() does
-    int sync();                                        // 0, or FSCopy's result
-
-  private:
-    std::vector<platform::Descriptor> copied_;
+    virtual void onFolder(const char* src, const char* dst) = 0;  // comes next; not the first one
+    virtual void onNoFolder(const char* dst) = 0;                 // it can't be made
+    virtual void onUnlisted(const char* src) = 0;  // can't be listed: is taken as empty
+    virtual void onSpecial(const char* src, std::int32_t type) = 0;  // a pipe, socket or device
+    // An entry of a folder isn't copied; afterwards once more for each folder above it but the
+    // first.
+    virtual void onFailure(const char* src, const char* dst) = 0;
 };
+
+// Copies a file as FSCopy does, or a folder with everything below it. An existing folder is merged
+// into; links in the source are followed to files; pipes, sockets and devices are refused. The
+// files are forced to the disk a batch at a time, which takes far less time than one by one. Depth
+// and size of a tree are not limited. dst must not lie in src. Not atomic: a failure ends the copy
+// and leaves what was copied. Returns -1 for it.
+int FSCopyTree(const ustring& src, const ustring& dst, FSCopyListener& listener);
 
 // Moves src to dst. On one volume this is atomic and replaces an existing file or empty folder.
 // Across volumes it copies and deletes, entry by entry: a file replaces a file, a folder is merged
