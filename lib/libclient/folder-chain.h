@@ -52,7 +52,8 @@ class FolderChain {
         Pass  // objects in the folders are named, which takes no right to read them
     };
 
-    explicit FolderChain(Use use = List) : access_(use == Pass ? kPassAccess : O_RDONLY) {}
+    explicit FolderChain(Use use = List)
+        : access_(use == Pass ? platform::kOpenToPass : O_RDONLY) {}
 
     // On failure, with errno set, the current folder stays.
     bool enter(const Place& place) {
@@ -122,14 +123,6 @@ class FolderChain {
 
   private:
     static const std::size_t kMaxOpen = 16;  // of one chain; a walk can have two
-
-#if defined(O_PATH)
-    static const int kPassAccess = O_PATH;
-#elif defined(O_SEARCH)
-    static const int kPassAccess = O_SEARCH;
-#else
-    static const int kPassAccess = O_RDONLY;
-#endif
 
     struct Level {
         platform::Descriptor folder{-1};  // until its listing begins

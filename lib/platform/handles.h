@@ -2,6 +2,7 @@
 #define LIB_PLATFORM_HANDLES_H
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <memory>
@@ -42,6 +43,13 @@ class Descriptor {
   private:
     int fd_;
 };
+
+// How a folder is opened only to name what is in it, for which it needn't be readable.
+#ifdef __APPLE__
+const int kOpenToPass = O_SEARCH;
+#else
+const int kOpenToPass = O_PATH;
+#endif
 
 struct DirCloser {
     void operator()(DIR* stream) const { static_cast<void>(closedir(stream)); }
