@@ -16,6 +16,7 @@
 #include "lib/libclient/folder-chain.h"
 #include "lib/liblogger/log.h"
 #include "lib/libtmpname/tmp_name_gen.h"
+#include "lib/platform/copy-range.h"
 #include "lib/platform/core-services.h"
 #include "lib/platform/durability.h"
 #include "lib/platform/file-system-type.h"
@@ -116,7 +117,26 @@ int WriteAll(int fd, const char* bytes, std::size_t size) {
     return 0;
 }
 
+// Lets the system copy, which needn't bring the bytes into this process. false when something may
+// be left to copy.
+bool CopyWithinSystem(int from, int to) {
+    bool copied = false;
+    for (;;) {
+        const ssize_t size = platform::CopyRange(from, to, kCopySize);
+        if (size <= 0) {
+            return size == 0 && copied;
+        }
+        if (size == kCopySize) {
+            platform::StartWriting(to);  // goes on while the next chunk is copied
+        }
+        copied = true;
+    }
+}
+
 int CopyBytes(int from, int to) {
+    if (CopyWithinSystem(from, to)) {
+        return 0;
+    }
     struct Free {
         void operator()(char* memory) const { std::free(memory); }
     };

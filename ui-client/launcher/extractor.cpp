@@ -25,7 +25,7 @@ const ustring log_component("extractor_debug");
 const std::size_t kBlockSize = 10240;  // bytes read from the archive file at a time
 // Bytes of a file that is worth a call of its own, to be on its way to the disk while the next ones
 // are unpacked.
-const la_int64_t kLargeFile = 65536;
+const la_int64_t kLargeFile = 524288;
 const int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
