@@ -80,7 +80,7 @@ class SmallDisk {
     bool mounted_;
 };
 
-// Waits until the condition holds; false after ten seconds.
+// Waits until the condition holds; false after a minute.
 bool WaitFor(const std::function<bool()>& condition);
 
 // The lines of a text that hold a fragment.
