@@ -31,19 +31,6 @@ DEPTHS = (250, 500, 1000)
 
 # == Data
 
-def write_tree(root, files, folders, sizes, content):
-    names = [root / "Contents" / "Resources" / f"part{i:02d}" for i in range(folders)]
-    for name in names:
-        name.mkdir(parents=True)
-    for i in range(files):
-        path = names[i % folders] / f"file{i:06d}.bin"
-        path.write_bytes(content(sizes[i]))
-    (root / "Contents" / "MacOS").mkdir()
-    client = root / "Contents" / "MacOS" / "tarnwell-ui"
-    shutil.copy("/bin/true", client)
-    (root / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
-
-
 def make_application(root):
     """An application of a real one's size: few large files, many small ones, half of them code and
     text that shrinks to a half and less, half of them pictures and the like that don't."""
@@ -57,7 +44,14 @@ def make_application(root):
         chosen = rng.choices(words, cum_weights=range(1, 4001), k=max(1, size // 6))
         return (packed + b"".join(chosen) * 2)[:size]
 
-    write_tree(root, TREE_FILES, TREE_FOLDERS, sizes, content)
+    folders = [root / "Contents" / "Resources" / f"part{i:02d}" for i in range(TREE_FOLDERS)]
+    for folder in folders:
+        folder.mkdir(parents=True)
+    for i, size in enumerate(sizes):
+        (folders[i % TREE_FOLDERS] / f"file{i:06d}.bin").write_bytes(content(size))
+    (root / "Contents" / "MacOS").mkdir()
+    shutil.copy("/bin/true", root / "Contents" / "MacOS" / "tarnwell-ui")
+    (root / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
 
 
 def pack(root, archive):
