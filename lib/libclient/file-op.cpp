@@ -548,9 +548,10 @@ int EnsureFolder(const Place& place, bool last, bool force, mode_t mode) {
     return 0;
 }
 
-// Opens the folder that the next ones are named from. One that can't be read isn't opened.
+// Opens the folder that the next ones are named from; without it, they keep their longer names.
 bool MoveTo(const Place& place, Descriptor& base) {
-    const int fd = openat(place.folder, place.name, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int fd =
+        openat(place.folder, place.name, platform::kOpenToPass | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0) {
         base.reset(fd);
     }
