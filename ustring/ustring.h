@@ -163,11 +163,13 @@ class ustring {
     static ustring normalize(const ustring& source, normalization_form form);
 
   private:
-    void init();
+    ustring(size_type data_need, size_type wdata_need);
+    void init(size_type new_data_cap, size_type new_wdata_cap);
     int convert_from_data() const;
     int convert_from_wdata();
-    void realloc_data(size_type need);
-    void realloc_wdata(size_type need) const;
+    enum Content { Kept, Replaced };
+    void realloc_data(size_type need, Content content = Kept);
+    void realloc_wdata(size_type need, Content content = Kept) const;
     void clear_data();
     void clear_wdata() const;
 
