@@ -1,6 +1,7 @@
 #include "ui-client/launcher/extractor.h"
 
 #include <archive_entry.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -11,8 +12,10 @@
 #include <string_view>
 #include <utility>
 
+#include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/durability.h"
+#include "lib/platform/handles.h"
 #include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/translations/str-table.h"
 
@@ -25,7 +28,8 @@ const ustring log_component("extractor_debug");
 const std::size_t kBlockSize = 10240;  // bytes read from the archive file at a time
 // Bytes of a file that is worth a call of its own, to be on its way to the disk while the next ones
 // are unpacked.
-const la_int64_t kLargeFile = 524288;
+const la_int64_t kLargeFile = 131072;
+const int kOpenFolder = platform::kOpenToPass | O_DIRECTORY | O_CLOEXEC;
 const int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
@@ -72,11 +76,6 @@ Reader OpenForListing(const Extractor& extractor) {
     return reader;
 }
 
-bool IsLink(const std::string& path) {
-    struct stat status;
-    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-}
-
 bool IsNode(archive_entry* entry) {
     const auto type = archive_entry_filetype(entry);
     return type == AE_IFCHR || type == AE_IFBLK || type == AE_IFIFO || type == AE_IFSOCK;
@@ -92,6 +91,14 @@ class Target {
 
     // Why an entry must not be written; null when it may. Asked of every entry, before rewrite().
     const char* refusal(archive_entry* entry);
+
+    // Makes the folder that the entry asked of last stands in. The writer would make it as well,
+    // but in a time that grows with the square of its depth. It also tells of what fails.
+    void makeFolder() const {
+        if (!missing_.empty()) {
+            FSMKDir(missing_, true);
+        }
+    }
 
     // Puts the entry's path, and the target of a hard link, below the destination; false when the
     // entry has no name.
@@ -116,12 +123,14 @@ class Target {
     }
 
     bool resolve(std::string_view name, std::string& path) const;
-    bool isFree(const std::string& folder);
+    enum Way { Free, Missing, Linked };
+    Way wayTo(const std::string& folder);
     const char* linkRefusal(const char* target);
 
     const std::string root_;  // ends in "/"
     std::string path_;
-    std::string checked_;  // the folder that isFree() saw last
+    std::string checked_;  // the folder that wayTo() found last
+    ustring missing_;      // the folder that makeFolder() has to make
 };
 
 // The path of a name as the writer reads it: without empty and "." elements, every element ending
@@ -141,19 +150,36 @@ bool Target::resolve(std::string_view name, std::string& path) const {
     return true;
 }
 
-// Whether no element of a folder's path below the destination is a link. Elements that don't exist
-// will be made as folders. What the path shares with the one before is not looked at again: only a
-// link entry can put a link there, and then the path before is that of the folder it stands in.
-bool Target::isFree(const std::string& folder) {
-    auto end = std::mismatch(checked_.begin(), checked_.end(), folder.begin(), folder.end()).second;
-    while ((end = std::find(end, folder.end(), '/')) != folder.end()) {
-        if (IsLink(std::string(folder.begin(), end))) {
-            return false;
-        }
-        ++end;
+// What the elements of a folder's path below the destination are: no links, or from one of them on
+// not there. What the path shares with the one found before is not looked at again: only a link
+// entry can put a link there, and then the path before is that of the folder it stands in. Each
+// element is looked at from the one before, as whole paths would be walked from the start.
+Target::Way Target::wayTo(const std::string& folder) {
+    const auto shared =
+        std::mismatch(checked_.begin(), checked_.end(), folder.begin(), folder.end()).second;
+    std::size_t start =
+        folder.rfind('/', static_cast<std::size_t>(shared - folder.begin()) - 1) + 1;
+    checked_.resize(start);
+    if (start == folder.size()) {
+        return Free;
     }
-    checked_ = folder;
-    return true;
+    platform::Descriptor base(open(checked_.c_str(), kOpenFolder));
+    while (start < folder.size()) {
+        const std::size_t end = folder.find('/', start);
+        const std::string name = folder.substr(start, end - start);
+        platform::Descriptor next(openat(base.get(), name.c_str(), kOpenFolder | O_NOFOLLOW));
+        if (next.get() < 0) {
+            struct stat status;
+            if (fstatat(base.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+                return Missing;
+            }
+            return S_ISLNK(status.st_mode) ? Linked : Free;
+        }
+        base = std::move(next);
+        start = end + 1;
+        checked_.assign(folder, 0, start);
+    }
+    return Free;
 }
 
 // The same as refusal() for the target of a hard link; the writer tells of one that doesn't exist.
@@ -164,7 +190,7 @@ const char* Target::linkRefusal(const char* target) {
     }
     path.pop_back();
     struct stat status;
-    if (!isFree(path.substr(0, path.rfind('/') + 1))) {
+    if (wayTo(path.substr(0, path.rfind('/') + 1)) == Linked) {
         return "links through a link";
     }
     return lstat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) ? "links to no file"
@@ -174,6 +200,7 @@ const char* Target::linkRefusal(const char* target) {
 const char* Target::refusal(archive_entry* entry) {
     const char* const name = archive_entry_pathname(entry);
     const char* const hardlink = archive_entry_hardlink(entry);
+    missing_.clear();
     const bool folder = archive_entry_filetype(entry) == AE_IFDIR && hardlink == nullptr;
     std::string path;
     if (name == nullptr || !resolve(name, path)) {
@@ -194,8 +221,13 @@ const char* Target::refusal(archive_entry* entry) {
         return "its path is too long";  // the writer would change the working directory
     }
     // The writer takes a link to a folder for the folder, but replaces a link in a file's place.
-    if (!isFree(folder ? path : path.substr(0, path.rfind('/', path.size() - 2) + 1))) {
+    const std::string parent = path.substr(0, path.rfind('/', path.size() - 2) + 1);
+    const Way way = wayTo(folder ? path : parent);
+    if (way == Linked) {
         return "leads through a link";
+    }
+    if (way == Missing && checked_.size() < parent.size()) {
+        missing_ = parent.substr(0, parent.size() - 1);
     }
     return hardlink != nullptr ? linkRefusal(hardlink) : nullptr;
 }
@@ -206,6 +238,7 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, Target&
         LOG_MSG(ERROR, "refused entry '%s': %s\n", archive_entry_pathname(entry), reason);
         return -1;
     }
+    target.makeFolder();
     if (!target.rewrite(entry)) {
         LOG_MSG(ERROR, "archive_entry_pathname failed");
         return -1;
