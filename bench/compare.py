@@ -51,6 +51,8 @@ def make_application(root):
         (folders[i % TREE_FOLDERS] / f"file{i:06d}.bin").write_bytes(content(size))
     (root / "Contents" / "MacOS").mkdir()
     shutil.copy("/bin/true", root / "Contents" / "MacOS" / "tarnwell-ui")
+    (root / "Contents" / "Info.plist").write_text(
+        "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>\n")
     (root / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
 
 
@@ -107,8 +109,12 @@ class Bench:
         self.tool = build / "bench" / "bench-files"
         self.library = build / "bench" / "bench-library"
         self.empty = build / "bench" / "bench-empty-dialog"
-        self.built_bundle = build / "Tarnwell.app"
         self.folder, self.pairs, self.rows = folder, pairs, []
+        self.bundle = shutil.copytree(build / "Tarnwell.app", folder / "bundle" / "Tarnwell.app")
+        self.launcher = self.bundle / "Contents" / "MacOS" / "tarnwell-launcher"
+        self.home = folder / "home"
+        self.environment = {"HOME": str(self.home), "QT_QPA_PLATFORM": "offscreen", "PATH": os.environ["PATH"],
+                            "XDG_RUNTIME_DIR": str(folder), "LANG": "C.UTF-8"}
 
     def pairs_of(self, row, ours, peers, prepare=lambda: None, count=None):
         """Runs both sides in pairs; each returns its seconds, after prepare()."""
@@ -123,10 +129,9 @@ class Bench:
         print("  ".join(row.cells()[:5]), flush=True)
 
     def run_tool(self, *arguments):
-        """Seconds of one operation, measured inside the tool, and the peak memory in KiB."""
+        """Seconds of one operation, measured inside the tool."""
         done = subprocess.run([self.tool, *map(str, arguments)], check=True, capture_output=True, text=True)
-        seconds, memory = done.stdout.split()
-        return float(seconds), int(memory)
+        return float(done.stdout)
 
     @staticmethod
     def timed(*command, **options):
@@ -148,18 +153,28 @@ class Bench:
         subprocess.run(["sync", "-f", path], check=True)
         return path
 
+    def give_launcher(self, package):
+        shutil.copy(package, self.bundle / "Contents" / "Resources" / "package" / "tarnwell.opk")
+        (self.bundle / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
+
+    def peak_memory(self):
+        """KiB of the launcher at the most, while it installs its package."""
+        self.fresh("home").mkdir()
+        process = subprocess.Popen([self.launcher], env=self.environment, stdout=subprocess.DEVNULL,
+                                   stderr=subprocess.DEVNULL)
+        peak = 0
+        while process.poll() is None:
+            for line in pathlib.Path(f"/proc/{process.pid}/status").read_text().splitlines():
+                if line.startswith("VmHWM:"):
+                    peak = int(line.split()[1])
+            time.sleep(0.002)
+        return peak
+
     # == The rows
 
     def upgrade(self, tree, package, limit, label):
-        home = self.folder / "home"
-        app = home / ".Tarnwell" / "Tarnwell.app"
-        bundle = self.folder / "bundle" / "Tarnwell.app"
-        if not bundle.exists():
-            shutil.copytree(self.built_bundle, bundle)
-        shutil.copy(package, bundle / "Contents" / "Resources" / "package" / "tarnwell.opk")
-        (bundle / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=2\n")
-        environment = {"HOME": str(home), "QT_QPA_PLATFORM": "offscreen", "PATH": os.environ["PATH"],
-                       "XDG_RUNTIME_DIR": str(self.folder)}
+        app = self.home / ".Tarnwell" / "Tarnwell.app"
+        self.give_launcher(package)
 
         def prepare():
             self.fresh("home")
@@ -168,7 +183,7 @@ class Bench:
             (app / "Contents" / "Resources" / "INFO").write_text("[Version]\nbuild_version=1\n")
 
         def ours():
-            seconds = self.timed(bundle / "Contents" / "MacOS" / "tarnwell-launcher", env=environment)
+            seconds = self.timed(self.launcher, env=self.environment)
             left = sorted(p.name for p in app.parent.glob("[Tu]*"))
             if "=2" not in (app / "Contents/Resources/INFO").read_text() or left != ["Tarnwell.app"]:
                 sys.exit(f"the launcher did not upgrade: {left}")
@@ -179,8 +194,8 @@ class Bench:
                       lambda: self.timed("sh", "-c", script, "sh", app), prepare)
         if label == "zip":
             self.pairs_of(Row("a run with nothing to do", "an empty Qt program", 1.10),
-                          lambda: self.timed(bundle / "Contents/MacOS/tarnwell-launcher", env=environment),
-                          lambda: self.timed(self.empty, env=environment), count=40)
+                          lambda: self.timed(self.launcher, env=self.environment),
+                          lambda: self.timed(self.empty, env=self.environment), count=40)
 
     def unpacking(self, package):
         target = self.folder / "unpacked"
@@ -189,12 +204,12 @@ class Bench:
             self.fresh("unpacked").mkdir()
 
         self.pairs_of(Row("unpacking alone, zip", "`bsdtar -xf`", 0.95),
-                      lambda: self.run_tool("unpack", package, target)[0],
+                      lambda: self.run_tool("unpack", package, target),
                       lambda: self.timed("bsdtar", "-xf", package, "-C", target), prepare)
 
     def removing(self, tree):
         self.pairs_of(Row("`FSRemove` of the tree", "`rm -rf`", 1.0),
-                      lambda: self.run_tool("remove", self.folder / "copy")[0],
+                      lambda: self.run_tool("remove", self.folder / "copy"),
                       lambda: self.timed("rm", "-rf", self.folder / "copy"),
                       lambda: self.copy_of(tree, "copy"))
 
@@ -204,7 +219,7 @@ class Bench:
             large.write_bytes(random.Random(SEED).randbytes(1 << 24) * 64)
         target = self.folder / "copied"
         self.pairs_of(Row("`FSCopy` of 1 GiB", "`cp`, `sync FILE`", 1.0),
-                      lambda: self.run_tool("copy", large, target)[0],
+                      lambda: self.run_tool("copy", large, target),
                       lambda: self.timed("sh", "-c", 'cp "$1" "$2" && sync "$2"', "sh", large, target),
                       lambda: self.fresh("copied"), count=5)
         self.fresh("copied")
@@ -214,12 +229,12 @@ class Bench:
             (small / str(i)).write_bytes(random.Random(i).randbytes(4096))
         each = 'for file in "$1"/*; do cp "$file" "$2" && sync "$2/${file##*/}"; done'
         self.pairs_of(Row("`FSCopy` of 4 KiB, 1,000 times", "`cp`, `sync FILE`", 1.0),
-                      lambda: self.run_tool("copy-each", small, target)[0],
+                      lambda: self.run_tool("copy-each", small, target),
                       lambda: self.timed("sh", "-c", each, "sh", small, target),
                       lambda: self.fresh("copied").mkdir(), count=3)
         whole = 'cp -r "$1" "$2" && find "$2" -type f -exec sync {} +'
         self.pairs_of(Row("`FSCopyPath` of the tree", "`cp -r`, `sync` of all files", 1.0),
-                      lambda: self.run_tool("copy-tree", tree, target)[0],
+                      lambda: self.run_tool("copy-tree", tree, target),
                       lambda: self.timed("sh", "-c", whole, "sh", tree, target),
                       lambda: self.fresh("copied"), count=5)
         self.fresh("copied")
@@ -252,16 +267,18 @@ class Bench:
         for entries, kind in itertools.product(GROWTH, ("zip", "tar.gz")):
             archive = self.fresh("grown")
             write_archive(archive, kind, entries)
+            self.give_launcher(archive)
+            peak = self.peak_memory()
             samples = []
             for _ in range(max(3, 1500 // entries)):
                 target = self.fresh("unpacked")
                 target.mkdir()
-                seconds, peak = self.run_tool("unpack", archive, target)
-                samples.append((seconds / entries, peak, self.run_tool("remove", target)[0] / entries))
+                samples.append((self.run_tool("unpack", archive, target) / entries, peak,
+                                self.run_tool("remove", target) / entries))
             figures[kind, entries] = [statistics.median(column) for column in zip(*samples)]
         for kind in ("zip", "tar.gz"):
             small, large = figures[kind, GROWTH[0]], figures[kind, GROWTH[-1]]
-            for index, what in enumerate(("time per entry, unpacking", "peak memory, unpacking",
+            for index, what in enumerate(("time per entry, unpacking", "peak memory, installing",
                                           "time per entry, removing")):
                 row = Row(f"{what} {kind}", f"{GROWTH[0]} entries (ours {GROWTH[-1]:,})", 1.3)
                 row.ratios.append(large[index] / small[index])
@@ -276,28 +293,31 @@ class Bench:
         root, other = self.fresh("deep"), self.fresh("deep-copy")
         root.mkdir()
         path = root / "/".join(["d"] * depth)
-        if operation == "unpack":
+        if operation.startswith("unpack"):
             archive = self.fresh("deep.zip")
             with zipfile.ZipFile(archive, "w") as file:
-                for i in range(depth):
+                for i in range(depth if operation == "unpack each folder" else 0):
                     file.writestr("d/" * (i + 1), b"")
-            return self.run_tool("unpack", archive, root)[0]
-        made = self.run_tool("make-folders", path)[0]
+                file.writestr("d/" * depth + "file", b"")
+            return self.run_tool("unpack", archive, root)
+        made = self.run_tool("make-folders", path)
         if operation == "make-folders":
             return made
         arguments = {"describe": [path], "copy-tree": [root, other], "remove": [root]}[operation]
-        return self.run_tool(operation, *arguments)[0]
+        return self.run_tool(operation, *arguments)
 
     def depth(self):
-        """What twice the depth costs: 2 is linear, 4 quadratic."""
-        for operation in ("make-folders", "describe", "copy-tree", "remove", "unpack"):
+        """What twice the depth costs: 2 is linear, 4 quadratic. A package with an entry for each folder
+        is itself four times as large then."""
+        for operation in ("make-folders", "describe", "copy-tree", "remove", "unpack", "unpack each folder"):
             times = {}
             for depth in DEPTHS:
                 samples = []
                 for _ in range(5):
                     samples.append(self.deep(operation, depth))
                 times[depth] = min(samples)
-            row = Row(f"depth: `{operation}`", f"{DEPTHS[-2]} deep (ours {DEPTHS[-1]:,})", 2.6)
+            row = Row(f"depth: `{operation}`", f"{DEPTHS[-2]} deep (ours {DEPTHS[-1]:,})",
+                      None if operation == "unpack each folder" else 2.6)
             row.ratios.append(times[DEPTHS[-1]] / times[DEPTHS[-2]])
             row.note = ", ".join(f"{times[d] * 1e3:.3g}" for d in DEPTHS) + " ms"
             self.rows.append(row)
@@ -345,6 +365,8 @@ def own_disk(folder):
         disk = root / "disk"
         disk.mkdir()
         subprocess.run(["mount", "-o", "loop", image, disk], check=True)
+        device = subprocess.run(["findmnt", "-no", "SOURCE", disk], check=True, capture_output=True, text=True)
+        subprocess.run(["losetup", "--direct-io=on", device.stdout.strip()], check=True)
         try:
             yield disk
         finally:

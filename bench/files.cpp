@@ -1,10 +1,9 @@
-// Runs one operation on files and prints how long it took, in seconds, and the peak memory of the
-// process, in KiB. The time that the process needs to start is not part of it.
+// Runs one operation on files and prints how long it took, in seconds. The time that the process
+// needs to start is not part of it.
 
 #include <QString>
 #include <chrono>
 #include <cstdio>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <string>
@@ -67,19 +66,6 @@ const std::map<std::string, std::function<int(const ustring&, const ustring&)>> 
     {"make-folders", MakeFolders},
 };
 
-// What getrusage() tells includes the process that started this one.
-long PeakMemory() {
-    std::ifstream status("/proc/self/status");
-    std::string name;
-    long kib = 0;
-    while (status >> name) {
-        if (name == "VmHWM:") {
-            status >> kib;
-        }
-    }
-    return kib;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -94,6 +80,6 @@ int main(int argc, char** argv) {
     const auto start = std::chrono::steady_clock::now();
     const int result = operation->second(path, destination);
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-    std::printf("%.6f %ld\n", seconds.count(), PeakMemory());
+    std::printf("%.6f\n", seconds.count());
     return result == 0 ? 0 : 1;
 }
