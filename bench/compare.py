@@ -378,7 +378,7 @@ def main():
     parser.add_argument("build", type=pathlib.Path)
     parser.add_argument("report", type=pathlib.Path)
     parser.add_argument("--dir", help="where to work (default: a new file system in a file below build/; takes root)")
-    parser.add_argument("--pairs", type=int, default=7)
+    parser.add_argument("--pairs", type=int, default=11)
     parser.add_argument("--only", default="", help="rows to measure: upgrade, unpack, remove, copy, small, growth, depth")
     options = parser.parse_args()
     chosen = options.only.split(",") if options.only else None
