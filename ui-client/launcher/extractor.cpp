@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <memory>
@@ -123,7 +124,7 @@ class Target {
     }
 
     bool resolve(std::string_view name, std::string& path) const;
-    enum Way { Free, Missing, Linked };
+    enum Way { Free, Missing, Linked, Unknown };
     Way wayTo(const std::string& folder);
     const char* linkRefusal(const char* target);
 
@@ -151,9 +152,10 @@ bool Target::resolve(std::string_view name, std::string& path) const {
 }
 
 // What the elements of a folder's path below the destination are: no links, or from one of them on
-// not there. What the path shares with the one found before is not looked at again: only a link
-// entry can put a link there, and then the path before is that of the folder it stands in. Each
-// element is looked at from the one before, as whole paths would be walked from the start.
+// not there. A file among them is the writer's business. What the path shares with the one found
+// before is not looked at again: only a link entry can put a link there, and then the path before
+// is that of the folder it stands in. Each element is looked at from the one before, as whole paths
+// would be walked from the start.
 Target::Way Target::wayTo(const std::string& folder) {
     const auto shared =
         std::mismatch(checked_.begin(), checked_.end(), folder.begin(), folder.end()).second;
@@ -164,6 +166,9 @@ Target::Way Target::wayTo(const std::string& folder) {
         return Free;
     }
     platform::Descriptor base(open(checked_.c_str(), kOpenFolder));
+    if (base.get() < 0) {
+        return errno == ENOENT ? Missing : Unknown;
+    }
     while (start < folder.size()) {
         const std::size_t end = folder.find('/', start);
         const std::string name = folder.substr(start, end - start);
@@ -171,9 +176,9 @@ Target::Way Target::wayTo(const std::string& folder) {
         if (next.get() < 0) {
             struct stat status;
             if (fstatat(base.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
-                return Missing;
+                return errno == ENOENT ? Missing : Unknown;
             }
-            return S_ISLNK(status.st_mode) ? Linked : Free;
+            return S_ISLNK(status.st_mode) ? Linked : S_ISDIR(status.st_mode) ? Unknown : Free;
         }
         base = std::move(next);
         start = end + 1;
@@ -190,8 +195,9 @@ const char* Target::linkRefusal(const char* target) {
     }
     path.pop_back();
     struct stat status;
-    if (wayTo(path.substr(0, path.rfind('/') + 1)) == Linked) {
-        return "links through a link";
+    const Way way = wayTo(path.substr(0, path.rfind('/') + 1));
+    if (way == Linked || way == Unknown) {
+        return way == Linked ? "links through a link" : "its target can't be looked at";
     }
     return lstat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) ? "links to no file"
                                                                          : nullptr;
@@ -223,8 +229,8 @@ const char* Target::refusal(archive_entry* entry) {
     // The writer takes a link to a folder for the folder, but replaces a link in a file's place.
     const std::string parent = path.substr(0, path.rfind('/', path.size() - 2) + 1);
     const Way way = wayTo(folder ? path : parent);
-    if (way == Linked) {
-        return "leads through a link";
+    if (way == Linked || way == Unknown) {
+        return way == Linked ? "leads through a link" : "its folder can't be opened";
     }
     if (way == Missing && checked_.size() < parent.size()) {
         missing_ = parent.substr(0, parent.size() - 1);
