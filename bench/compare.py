@@ -333,7 +333,8 @@ def describe_machine(folder):
                 return line.split(":", 1)[1].strip()
         return "unknown"
 
-    kind = subprocess.run(["stat", "-f", "-c", "%T", folder], capture_output=True, text=True).stdout.strip()
+    kind = subprocess.run(["findmnt", "-no", "FSTYPE", "--target", folder], capture_output=True,
+                          text=True).stdout.strip()
     return (f"{os.cpu_count()} cores ({first('/proc/cpuinfo', 'model name')}), "
             f"{first('/proc/meminfo', 'MemTotal')} of memory, Linux {platform.release()}, {kind}")
 
