@@ -1,7 +1,7 @@
-// Inflates raw deflate data, and adds up CRC-32 checksums, with ISA-L, which takes little more than
-// half the time of zlib for it. The linker leads libarchive's calls of zlib here (--wrap), and only
-// those: zlib itself is the same for everything else in the process. It also gets what ISA-L isn't
-// for, which is data with a header of zlib's own, and everything where ISA-L isn't installed.
+// Inflates raw deflate data, and adds up CRC-32 checksums, with ISA-L, which takes 0.6 of the time
+// that zlib does. The linker leads libarchive's calls of zlib here (--wrap), and only those: zlib
+// itself is the same for everything else in the process. It also gets what ISA-L isn't for, which
+// is data with a header of zlib's own, and everything where ISA-L isn't installed.
 
 #include <dlfcn.h>
 #include <isa-l/crc.h>
@@ -14,24 +14,18 @@
 #include <new>
 #include <optional>
 
-extern "C" {
-int ZlibInit(z_stream* stream, int window_bits, const char* version,
-             int size) asm("__real_inflateInit2_");
-int ZlibInflate(z_stream* stream, int flush) asm("__real_inflate");
-int ZlibReset(z_stream* stream) asm("__real_inflateReset");
-int ZlibSetDictionary(z_stream* stream, const Bytef* bytes,
-                      uInt size) asm("__real_inflateSetDictionary");
-int ZlibEnd(z_stream* stream) asm("__real_inflateEnd");
-uLong ZlibCrc32(uLong crc, const Bytef* bytes, uInt size) asm("__real_crc32");
+// A function of zlib under the name that the linker gives it, and ours that is called in its place.
+#define LED(type, name, symbol, ...)                    \
+    type Zlib##name(__VA_ARGS__) asm("__real_" symbol); \
+    type name(__VA_ARGS__) asm("__wrap_" symbol)
 
-int Init(z_stream* stream, int window_bits, const char* version,
-         int size) asm("__wrap_inflateInit2_");
-int Inflate(z_stream* stream, int flush) asm("__wrap_inflate");
-int Reset(z_stream* stream) asm("__wrap_inflateReset");
-int SetDictionary(z_stream* stream, const Bytef* bytes,
-                  uInt size) asm("__wrap_inflateSetDictionary");
-int End(z_stream* stream) asm("__wrap_inflateEnd");
-uLong Crc32(uLong crc, const Bytef* bytes, uInt size) asm("__wrap_crc32");
+extern "C" {
+LED(int, Init, "inflateInit2_", z_stream* stream, int window_bits, const char* version, int size);
+LED(int, Inflate, "inflate", z_stream* stream, int flush);
+LED(int, Reset, "inflateReset", z_stream* stream);
+LED(int, SetDictionary, "inflateSetDictionary", z_stream* stream, const Bytef* bytes, uInt size);
+LED(int, End, "inflateEnd", z_stream* stream);
+LED(uLong, Crc32, "crc32", uLong crc, const Bytef* bytes, uInt size);
 }
 
 namespace {
@@ -97,10 +91,10 @@ void Begin(z_stream* stream) {
 // any: all of them are of this call, as what an earlier one has left was too little to go on with.
 // In the middle of a block's header, which is kept behind those bytes, they have to stay.
 void HandBack(inflate_state& inflate, uInt taken) {
-    if (inflate.tmp_in_size > 0) {
+    const uInt bytes = std::min(static_cast<uInt>(std::max(inflate.read_in_length, 0)) / 8, taken);
+    if (bytes == 0 || inflate.tmp_in_size > 0) {
         return;
     }
-    const uInt bytes = std::min(static_cast<uInt>(inflate.read_in_length) / 8, taken);
     inflate.next_in -= bytes;
     inflate.avail_in += bytes;
     inflate.read_in_length -= static_cast<int>(bytes * 8);
