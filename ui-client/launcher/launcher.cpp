@@ -1,5 +1,6 @@
 #include "ui-client/launcher/launcher.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
@@ -15,6 +16,8 @@
 namespace {
 
 const ustring log_component("launcher_debug");
+
+const unsigned long kRest = 8;  // milliseconds, half of what a screen shows a picture for
 
 QFont DialogFont() {
     return QFont(QStringLiteral("Arial"), -1, -1, false);
@@ -140,8 +143,13 @@ void Launcher::Start() {
     emit sigStart();
 }
 
+// Reports come faster than anybody sees them, and waking this thread for each is dear for the one
+// that makes them. So from now on it rests before it waits for the next ones, and takes them
+// together.
 void Launcher::ShowMsgBox() {
     dialog->show();
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+            dialog.get(), [] { QThread::msleep(kRest); });
 }
 
 // The 32-bit product can't overflow before a package has 21 million entries.
