@@ -244,7 +244,7 @@ class Bench:
     def small_operations(self):
         environment = dict(os.environ, BENCH_LOG=str(self.folder / "bench.log"))
         done = subprocess.run(
-            [self.library, "--benchmark_format=json", "--benchmark_repetitions=9", "--benchmark_min_time=0.05",
+            [self.library, "--benchmark_format=json", "--benchmark_repetitions=25", "--benchmark_min_time=0.03",
              "--benchmark_enable_random_interleaving=true"],
             env=environment, check=True, capture_output=True, text=True)
         times = {}
