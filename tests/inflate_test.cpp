@@ -36,10 +36,19 @@ class InflateTest : public testing::Test {
         return data.substr(0, size);
     }
 
-    std::string deflated(const std::string& data, int window_bits = kRaw) {
+    static const Bytef* bytesOf(const std::string& text) {
+        return reinterpret_cast<const Bytef*>(text.data());
+    }
+
+    std::string deflated(const std::string& data, int window_bits = kRaw,
+                         const std::string& dictionary = "") {
         z_stream stream = {};
         const int strategy = below(5) == 0 ? Z_FIXED : Z_DEFAULT_STRATEGY;
-        deflateInit2(&stream, static_cast<int>(below(10)), Z_DEFLATED, window_bits, 8, strategy);
+        const int level = dictionary.empty() ? static_cast<int>(below(10)) : 9;
+        deflateInit2(&stream, level, Z_DEFLATED, window_bits, 8, strategy);
+        if (!dictionary.empty()) {
+            deflateSetDictionary(&stream, bytesOf(dictionary), 32768);
+        }
         std::string packed(deflateBound(&stream, data.size()), 0);
         give(stream, data, 0, data.size());
         stream.next_out = reinterpret_cast<Bytef*>(packed.data());
@@ -132,22 +141,12 @@ TEST_F(InflateTest, KnowsWhatIsNoDeflateData) {
 TEST_F(InflateTest, TakesADictionary) {
     const std::string dictionary = makeData(32768);
     const std::string data = dictionary.substr(1000, 20000);
-    z_stream packer = {};
-    deflateInit2(&packer, 9, Z_DEFLATED, kRaw, 8, Z_DEFAULT_STRATEGY);
-    const auto* const bytes = reinterpret_cast<const Bytef*>(dictionary.data());
-    deflateSetDictionary(&packer, bytes, 32768);
-    std::string packed(deflateBound(&packer, data.size()), 0);
-    give(packer, data, 0, data.size());
-    packer.next_out = reinterpret_cast<Bytef*>(packed.data());
-    packer.avail_out = static_cast<uInt>(packed.size());
-    deflate(&packer, Z_FINISH);
-    packed.resize(packer.total_out);
-    deflateEnd(&packer);
+    const std::string packed = deflated(data, kRaw, dictionary);
     ASSERT_LT(packed.size(), data.size() / 50);
 
     z_stream stream = {};
     ASSERT_EQ(inflateInit2(&stream, kRaw), Z_OK);
-    ASSERT_EQ(inflateSetDictionary(&stream, bytes, 32768), Z_OK);
+    ASSERT_EQ(inflateSetDictionary(&stream, bytesOf(dictionary), 32768), Z_OK);
     EXPECT_TRUE(inflateAll(stream, packed, 1000, 1000).data == data);
     inflateEnd(&stream);
 }

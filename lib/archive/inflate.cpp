@@ -41,14 +41,14 @@ struct Isal {
 
 template <typename Function>
 bool Find(void* library, const char* name, Function& function) {
-    function = library != nullptr ? reinterpret_cast<Function>(dlsym(library, name)) : nullptr;
+    function = reinterpret_cast<Function>(dlsym(library, name));
     return function != nullptr;
 }
 
 std::optional<Isal> LoadIsal() {
     void* const library = dlopen("libisal.so.2", RTLD_LAZY | RTLD_LOCAL);
     Isal isal = {};
-    const bool complete = Find(library, "isal_inflate_init", isal.init) &&
+    const bool complete = library != nullptr && Find(library, "isal_inflate_init", isal.init) &&
                           Find(library, "isal_inflate_reset", isal.reset) &&
                           Find(library, "isal_inflate_set_dict", isal.set_dictionary) &&
                           Find(library, "isal_inflate", isal.inflate) &&
