@@ -18,7 +18,7 @@
 #include "fuzz/support.h"
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
-#include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 namespace {

@@ -20,7 +20,7 @@
 #include "lib/platform/handles.h"
 #include "packaging/app-tree.h"
 #include "ui-client/launcher/extractor.h"
-#include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/notify-adapter.h"
 
 namespace fs = std::filesystem;
 

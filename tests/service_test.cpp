@@ -9,8 +9,8 @@
 #include "lib/liblogger/log.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/extractor.h"
-#include "ui-client/launcher/launcher.h"
 #include "ui-client/launcher/mac/mac-service.h"
+#include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 namespace {

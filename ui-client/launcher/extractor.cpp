@@ -17,7 +17,7 @@
 #include "lib/liblogger/log.h"
 #include "lib/platform/durability.h"
 #include "lib/platform/handles.h"
-#include "ui-client/launcher/launcher.h"
+#include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 #define LOG_SOURCE "extractor"

@@ -1,11 +1,7 @@
 #include "ui-client/launcher/launcher.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QFont>
-#include <QIcon>
 #include <limits>
-#include <utility>
 
 #include "lib/liblogger/log.h"
 #include "ui-client/launcher/mac/mac-service.h"
@@ -17,51 +13,7 @@ namespace {
 
 const ustring log_component("launcher_debug");
 
-const unsigned long kRest = 8;  // milliseconds, half of what a screen shows a picture for
-
-QFont DialogFont() {
-    return QFont(QStringLiteral("Arial"), -1, -1, false);
-}
-
-// The dialog is laid out when it is made, before it has its own font: with the application's being
-// the same one, no other is loaded for that.
-ProcessingProgressDialog* MakeDialog() {
-    QApplication::setFont(DialogFont());
-    return new ProcessingProgressDialog;
-}
-
 }  // namespace
-
-ProcessingProgressDialog::ProcessingProgressDialog() {
-    const QString icon = QString::fromUtf8(Service::GetRootTarnwellResourceInstallPath().c_str()) +
-                         QStringLiteral("/images/ico_72_tarnwell.png");
-    setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
-    setWindowIcon(QIcon(icon));
-    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
-    setValue(0);
-    setRange(0, 100);
-    setLabelText(StrTable::LoadStr(StrTable::kPreparing));
-    setFont(DialogFont());
-    setFixedWidth(400);
-    setModal(true);
-    setWindowModality(Qt::WindowModal);
-    setStyleSheet(
-        QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n"
-                       "  vertical-align: middle } "));
-}
-
-Notify_Adapter* Notify_Adapter::GetInstance() {
-    static Notify_Adapter instance;
-    return &instance;
-}
-
-void Notify_Adapter::UpdateProgress(int total, int current) {
-    emit sigUpdateProgress(total, current);
-}
-
-void Notify_Adapter::UpdateDialogText(QString text) {
-    emit sigUpdateDialogText(std::move(text));
-}
 
 void HandlerThread::run() {
     exec();
@@ -111,7 +63,7 @@ void Worker::HandleServicce() {
     emit sigServiceDone();
 }
 
-Launcher::Launcher() : worker(new Worker), dialog(MakeDialog()) {
+Launcher::Launcher() : worker(new Worker), dialog(ProcessingProgressDialog::Create()) {
     dialog->setCancelButton(nullptr);
     dialog->setAutoReset(false);
     // Left alone, a progress dialog shows itself after a while, also when there is no upgrade.
@@ -143,13 +95,8 @@ void Launcher::Start() {
     emit sigStart();
 }
 
-// Reports come faster than anybody sees them, and waking this thread for each is dear for the one
-// that makes them. So from now on it rests before it waits for the next ones, and takes them
-// together.
 void Launcher::ShowMsgBox() {
     dialog->show();
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-            dialog.get(), [] { QThread::msleep(kRest); });
 }
 
 // The 32-bit product can't overflow before a package has 21 million entries.

@@ -2,37 +2,13 @@
 #define UI_CLIENT_LAUNCHER_LAUNCHER_H
 
 #include <QObject>
-#include <QProgressDialog>
 #include <QThread>
 #include <memory>
 
+#include "ui-client/launcher/notify-adapter.h"
+#include "ui-client/launcher/progress-dialog.h"
+
 class Service;
-
-// The small window that is shown while the per-user installation is replaced: a label and a bar
-// from 0 to 100. Main thread only.
-class ProcessingProgressDialog : public QProgressDialog {
-    Q_OBJECT
-
-  public:
-    ProcessingProgressDialog();
-};
-
-// Carries the progress of an extraction, which knows no user interface, to whoever listens. There
-// is one in the process; it belongs to the thread of the first GetInstance(), which must be the
-// main thread. The methods may be called from any thread.
-class Notify_Adapter : public QObject {
-    Q_OBJECT
-
-  public:
-    static Notify_Adapter* GetInstance();
-
-    void UpdateProgress(int total, int current);  // entries of the package, and those written
-    void UpdateDialogText(QString text);
-
-  signals:
-    void sigUpdateProgress(int total, int current);
-    void sigUpdateDialogText(QString);
-};
 
 // A thread that runs an event loop.
 class HandlerThread : public QThread {
@@ -42,7 +18,7 @@ class HandlerThread : public QThread {
     void run() override;
 };
 
-// Runs the upgrade on a thread of its own, which it owns. Made and destroyed on the main thread;
+// Runs the upgrade on a thread that it owns. Created and destroyed on the main thread;
 // its slot runs on the worker thread. Destroying it waits for a run that has begun.
 class Worker : public QObject {
     Q_OBJECT
@@ -81,7 +57,7 @@ class Launcher : public QObject {
     ~Launcher() override;
 
     void Run();    // starts the worker's thread
-    void Start();  // tells the worker to begin
+    void Start();  // makes the worker begin
 
   signals:
     void sigStart();
