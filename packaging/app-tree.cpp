@@ -13,7 +13,7 @@
 #include <set>
 
 #include "lib/platform/open-bundle.h"
-#include "ui-client/launcher/tarnwell-service.h"
+#include "lib/install-layout.h"
 
 namespace fs = std::filesystem;
 
@@ -281,5 +281,5 @@ int ReadBuildNumber(const std::string& info_file, const std::string& shown_as) {
 }
 
 std::string ClientName() {
-    return Service::GetClientPath("").c_str() + 1;  // without the slash at its beginning
+    return install_layout::kClient;
 }

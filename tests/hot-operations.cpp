@@ -14,6 +14,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "tests/support/scenario.h"
+#include "ui-client/launcher/app-replacement.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/launcher/translations/str-table.h"
@@ -224,10 +225,12 @@ void ReadVersion(const Folder& folder, int count) {
 // What every start does: no upgrade was cut off.
 void FindNoRecord(const Folder& folder, int count) {
     MakeFolder(folder / ".Tarnwell");
-    MacService service;
+    const ustring user_folder(folder / ".Tarnwell");
     Repeat(count, [&] {
-        service.FinishCutOffUpgrade();
-        return true;
+        AppReplacement replacement(user_folder, user_folder + "/Tarnwell.app");
+        replacement.Lock();
+        replacement.Recover();
+        return replacement.condition() == AppReplacement::Condition::Settled;
     });
 }
 

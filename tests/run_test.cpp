@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -483,52 +484,150 @@ TEST_F(RunTest, WorksWhereverTheHomeIs) {
     }
 }
 
-TEST_F(RunTest, AnotherInstallationLeavesARunningUpgradeAlone) {
+// The second launcher waits for the first, then reads the versions: the client that it starts is
+// the complete one.
+TEST_F(RunTest, AnotherInstallationWaitsForARunningUpgrade) {
     installation_.install("99");
-    const FileTree old_application = Tree(installation_.app());
+    const std::string package = ReadFile(installation_.package());
     fs::remove(installation_.package());
     ASSERT_EQ(mkfifo(installation_.package().c_str(), 0644), 0);
     const pid_t first = installation_.start();
     int pipe = -1;  // opens when the first launcher waits for its package
     EXPECT_TRUE(WaitFor([&] {
-        return (pipe = open(installation_.package().c_str(), O_WRONLY | O_NONBLOCK)) >= 0;
+        return (pipe = open(installation_.package().c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)) >=
+               0;
     }));
     Installation other;
     other.environment["HOME"] = installation_.home();
-    EXPECT_EQ(Installation::wait(other.start()), 0);
-    EXPECT_TRUE(HasOneLine(ReadFile(installation_.user("log/launcher.log")),
-                           "another upgrade is not finished"));
+    other.logEverything();
+    const pid_t second = other.start();
+    const auto second_logged = [this](const std::string& text) {
+        return HasOneLine(ReadFile(installation_.user("log/launcher.log")), text);
+    };
+    EXPECT_TRUE(WaitFor([&] { return second_logged("another launcher is at work"); }));
+    EXPECT_FALSE(Exists(installation_.home() + "/started"));
     close(pipe);  // a package of no bytes
     EXPECT_EQ(Installation::wait(first), 0);
-    EXPECT_EQ(Tree(installation_.app()), old_application);
-    expectNoRests();
-}
-
-TEST_F(RunTest, AnUpgradeThatWasCutOffAndHasNoBackupIsStartedAgain) {
-    installation_.install("100");  // what is there seems to be new
-    MakeFile(installation_.user("upgrade.journal"), "state=replacing\nbackup=0\nobject=1\n");
-    EXPECT_TRUE(Logged(installation_.run(), "is gone; removing '" + installation_.app()));
+    EXPECT_EQ(Installation::wait(second), 0);
+    EXPECT_TRUE(second_logged("source_version = (, , 99, )"));
     expectBuild("100");
     expectNoRests();
 }
 
-TEST_F(RunTest, WhatCannotBeRemovedStepsAsideForTheOldApplication) {
+// The record says that something was being replaced, and nothing shows what is in its place: it
+// isn't taken for installed, and not given up before there is a complete application.
+TEST_F(RunTest, AnApplicationThatMayBeIncompleteIsReplacedOrKept) {
+    installation_.logEverything();
+    for (const char* const record :
+         {"state=replacing\nbackup=0\nobject=1\n", "state=replacing\nbackup=none\nobject=none\n",
+          "state=replacing\nbackup=none\nobject=7\n"}) {
+        SCOPED_TRACE(record);
+        startFrom("100");
+        const FileTree doubtful = Tree(installation_.app());
+        installation_.setBuild("100", "tar");
+        const std::string package = ReadFile(installation_.package());
+        MakeFile(installation_.user("upgrade.journal"), record);
+        for (int start = 0; start < 12; ++start) {
+            MakeFile(installation_.package(), package.substr(0, 1000));
+            EXPECT_TRUE(Logged(installation_.run(), "may be incomplete and is replaced"));
+            EXPECT_EQ(Tree(installation_.app()), doubtful);
+        }
+        MakeFile(installation_.package(), package);
+        installation_.run();
+        expectBuild("100");
+        expectNoRests();
+    }
+}
+
+// What can't be removed, here because a volume is mounted in it, is set aside for the old
+// application, and removed as soon as it can be.
+TEST_F(RunTest, WhatCannotBeRemovedIsSetAsideForTheOldApplication) {
     installation_.install("100");
     const FileTree old_application = Tree(installation_.app());
     fs::rename(installation_.app(), installation_.user("Tarnwell.app_tmp"));
-    struct stat status;
-    ASSERT_EQ(stat(installation_.user("Tarnwell.app_tmp").c_str(), &status), 0);
-    MakeFile(installation_.app("closed/file"));
-    MakeFile(installation_.user("upgrade.journal"),
-             "state=replacing\nbackup=0\nobject=" + std::to_string(status.st_ino) + "\n");
-    installation_.runAsNobody();
-    fs::permissions(installation_.app("closed"), fs::perms::none);
+    MakeFile(installation_.user("Tarnwell.app_tmp2/of"), "somebody else");
+    MakeFile(installation_.user("upgrade.journal"), "state=replacing\nbackup=0\nobject=1\n");
+    {
+        const SmallDisk disk(installation_.app("volume"), "1m");
+        if (!disk.mounted()) {
+            GTEST_SKIP() << "this user may not mount a small disk";
+        }
+        MakeFile(installation_.app("volume/file"), "kept");
+        for (int start = 0; start < 3; ++start) {
+            installation_.run();
+            EXPECT_EQ(Tree(installation_.app()), old_application);
+            EXPECT_EQ(ReadFile(installation_.user("Tarnwell.app_tmp1/volume/file")), "kept");
+        }
+        umount(installation_.user("Tarnwell.app_tmp1/volume").c_str());
+    }
     installation_.run();
-    EXPECT_EQ(Tree(installation_.app()), old_application);
-    const std::string aside = installation_.user("Tarnwell.app_tmp1/closed");
-    EXPECT_TRUE(Exists(aside));
+    EXPECT_FALSE(Exists(installation_.user("Tarnwell.app_tmp1")));
     EXPECT_FALSE(Exists(installation_.user("upgrade.journal")));
-    fs::permissions(aside, fs::perms::owner_all);
+    EXPECT_TRUE(Exists(installation_.user("Tarnwell.app_tmp2/of")));
+}
+
+// The home was copied to another disk while an upgrade was cut off: all inodes are other ones.
+TEST_F(RunTest, ACopiedHomeKeepsTheOldApplication) {
+    const struct {
+        const char* name;
+        bool half;
+    } cases[] = {{"Tarnwell.app", false}, {"Tarnwell.app_tmp", false}, {"Tarnwell.app_tmp", true}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        startFrom("99");
+        const FileTree old_application = Tree(installation_.app());
+        if (installation_.user(row.name) != installation_.app()) {
+            fs::rename(installation_.app(), installation_.user(row.name));
+        }
+        if (row.half) {
+            MakeFile(installation_.app("Contents/MacOS/tarnwell-ui"), "half", 0755);
+        }
+        MakeFile(installation_.user("upgrade.journal"), "state=replacing\nbackup=0\nobject=1\n");
+        installation_.setBuild("100", "tar");
+        CutOff(installation_.package());
+        installation_.run();
+        EXPECT_EQ(Tree(installation_.app()), old_application);
+        installation_.setBuild("100");
+        installation_.run();
+        expectBuild("100");
+        expectNoRests();
+    }
+}
+
+TEST_F(RunTest, AHomeInDecomposedUnicodeIsFound) {
+    const std::string home = installation_.home() + "/e\xCC\x81te\xCC\x81";
+    MakeFolder(home);
+    installation_.environment["HOME"] = home;
+    installation_.logEverything();
+    installation_.run();
+    EXPECT_EQ(Tree(home + "/.Tarnwell/Tarnwell.app"), installation_.expectedApp("100"));
+    installation_.run();
+    EXPECT_TRUE(HasOneLine(ReadFile(home + "/.Tarnwell/log/launcher.log"), "no need to upgrade"));
+}
+
+// Folders that their owner can't write, list or enter: nothing may pile up for an ordinary user.
+TEST_F(RunTest, ReadOnlyFoldersOfAPackageDoNotPileUp) {
+    installation_.install("99");
+    installation_.runAsNobody();
+    const FileTree old_application = Tree(installation_.app());
+    const std::vector<Entry> entries = {{"Contents/MacOS/tarnwell-ui", "#!/bin/sh\n", 0755},
+                                        {"Contents/Resources/INFO", "[Version]\nbuild_version=1\n"},
+                                        {"closed/file"},
+                                        {"closed/", "", 0555},
+                                        {"none/", "", 0}};
+    for (int start = 0; start < 12; ++start) {
+        MakeArchive(installation_.package(), "tar", entries);
+        CutOff(installation_.package());
+        installation_.run();
+        ASSERT_EQ(Tree(installation_.app()), old_application) << start;
+    }
+    expectNoRests();
+    MakeArchive(installation_.package(), "tar", entries);
+    for (int start = 0; start < 12; ++start) {
+        installation_.run();  // the build that it installs is always the older one
+        expectNoRests();
+    }
+    EXPECT_TRUE(Exists(installation_.app("closed/file")));
 }
 
 }  // namespace

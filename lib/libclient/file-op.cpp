@@ -774,6 +774,10 @@ int FSRemove(const ustring& path, bool) {
     return std::remove(path.c_str()) == 0 ? 0 : -3;
 }
 
+int FSRemoveOwnTree(const ustring& path) {
+    return FSRemove(path, false);
+}
+
 int FSMktemp(const ustring& dir, ustring& out) {
     char path[kPathSize];
     static_cast<void>(std::snprintf(path, sizeof path, "%s/XXXXXX", dir.c_str()));

@@ -153,6 +153,7 @@ int FSMKDirP(const ustring& path, char** end_out, bool force, std::uint16_t mode
 // changes nothing.
 // Returns -1 for an empty path and for one that can't be examined, -3 for any other failure.
 int FSRemove(const ustring& path, bool flag);
+int FSRemoveOwnTree(const ustring& path);
 
 // Creates an empty file with a fresh name and the mode 0644 in the folder dir (empty: the root), on
 // the disk when the call returns; out is its path. Returns -1, with out unchanged, on failure.

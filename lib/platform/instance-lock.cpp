@@ -56,7 +56,10 @@ InstanceLock::Attempt InstanceLock::tryLock() {
         return Attempt::Foreign;
     }
     if (flock(fd_, LOCK_EX | LOCK_NB) != 0) {
-        return errno == EWOULDBLOCK ? Attempt::Held : Attempt::Impossible;
+        const bool no_locks = errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP;
+        return no_locks               ? Attempt::Locked
+               : errno == EWOULDBLOCK ? Attempt::Held
+                                      : Attempt::Impossible;
     }
     // The process that held it before may have removed the file between our open and our lock.
     const bool current = lstat(path_.c_str(), &there) == 0 && SameObject(ours, there);

@@ -24,6 +24,9 @@ class InstanceLock {
     // could be made (a read-only folder, another user's file): that must keep nobody from working.
     bool heldElsewhere() const { return held_elsewhere_; }
 
+    // True when this process holds the lock, or when the volume knows no locks.
+    bool held() const { return fd_ >= 0; }
+
   private:
     enum class Attempt { Locked, Held, Gone, Foreign, Impossible };
 

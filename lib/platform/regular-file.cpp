@@ -1,15 +1,13 @@
 #include "lib/platform/regular-file.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
 #include <utility>
-
-#include "lib/platform/handles.h"
 
 namespace platform {
 
@@ -20,25 +18,84 @@ struct Free {
 };
 using CanonicalPath = std::unique_ptr<char, Free>;
 
-// What the errno of a path that can't be resolved or opened says. ELOOP is a loop of links or, with
-// O_NOFOLLOW, a link; ENXIO a socket.
+// ELOOP is a loop of links or, with O_NOFOLLOW, a link; ENXIO is a socket.
 Reading ReasonOf(int error) {
-    return error == ENOENT || error == ENOTDIR ? Reading::Missing
-           : error == ELOOP || error == ENXIO  ? Reading::Refused
-                                               : Reading::Failed;
+    return error == ENOENT || error == ENOTDIR                         ? Reading::Missing
+           : error == ELOOP || error == ENXIO || error == ENAMETOOLONG ? Reading::Refused
+                                                                       : Reading::Failed;
 }
 
 bool IsBelow(const std::string& path, const std::string& folder) {
-    return path.compare(0, folder.size(), folder) == 0 && path[folder.size()] == '/';
+    return folder == "/" ||
+           (path.compare(0, folder.size(), folder) == 0 && path[folder.size()] == '/');
 }
 
-// Reads to the end, or to one byte more than the limit.
+// Replaces the path of a file that must be inside a folder by its canonical one.
+Reading Resolve(std::string& path, const char* inside) {
+    if (inside == nullptr) {
+        return Reading::Done;
+    }
+    const CanonicalPath canonical(realpath(path.c_str(), nullptr));
+    const CanonicalPath folder(canonical ? realpath(inside, nullptr) : nullptr);
+    if (folder == nullptr) {
+        return ReasonOf(errno);
+    }
+    path = canonical.get();
+    return IsBelow(path, folder.get()) ? Reading::Done : Reading::Refused;
+}
+
+// To open a device can already do something, so it is looked at before.
+Reading Find(std::string& path, struct stat& status, const char* inside) {
+    const Reading resolved = Resolve(path, inside);
+    if (resolved != Reading::Done) {
+        return resolved;
+    }
+    struct stat found;
+    if (stat(path.c_str(), &found) != 0) {
+        return ReasonOf(errno);
+    }
+    if (!S_ISREG(found.st_mode)) {
+        return Reading::Refused;
+    }
+    status = found;
+    return Reading::Done;
+}
+
+}  // namespace
+
+Reading FindRegularFile(const char* path, struct stat& status, const char* inside) {
+    std::string canonical(path);
+    return Find(canonical, status, inside);
+}
+
+Reading OpenRegularFile(const char* path, Descriptor& file, const char* inside) {
+    std::string canonical(path);
+    struct stat status;
+    const Reading found = Find(canonical, status, inside);
+    if (found != Reading::Done) {
+        return found;
+    }
+    // Something else may have taken its place since.
+    const int no_links = inside != nullptr ? O_NOFOLLOW : 0;
+    Descriptor opened(
+        open(canonical.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | no_links));
+    if (opened.get() < 0 || fstat(opened.get(), &status) != 0) {
+        return ReasonOf(errno);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return Reading::Refused;
+    }
+    file = std::move(opened);
+    return Reading::Done;
+}
+
 bool ReadUpTo(int fd, std::size_t limit, std::string& content) {
     char block[4096];
-    while (content.size() <= limit) {
-        const ssize_t size = read(fd, block, sizeof block);
+    for (std::size_t left = limit + 1; left > 0;) {
+        const ssize_t size = read(fd, block, std::min(left, sizeof block));
         if (size > 0) {
             content.append(block, static_cast<std::size_t>(size));
+            left -= static_cast<std::size_t>(size);
         } else if (size == 0) {
             return true;
         } else if (errno != EINTR) {
@@ -48,30 +105,12 @@ bool ReadUpTo(int fd, std::size_t limit, std::string& content) {
     return true;
 }
 
-}  // namespace
-
 Reading ReadRegularFile(const char* path, std::size_t limit, std::string& content,
                         const char* inside) {
-    CanonicalPath canonical;
-    if (inside != nullptr) {
-        canonical.reset(realpath(path, nullptr));
-        const CanonicalPath folder(canonical ? realpath(inside, nullptr) : nullptr);
-        if (folder == nullptr) {
-            return ReasonOf(errno);
-        }
-        if (!IsBelow(canonical.get(), folder.get())) {
-            return Reading::Refused;
-        }
-        path = canonical.get();
-    }
-    const int no_links = inside != nullptr ? O_NOFOLLOW : 0;
-    const Descriptor file(open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | no_links));
-    struct stat status;
-    if (file.get() < 0 || fstat(file.get(), &status) != 0) {
-        return ReasonOf(errno);
-    }
-    if (!S_ISREG(status.st_mode)) {
-        return Reading::Refused;
+    Descriptor file(-1);
+    const Reading opened = OpenRegularFile(path, file, inside);
+    if (opened != Reading::Done) {
+        return opened;
     }
     std::string read;
     if (!ReadUpTo(file.get(), limit, read)) {

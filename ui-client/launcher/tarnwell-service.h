@@ -2,24 +2,20 @@
 #define UI_CLIENT_LAUNCHER_TARNWELL_SERVICE_H
 
 #include <cstdint>
+#include <memory>
 
+#include "ui-client/launcher/version-file.h"
 #include "ustring/ustring.h"
 
-// The version of one installation: the text of its version file, field by field, unconverted.
-struct VerInfo {
-    ustring major_version;
-    ustring minor_version;
-    ustring build_version;  // the decimal number that decides about an upgrade
-    ustring icon_overlay_version;
-};
+class AppReplacement;
 
 // The object on which one upgrade runs. The target is what the launcher's bundle carries, the
 // source what is installed for the user now. The operations that change something or read files
 // belong to one thread (the worker's); the static path operations may be called from any.
 class Service {
   public:
-    Service() = default;
-    virtual ~Service() = default;
+    Service();
+    virtual ~Service();
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;
 
@@ -41,12 +37,8 @@ class Service {
 
     // Replaces the per-user application folder by the package's content. The old folder is moved
     // aside first and moved back when unpacking fails. Returns 0 when the new installation is in
-    // place, else -1.
+    // place, else -1. See AppReplacement.
     virtual int PrepareUserEnv();
-
-    // Undoes or finishes an upgrade that an earlier run could not, as the journal tells; without a
-    // record it does nothing. Must run before anything looks at the per-user application.
-    void FinishCutOffUpgrade();
 
     // Removes the application folder of an older layout, if it is there.
     void RemoveAgedFolders();
@@ -67,14 +59,20 @@ class Service {
     static ustring GetRootTarnwellInstallPath();          // the bundle that holds the executable
     static ustring GetRootTarnwellResourceInstallPath();  // its Contents/Resources
 
-    // The client's executable in an application folder; where it is, the application is installed.
-    static ustring GetClientPath(ustring const& app);
-
   protected:
+    // The transaction that replaces the application. The first call waits for another launcher that
+    // is at work, and finishes or undoes what an earlier run was cut off in; it must come before
+    // anything looks at the application.
+    AppReplacement& Replacement();
+
     std::int32_t timeout = 0;  // for services that wait; nothing reads it
     ustring user_app_path;     // set by the platform's service
     VerInfo target_version;
     VerInfo source_version;
+    bool source_is_known = true;  // false: what is installed has a version that can't be read now
+
+  private:
+    std::unique_ptr<AppReplacement> replacement;  // from the first Replacement() on
 };
 
 #endif

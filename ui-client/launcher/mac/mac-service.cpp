@@ -10,10 +10,13 @@
 #include <limits>
 
 #include "lib/config/config.h"
+#include "lib/install-layout.h"
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/open-bundle.h"
 #include "lib/platform/process-info.h"
+#include "ui-client/launcher/app-replacement.h"
+#include "ui-client/launcher/client-file.h"
 
 #define LOG_SOURCE "mac/mac-service"
 
@@ -90,7 +93,7 @@ MacService* MacService::GetInstace() {
 }
 
 void MacService::PreUpgrade() {
-    FinishCutOffUpgrade();
+    Replacement();
     Service::LoadTargetVersion();
     Service::LoadSourceVersion();
     LOG_MSG_AT(74, DEBUG, "Source version: ('%s', '%s')\n", source_version.build_version.c_str(),
@@ -103,13 +106,19 @@ bool MacService::IsNeedUpgrade() {
     const int source = BuildNumber(source_version);
     const int target = BuildNumber(target_version);
     LOG_MSG_AT(141, DEBUG, "source version = %d, target version = %d\n", source, target);
-    return !PerUserBinPathExist() || target > source;
+    if (!PerUserBinPathExist() ||
+        Replacement().condition() == AppReplacement::Condition::Incomplete) {
+        return true;
+    }
+    return source_is_known && target > source;
 }
 
 int MacService::HandlePackageUpgrade() {
     if (PerUserBinPathExist()) {
         LOG_MSG_AT(154, DEBUG, "local appdata exist\n");
-        StopService();
+        if (Replacement().condition() != AppReplacement::Condition::Blocked) {
+            StopService();
+        }
     }
     return PrepareUserEnv();
 }
@@ -127,19 +136,21 @@ void MacService::StopService() {
         return;
     }
     const pid_t pid = ClientPid(config.entries, pid_file);
-    if (pid > 0 && !IsAnother(pid, pid_file, GetClientPath(user_app_path))) {
+    if (pid > 0 && !IsAnother(pid, pid_file, user_app_path + "/" + install_layout::kClient)) {
         EndProcess(pid);
     }
 }
 
 void MacService::PostUpgrade() {
-    if (LaunchPerUserBin() < 0) {
+    if (!Replacement().MayStart()) {
+        LOG_MSG(ERROR, "another launcher is replacing the application and will start it\n");
+    } else if (LaunchPerUserBin() < 0) {
         LOG_MSG_AT(80, ERROR, "Failed to launch Tarnwell UI\n");
     }
 }
 
 bool MacService::PerUserBinPathExist() {
-    return access(GetClientPath(user_app_path).c_str_utf8(), F_OK) == 0;
+    return FindClient(user_app_path.c_str()) != platform::Presence::NotThere;
 }
 
 int MacService::LaunchPerUserBin() {

@@ -17,10 +17,11 @@ class MacService : public Service {
     void PostUpgrade() override;  // starts the per-user application
     // Finishes what an earlier run was cut off in, then loads and logs both versions.
     void PreUpgrade() override;
-    // True when no client is installed, or when the target's build number is the greater one.
+    // True when no client is installed, or when the target's build number is the greater one. Where
+    // the system can't tell whether there is a client, the numbers alone decide.
     bool IsNeedUpgrade() override;
 
-    bool PerUserBinPathExist();  // whether a client is installed
+    bool PerUserBinPathExist();  // whether a client is installed, or may be (see FindClient)
     int LaunchPerUserBin();      // 0 when the system took the request, else -1
 
     void LoadSourceVerInfo();

@@ -1,0 +1,144 @@
+// What an installation says about itself: its version file and its client.
+
+#include <sys/stat.h>
+#include <utime.h>
+
+#include <filesystem>
+#include <tuple>
+
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/client-file.h"
+#include "ui-client/launcher/version-file.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using platform::Presence;
+using platform::Reading;
+
+// While it lives, this process can't open anything.
+class NoDescriptors {
+  public:
+    NoDescriptors() {
+        getrlimit(RLIMIT_NOFILE, &saved_);
+        rlimit none = saved_;
+        none.rlim_cur = 0;
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &saved_); }
+
+  private:
+    rlimit saved_;
+};
+
+class InstalledTest : public testing::Test {
+  protected:
+    Reading load(VerInfo& version) const {
+        return LoadVersion(info_.c_str(), version, app_.c_str());
+    }
+
+    Folder folder_;
+    const std::string app_ = folder_ / "My.app";
+    const std::string info_ = app_ + "/Contents/Resources/INFO";
+    const std::string client_ = app_ + "/Contents/MacOS/tarnwell-ui";
+};
+
+TEST_F(InstalledTest, TheVersionIsTheTextOfTheGroup) {
+    MakeFile(info_,
+             "build_version=1\n[Version]\nbuild_version=0042\nmajor_version=\"a b\"\n"
+             "[Other]\nminor_version=3\n");
+    VerInfo version;
+    version.minor_version = "kept";
+    EXPECT_EQ(load(version), Reading::Done);
+    EXPECT_EQ(std::make_tuple(version.major_version, version.minor_version, version.build_version,
+                              version.icon_overlay_version),
+              std::make_tuple(ustring("a b"), ustring("kept"), ustring("0042"), ustring("")));
+}
+
+TEST_F(InstalledTest, AReplacedVersionFileIsReadAnew) {
+    for (const char* const number : {"100", "101"}) {
+        MakeFile(info_, std::string("[Version]\nbuild_version=") + number);
+        const utimbuf time = {1, 1};
+        ASSERT_EQ(utime(info_.c_str(), &time), 0);
+        VerInfo version;
+        EXPECT_EQ(load(version), Reading::Done);
+        EXPECT_EQ(version.build_version, number);
+    }
+}
+
+// The file in its place, and what is said about it as a version file and as a client.
+TEST_F(InstalledTest, NothingButARegularFileInsideIsRead) {
+    MakeFile(folder_ / "outside", "[Version]\nbuild_version=1");
+    MakeFile(folder_ / "My.app-evil/file", "[Version]\nbuild_version=1");
+    const auto link_to = [](const char* target) {
+        return [target](const std::string& path) { MakeLink(target, path); };
+    };
+    const struct {
+        const char* what;
+        std::function<void(const std::string& path)> make;
+        Reading reading;
+        Presence presence;
+    } cases[] = {
+        {"nothing", [](const std::string&) {}, Reading::Missing, Presence::NotThere},
+        {"file", [](const std::string& path) { MakeFile(path, "x"); }, Reading::Done,
+         Presence::There},
+        {"empty", [](const std::string& path) { MakeFile(path); }, Reading::Done,
+         Presence::NotThere},
+        {"large", [](const std::string& path) { MakeFile(path, std::string((1 << 20) + 1, 'x')); },
+         Reading::Refused, Presence::There},
+        {"folder", MakeFolder, Reading::Refused, Presence::NotThere},
+        {"pipe", [](const std::string& path) { mkfifo(path.c_str(), 0644); }, Reading::Refused,
+         Presence::NotThere},
+        {"unreadable", [](const std::string& path) { MakeFile(path, "x", 0); }, Reading::Refused,
+         Presence::There},
+        {"link inside", link_to("../real"), Reading::Done, Presence::There},
+        {"device", link_to("/dev/zero"), Reading::Refused, Presence::NotThere},
+        {"link out", link_to("../../../outside"), Reading::Refused, Presence::NotThere},
+        {"neighbour", link_to("../../../My.app-evil/file"), Reading::Refused, Presence::NotThere},
+        {"dangling", link_to("nowhere"), Reading::Missing, Presence::NotThere},
+        {"loop", [](const std::string& path) { MakeLink(path, path); }, Reading::Refused,
+         Presence::NotThere}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        fs::remove_all(app_);
+        MakeFile(app_ + "/Contents/real", "x");
+        MakeFolder(fs::path(info_).parent_path());
+        MakeFolder(fs::path(client_).parent_path());
+        row.make(info_);
+        row.make(client_);
+        const AsNobody nobody;
+        VerInfo version;
+        EXPECT_EQ(load(version), row.reading);
+        EXPECT_EQ(FindClient(app_), row.presence);
+    }
+}
+
+TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
+    MakeFile(info_, "[Version]\nbuild_version=1");
+    MakeFile(client_, "x");
+    VerInfo version;
+    {
+        const NoDescriptors none;
+        EXPECT_EQ(load(version), Reading::Failed);
+        EXPECT_EQ(errno, EMFILE);
+    }
+    EXPECT_EQ(version.build_version, "");
+    ASSERT_EQ(chmod((app_ + "/Contents").c_str(), 0), 0);
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(FindClient(app_), Presence::CantTell);
+        EXPECT_EQ(load(version), Reading::Refused) << "it won't be readable at the next try either";
+    }
+    chmod((app_ + "/Contents").c_str(), 0755);
+    EXPECT_EQ(FindClient(app_), Presence::There);
+}
+
+// "e" and an accent in two characters: another name than its composed form.
+TEST_F(InstalledTest, TheBytesOfThePathAreUsedAsTheyAre) {
+    const std::string app = folder_ / "e\xCC\x81\xFF.app";
+    MakeFile(app + "/Contents/MacOS/tarnwell-ui", "x");
+    EXPECT_EQ(FindClient(app), Presence::There);
+}
+
+}  // namespace

@@ -1,0 +1,398 @@
+#include "ui-client/launcher/app-replacement.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <thread>
+#include <utility>
+
+#include "lib/libclient/file-op.h"
+#include "lib/liblogger/log.h"
+#include "lib/platform/durability.h"
+#include "lib/platform/presence.h"
+#include "ui-client/launcher/client-file.h"
+#include "ui-client/launcher/move-entries.h"
+
+#define LOG_SOURCE "tarnwell-service"
+
+using platform::Presence;
+
+namespace {
+
+const ustring log_component("service_debug");
+
+const std::chrono::seconds kLockPatience(60);
+const std::chrono::milliseconds kLockInterval(50);
+const int kRestoreAttempts = 3;  // the user has no application until one of them succeeds
+
+// The name under which the application folder is moved aside at attempt n (0 to 9).
+ustring GetAppBackupDir(ustring const& app, int n) {
+    ustring backup = app + "_tmp";
+    if (n == 0) {
+        return backup;
+    }
+    char postfix[8];
+    if (std::snprintf(postfix, sizeof postfix, "%d", n) < 0) {
+        LOG_MSG(ERROR, "snprintf failed (continuing without postfix)");
+        postfix[0] = 0;
+    }
+    return backup += postfix;
+}
+
+Presence LookAt(const ustring& path, std::uint64_t* object = nullptr) {
+    const Presence presence = platform::LookAt(path.c_str(), object);
+    if (presence == Presence::CantTell) {
+        LOG_MSG(ERROR, "failed to look at '%s': %s (%d)\n", path.c_str(), strerror(errno), errno);
+    }
+    return presence;
+}
+
+bool Is(Presence presence, const ustring& path) {
+    return LookAt(path) == presence;
+}
+
+// A complete application has a client that can be started.
+bool IsComplete(const ustring& app) {
+    return FindStartableClient(app.c_str()) == Presence::There;
+}
+
+}  // namespace
+
+AppReplacement::AppReplacement(ustring folder, ustring app)
+    : folder_(std::move(folder)), app_(std::move(app)), part_(app_ + "_part"), journal_(folder_) {}
+
+ustring AppReplacement::backup() const {
+    return GetAppBackupDir(app_, record_.backup);
+}
+
+// == One at a time
+
+void AppReplacement::Lock() {
+    const std::string path((folder_ + "/.upgrade.lock").c_str());
+    const auto deadline = std::chrono::steady_clock::now() + kLockPatience;
+    lock_ = std::make_unique<platform::InstanceLock>(path);
+    if (lock_->heldElsewhere()) {
+        LOG_MSG(NOTE, "another launcher is at work, waiting for it\n");
+    }
+    while (lock_->heldElsewhere() && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(kLockInterval);
+        lock_ = std::make_unique<platform::InstanceLock>(path);
+    }
+}
+
+bool AppReplacement::MayStart() const {
+    UpgradeJournal::Record ignored;
+    return !lock_->heldElsewhere() || journal_.read(ignored) == UpgradeJournal::Finding::Nothing;
+}
+
+// == After an upgrade that was cut off
+
+void AppReplacement::Recover() {
+    condition_ = Condition::Blocked;
+    if (lock_->held()) {
+        journal_.removeUnfinished();
+    }
+    const UpgradeJournal::Finding finding = journal_.read(record_);
+    if (finding == UpgradeJournal::Finding::Nothing) {
+        condition_ = lock_->heldElsewhere() ? Condition::Blocked : Condition::Settled;
+    } else if (!lock_->held() || finding == UpgradeJournal::Finding::CantTell) {
+        LOG_MSG(ERROR, "failed to undo an upgrade that was cut off\n");
+    } else if (finding == UpgradeJournal::Finding::Damaged) {
+        LOG_MSG(WARNING, "removing '%s', which is no record of an upgrade\n",
+                journal_.path().c_str());
+        journal_.remove();  // when it fails, the next run tries again
+        condition_ = Condition::Settled;
+    } else {
+        condition_ =
+            record_.state == UpgradeJournal::Installed ? RecoverInstalled() : RecoverReplacing();
+        if (condition_ == Condition::Blocked) {
+            LOG_MSG(ERROR, "failed to undo an upgrade that was cut off\n");
+        }
+    }
+}
+
+AppReplacement::Condition AppReplacement::RecoverInstalled() {
+    const Presence client = FindStartableClient(app_.c_str());
+    if (client == Presence::CantTell) {
+        return Condition::Blocked;
+    }
+    if (client == Presence::There) {
+        LOG_MSG(WARNING, "an upgrade was cut off after its end, removing backup app\n");
+        RemoveBackups();
+        return Condition::Settled;
+    }
+    // Somebody has taken the new application away: a backup may be the only one.
+    if (record_.backup != UpgradeJournal::kNone && IsComplete(backup())) {
+        LOG_MSG(WARNING, "the new application is gone, rollback to old installation '%s'\n",
+                backup().c_str());
+        return RestoreBackup(false) ? Settle() : Condition::Blocked;
+    }
+    journal_.remove();
+    return Condition::Settled;
+}
+
+AppReplacement::Condition AppReplacement::RecoverReplacing() {
+    std::uint64_t object = 0;
+    const Presence in_place = LookAt(app_, &object);
+    const Presence part = LookAt(part_);
+    const bool has_backup = record_.backup != UpgradeJournal::kNone;
+    const Presence aside = has_backup ? LookAt(backup()) : Presence::NotThere;
+    if (in_place == Presence::CantTell || part == Presence::CantTell ||
+        aside == Presence::CantTell) {
+        return Condition::Blocked;
+    }
+    // Backup names are free when a record names them, and the part is renamed to become the backup,
+    // so what is at either of the two is the old application.
+    if (aside == Presence::There || part == Presence::There) {
+        LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
+                aside == Presence::There ? backup().c_str() : part_.c_str());
+        const bool restored =
+            aside == Presence::There ? RestoreBackup(IsComplete(backup())) : RestoreEntries();
+        return restored ? Settle() : Condition::Blocked;
+    }
+    if (in_place == Presence::NotThere) {
+        journal_.remove();
+        return Condition::Settled;
+    }
+    if (has_backup && object == record_.object) {
+        LOG_MSG(WARNING, "an upgrade was cut off before it moved anything\n");
+        return Settle();
+    }
+    LOG_MSG(WARNING, "an upgrade was not finished, '%s' may be incomplete and is replaced\n",
+            app_.c_str());
+    record_.object = 0;
+    return Settle();
+}
+
+// What is in the application's place stays there: says so in the record, or removes the record.
+AppReplacement::Condition AppReplacement::Settle() {
+    if (platform::SyncFolder(folder_.c_str()) != 0) {
+        return Condition::Blocked;
+    }
+    if (record_.object == 0) {
+        record_.state = UpgradeJournal::Replacing;
+        record_.backup = UpgradeJournal::kNone;
+        return journal_.write(record_) == 0 ? Condition::Incomplete : Condition::Blocked;
+    }
+    if (record_.leftovers == 0) {
+        journal_.remove();  // left, it says that nothing was moved, which is right
+        return Condition::Settled;
+    }
+    record_.state = UpgradeJournal::Installed;
+    record_.backup = UpgradeJournal::kNone;
+    if (journal_.write(record_) == 0 && IsComplete(app_)) {
+        RemoveBackups();
+    }
+    return Condition::Settled;
+}
+
+// == Moving the old application aside
+
+int AppReplacement::Begin() {
+    if (condition_ == Condition::Blocked) {
+        LOG_MSG(ERROR, "another upgrade is not finished\n");
+        return -1;
+    }
+    const bool incomplete = condition_ == Condition::Incomplete;
+    const std::uint32_t leftovers = Removable();
+    record_ = UpgradeJournal::Record();
+    record_.leftovers = leftovers;
+    condition_ = Condition::Blocked;  // until this one is settled
+    if (platform::LookAtTarget(app_.c_str()) == Presence::NotThere) {
+        return BeginInstallation();  // which a dangling link keeps from succeeding
+    }
+    std::uint64_t object = 0;
+    if (LookAt(app_, &object) != Presence::There) {
+        return -1;
+    }
+    record_.object = incomplete ? 0 : object;
+    must_have_client_ = FindStartableClient(app_.c_str()) != Presence::NotThere;
+    return BackUp();
+}
+
+int AppReplacement::BeginInstallation() {
+    if (FSMKDir(app_, true) < 0) {
+        LOG_MSG(ERROR, "failed to create folder: '%s'\n", app_.c_str());
+    } else {
+        if (!lock_->held()) {
+            Lock();  // there was no folder for it before
+        }
+        if (lock_->held() && journal_.write(record_) == 0) {
+            return 0;
+        }
+        rmdir(app_.c_str());  // without a client it is not installed, if it stays
+    }
+    LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
+    return -1;
+}
+
+int AppReplacement::BackUp() {
+    for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
+        record_.backup = n;
+        const Attempt attempt = TryBackUp();
+        if (attempt == Attempt::Moved) {
+            return 0;
+        }
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", app_.c_str(), backup().c_str());
+        if (attempt == Attempt::CantTell) {
+            return -1;
+        }
+    }
+    LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", app_.c_str(),
+            backup().c_str());
+    Settle();
+    return -1;
+}
+
+// One attempt to move the application to the backup's name, which must be free: then what is there
+// later can only be the application.
+AppReplacement::Attempt AppReplacement::TryBackUp() {
+    const ustring to = backup();
+    const bool is_free = rmdir(to.c_str()) == 0 || errno == ENOENT;
+    if (!is_free || !lock_->held() || journal_.write(record_) != 0) {
+        return Attempt::NotMoved;
+    }
+    if (std::rename(app_.c_str(), to.c_str()) != 0 && errno == EXDEV && !MoveByEntry() &&
+        !RestoreEntries()) {
+        return Attempt::CantTell;
+    }
+    // Look, for a remote disk can report a failure for what it has done. The move must be on the
+    // disk before something new gets the application's name.
+    if (Is(Presence::NotThere, to)) {
+        return Attempt::NotMoved;
+    }
+    if (!Is(Presence::There, to) || !Is(Presence::NotThere, app_)) {
+        return Attempt::CantTell;
+    }
+    const bool durable = platform::SyncFolder(folder_.c_str()) == 0;
+    return durable ? Attempt::Moved : RestoreBackup(false) ? Attempt::NotMoved : Attempt::CantTell;
+}
+
+// Moves an application folder that can't be renamed to the backup's name entry by entry, by way of
+// a new folder. That folder gets the backup's name when it holds them all, which makes it the
+// backup: a cut finds either the part or the backup.
+bool AppReplacement::MoveByEntry() {
+    rmdir(part_.c_str());  // an empty one may be left
+    if (!MakeFolderLike(app_, part_) || !MoveEntries(app_, part_) ||
+        platform::SyncVolume(part_.c_str()) != 0 ||
+        std::rename(part_.c_str(), backup().c_str()) != 0) {
+        return false;
+    }
+    return rmdir(app_.c_str()) == 0;
+}
+
+// Moves back what MoveByEntry has moved, also in an earlier run. The application's inode may be
+// another one then.
+bool AppReplacement::RestoreEntries() {
+    const Presence part = LookAt(part_);
+    if (part == Presence::NotThere) {
+        return true;
+    }
+    std::uint64_t object = 0;
+    if (part == Presence::There && Is(Presence::NotThere, app_)) {
+        return std::rename(part_.c_str(), app_.c_str()) == 0;
+    }
+    if (part == Presence::CantTell || !MoveEntries(part_, app_) ||
+        platform::SyncVolume(app_.c_str()) != 0 || LookAt(app_, &object) != Presence::There) {
+        return false;
+    }
+    if (record_.object != 0) {
+        record_.object = object;
+    }
+    return journal_.write(record_) == 0 && rmdir(part_.c_str()) == 0;
+}
+
+// == The two ends
+
+int AppReplacement::Commit() {
+    if (must_have_client_ && !IsComplete(app_)) {
+        LOG_MSG(ERROR, "the package has no client\n");
+        RollBack();
+        return -1;
+    }
+    if (platform::SyncVolume(app_.c_str()) != 0) {
+        LOG_MSG(ERROR, "failed to put '%s' on the disk: %s (%d)\n", app_.c_str(), strerror(errno),
+                errno);
+        RollBack();
+        return -1;
+    }
+    record_.state = UpgradeJournal::Installed;
+    record_.leftovers |= 1;  // an earlier version's may be there also when nothing was moved
+    if (journal_.write(record_) != 0) {
+        return -1;  // which of the two records is on the disk isn't known: both fit what is there
+    }
+    LOG_MSG(INFO, "user installation is ready, removing backup app\n");
+    RemoveBackups();
+    condition_ = Condition::Settled;
+    return 0;
+}
+
+void AppReplacement::RollBack() {
+    if (record_.backup == UpgradeJournal::kNone) {
+        LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
+        return;
+    }
+    LOG_MSG(ERROR, "Failed to extract package, rollback to old installation\n");
+    if (RestoreBackup(true)) {
+        condition_ = Settle();
+    }
+}
+
+// Puts the old application back in the place of what an unfinished upgrade has left there, which is
+// removed if it may be, or else set aside.
+bool AppReplacement::RestoreBackup(bool may_remove) {
+    for (int attempt = 0; attempt < kRestoreAttempts; ++attempt) {
+        const Presence aside = LookAt(backup());
+        if (aside == Presence::NotThere) {
+            break;
+        }
+        if (aside == Presence::CantTell) {
+            continue;
+        }
+        if (may_remove) {
+            FSRemoveOwnTree(app_);  // what can't be removed is set aside
+        }
+        if (!Is(Presence::NotThere, app_) && !SetAside()) {
+            continue;
+        }
+        static_cast<void>(std::rename(backup().c_str(), app_.c_str()));  // the next look tells
+    }
+    return Is(Presence::NotThere, backup()) && Is(Presence::There, app_);
+}
+
+// Takes what is in the application's place away, to a free backup name that the record names from
+// before.
+bool AppReplacement::SetAside() {
+    for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
+        const ustring name = GetAppBackupDir(app_, n);
+        if (n == record_.backup || !Is(Presence::NotThere, name)) {
+            continue;
+        }
+        record_.leftovers |= 1U << n;
+        return journal_.write(record_) == 0 && std::rename(app_.c_str(), name.c_str()) == 0;
+    }
+    return false;
+}
+
+// The numbers of the backups that may be removed once a complete application is in place.
+std::uint32_t AppReplacement::Removable() const {
+    const bool installed = record_.state == UpgradeJournal::Installed;
+    return record_.leftovers | (installed ? (1U << (record_.backup + 1)) - 1 : 0);
+}
+
+// Removes these backups, and then the record. What can't be removed now keeps the record, so that
+// the next run tries again.
+void AppReplacement::RemoveBackups() {
+    bool gone = true;
+    for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
+        if ((Removable() >> n & 1) != 0) {
+            gone = FSRemoveOwnTree(GetAppBackupDir(app_, n)) == 0 && gone;
+        }
+    }
+    if (gone && journal_.remove() == 0) {
+        record_ = UpgradeJournal::Record();
+    }
+}

@@ -1,0 +1,49 @@
+#include "ui-client/launcher/version-file.h"
+
+#include <QFile>
+#include <QSettings>
+#include <cerrno>
+#include <string>
+
+#include "lib/platform/memory-file.h"
+
+namespace {
+
+using platform::Reading;
+
+const std::size_t kMaxSize = std::size_t{1024} * 1024;  // bytes; a real one has about a hundred
+
+void LoadField(const QSettings& settings, const char* key, ustring& field) {
+    const QString name = QString::fromLatin1(key);
+    if (settings.contains(name)) {
+        field = ustring(settings.value(name).toString().toUtf8().constData());
+    }
+}
+
+}  // namespace
+
+Reading LoadVersion(const char* path, VerInfo& version, const char* inside) {
+    std::string text;
+    const Reading reading = platform::ReadRegularFile(path, kMaxSize, text, inside);
+    if (reading != Reading::Done) {
+        const bool forbidden = reading == Reading::Failed && (errno == EACCES || errno == EPERM);
+        return forbidden ? Reading::Refused : reading;
+    }
+    // QSettings would open the file once more, without a word when that fails, and would take one
+    // of the same size and time that has replaced it for the one that it has read before.
+    const platform::MemoryFile copy(text);
+    const QString copy_path = QString::fromStdString(copy.path());
+    if (!QFile::exists(copy_path)) {
+        return Reading::Failed;
+    }
+    QSettings settings(copy_path, QSettings::IniFormat);
+    if (settings.status() == QSettings::AccessError) {
+        return Reading::Failed;
+    }
+    settings.beginGroup(QStringLiteral("Version"));
+    LoadField(settings, "major_version", version.major_version);
+    LoadField(settings, "minor_version", version.minor_version);
+    LoadField(settings, "build_version", version.build_version);
+    LoadField(settings, "icon_overlay_version", version.icon_overlay_version);
+    return Reading::Done;
+}
