@@ -11,6 +11,7 @@
 #include <filesystem>
 
 #include "lib/platform/core-services.h"
+#include "lib/platform/durability.h"
 #include "lib/platform/file-system-type.h"
 #include "lib/platform/instance-lock.h"
 #include "lib/platform/open-bundle.h"
@@ -88,6 +89,18 @@ TEST(FileSystemType, NamesTheSystem) {
     EXPECT_EQ(platform::FileSystemType("/nowhere", name), -1);
     EXPECT_EQ(errno, ENOENT);
     EXPECT_EQ(name, "proc");
+}
+
+TEST(Durability, WhatKnowsNoSuchRequestIsNoFailure) {
+    for (const char* const path : {"/tmp", "/dev/null", "/proc/self"}) {
+        const int fd = open(path, O_RDONLY | O_CLOEXEC);
+        EXPECT_EQ(platform::SyncFile(fd), 0) << path;
+        close(fd);
+    }
+    EXPECT_EQ(platform::SyncFolder("/proc/self"), 0);
+    EXPECT_EQ(platform::SyncFile(-1), -1);
+    EXPECT_EQ(errno, EBADF);
+    EXPECT_EQ(platform::SyncFolder("/nowhere"), -1);
 }
 
 TEST(BundleExecutable, IsReadFromTheInfoPlist) {

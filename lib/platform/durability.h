@@ -3,8 +3,11 @@
 
 namespace platform {
 
-// These return when what was written has reached the disk: 0, or -1 with errno set. On a volume
-// that knows no such request they do what it offers. Threads: any, for the whole header.
+// The one place that forces data to the disk.
+//
+// These return when what was written has reached the disk: 0, or -1 with errno set. On a volume or
+// an object (a device, a pipe) that knows no such request they do what it offers, which may be
+// nothing, and return 0. Threads: any, for the whole header.
 
 int SyncFile(int fd);              // a file's data, or a folder's entries
 int SyncFolder(const char* path);  // the entries of the folder at path

@@ -9,12 +9,14 @@
 
 namespace {
 
+// The result of a request, for which a volume or an object that doesn't know it is a success.
+int IfKnown(int result) {
+    return result == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : -1;
+}
+
 int SyncOpened(const char* path, int (*sync)(int)) {
     const platform::Descriptor folder(open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.get() < 0) {
-        return -1;
-    }
-    return sync(folder.get()) == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : -1;
+    return folder.get() >= 0 ? IfKnown(sync(folder.get())) : -1;
 }
 
 }  // namespace
@@ -22,7 +24,7 @@ int SyncOpened(const char* path, int (*sync)(int)) {
 namespace platform {
 
 int SyncFile(int fd) {
-    return fsync(fd);
+    return IfKnown(fsync(fd));
 }
 
 int SyncFolder(const char* path) {

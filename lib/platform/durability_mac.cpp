@@ -3,22 +3,41 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "lib/platform/handles.h"
+
+namespace {
+
+bool IsUnknownRequest() {
+    return errno == EINVAL || errno == ENOTSUP || errno == ENOTTY;
+}
+
+}  // namespace
 
 namespace platform {
 
 int SyncFile(int fd) {
+    if (fcntl(fd, F_FULLFSYNC) == 0) {
+        return 0;
+    }
     // fsync() leaves the data in the drive's cache; it is all that some volumes can do.
-    return fcntl(fd, F_FULLFSYNC) == 0 ? 0 : fsync(fd);
+    return IsUnknownRequest() && (fsync(fd) == 0 || IsUnknownRequest()) ? 0 : -1;
 }
 
 int SyncFolder(const char* path) {
-    const Descriptor folder(open(path, O_RDONLY | O_CLOEXEC));
+    const Descriptor folder(open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return folder.get() >= 0 ? SyncFile(folder.get()) : -1;
 }
 
 int SyncVolume(const char* path) {
-    return sync_volume_np(path, SYNC_VOLUME_FULLSYNC | SYNC_VOLUME_WAIT);
+    // Returns an error number, and knows volumes that can't flush the drive's cache.
+    int error = sync_volume_np(path, SYNC_VOLUME_FULLSYNC | SYNC_VOLUME_WAIT);
+    if (error == ENOTSUP || error == EINVAL) {
+        error = sync_volume_np(path, SYNC_VOLUME_WAIT);
+    }
+    errno = error;
+    return error == 0 ? 0 : -1;
 }
 
 // The system has no such request.
