@@ -16,9 +16,9 @@
 // logged under the component "file_op_debug"; the operations on whole trees log only what the
 // operations that they are made of log.
 //
-// Threads: any thread may call anything, on different objects of the file system at the same time.
-// FSInitialize must have run before others use the layer. FSMKDirP with an explicit mode changes
-// the umask of the process during the call.
+// Threads: any thread may call anything, on different objects of the file system at the same time;
+// FSInitialize must not run beside any other operation. FSMKDirP with an explicit mode changes the
+// umask of the process during the call.
 
 // Type codes of file system objects. 4 is not used.
 enum : std::int32_t {

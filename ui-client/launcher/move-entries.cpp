@@ -1,63 +1,87 @@
 #include "ui-client/launcher/move-entries.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <vector>
 
-#include "lib/libclient/file-op.h"
+#include "lib/libclient/walk.h"
+
+using file_op::Entry;
+using file_op::FolderChain;
+using file_op::Place;
 
 namespace {
 
-// The names in a folder, read to the end before the first is moved.
-bool ListNames(const ustring& folder, std::vector<ustring>& names) {
-    DIR_HANDLE handle;
-    if (FSOpenDir(folder, 0, handle) != 0) {
-        return false;
-    }
-    DIR_ENTRY entry;
-    int result = 0;
-    while ((result = FSReadDir(handle, entry)) > 0) {
-        if (entry.name != "." && entry.name != "..") {
-            names.push_back(entry.name);
-        }
-    }
-    return result == 0;
-}
-
-bool IsFolder(const ustring& path) {
+bool IsFolder(const Place& place) {
     struct stat status;
-    return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    return fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(status.st_mode);
 }
 
-bool MoveEntry(const ustring& src, const ustring& dst) {
-    const bool is_folder = IsFolder(src);
-    if (!is_folder || !IsFolder(dst)) {
-        if (std::rename(src.c_str(), dst.c_str()) == 0) {
-            return true;
-        }
-        if (!is_folder || errno != EXDEV || !MakeFolderLike(src, dst)) {
+bool MakeFolderLike(const Place& folder, const Place& copy) {
+    struct stat status;
+    return fstatat(folder.folder, folder.name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(status.st_mode) && mkdirat(copy.folder, copy.name, 0700) == 0 &&
+           fchmodat(copy.folder, copy.name, status.st_mode & 07777, 0) == 0;
+}
+
+// The two chains are at the same level between the steps.
+class EntryMove : private file_op::Walk {
+  public:
+    EntryMove(const ustring& from, const ustring& to) : from_(from), dst_(to) {}
+
+    bool move() { return enter(from_, dst_) && run(); }
+
+  private:
+    bool enter(const Place& src, const Place& dst) {
+        if (!chain_.enter(src)) {
+            file_op::FailOpenDir(src.path().c_str());
             return false;
         }
+        return to_.enter(dst);
     }
-    return MoveEntries(src, dst) && rmdir(src.c_str()) == 0;
-}
+
+    bool take(const Entry& entry) override {
+        const Place src = chain_.at(entry.name);
+        const Place dst = to_.at(entry.name);
+        const bool is_folder = IsFolder(src);
+        if (!is_folder || !IsFolder(dst)) {
+            if (renameat(src.folder, src.name, dst.folder, dst.name) == 0) {
+                return true;
+            }
+            if (!is_folder || errno != EXDEV || !MakeFolderLike(src, dst)) {
+                return false;
+            }
+        }
+        return enter(src, dst);
+    }
+
+    bool finish(bool listed) override {
+        if (!listed) {
+            file_op::FailReadDir(chain_.path().c_str());
+            return false;
+        }
+        if (!chain_.leave() || !to_.leave()) {
+            return false;
+        }
+        const Place emptied = left(from_);
+        return chain_.empty() || unlinkat(emptied.folder, emptied.name, AT_REMOVEDIR) == 0;
+    }
+
+    const Place from_;
+    const Place dst_;
+    FolderChain to_{FolderChain::Pass};
+};
 
 }  // namespace
 
 bool MakeFolderLike(const ustring& folder, const ustring& path) {
-    struct stat status;
-    return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-           mkdir(path.c_str(), 0700) == 0 && chmod(path.c_str(), status.st_mode & 07777) == 0;
+    return MakeFolderLike(Place(folder), Place(path));
 }
 
 bool MoveEntries(const ustring& from, const ustring& to) {
-    std::vector<ustring> names;
-    return ListNames(from, names) &&
-           std::all_of(names.begin(), names.end(), [&](const ustring& name) {
-               return MoveEntry(from + "/" + name, to + "/" + name);
-           });
+    return EntryMove(from, to).move();
 }
