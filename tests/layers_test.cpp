@@ -1,0 +1,74 @@
+// The layers: what replaces the application knows nothing of what draws, and no include points
+// upwards. The linker enforces the first by the targets; this looks at the result.
+
+#include <array>
+#include <filesystem>
+#include <regex>
+
+#include "tests/support/scenario.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// From the bottom to the top: a file may include files of its own layer and of those above it in
+// this list. A file belongs to the last layer whose pattern it matches.
+const std::regex kLayers[] = {
+    std::regex("ustring/.*"),
+    std::regex("lib/(config|libtmpname|platform)/.*|lib/install-layout.h|libcommon/.*"),
+    std::regex("lib/liblogger/.*"),
+    std::regex("lib/libclient/.*"),
+    std::regex("ui-client/launcher/(translations/.*|(archive-handles|client-file|entry-guard|"
+               "move-entries|notify-adapter|upgrade-journal|version-file)\\..*)"),
+    std::regex("ui-client/launcher/(app-replacement|extractor|package-source)\\..*"),
+    std::regex("ui-client/launcher/tarnwell-service.*"),
+    std::regex("ui-client/launcher/mac/.*"),
+    std::regex("ui-client/launcher/(launcher|progress-dialog)\\..*"),
+    std::regex("ui-client/launcher/main.cpp")};
+
+std::size_t LayerOf(const std::string& file) {
+    std::size_t layer = 0;
+    while (layer < std::size(kLayers) && !std::regex_match(file, kLayers[layer])) {
+        ++layer;
+    }
+    return layer;
+}
+
+TEST(LayersTest, NoIncludePointsUpwards) {
+    const std::regex include("#include \"(.*)\"");
+    int includes = 0;
+    for (const char* const folder : {"ustring", "lib", "libcommon", "ui-client"}) {
+        for (const auto& entry :
+             fs::recursive_directory_iterator(std::string(SOURCE_DIR "/") + folder)) {
+            const std::string file = entry.path().lexically_relative(SOURCE_DIR);
+            if (!std::regex_match(file, std::regex(".*\\.(cpp|h)"))) {
+                continue;
+            }
+            EXPECT_LT(LayerOf(file), std::size(kLayers)) << file << " belongs to no layer";
+            for (const std::string& line : LinesWith(ReadFile(entry.path()), "#include \"")) {
+                std::smatch included;
+                ASSERT_TRUE(std::regex_match(line, included, include)) << line;
+                EXPECT_LE(LayerOf(included[1]), LayerOf(file)) << file << ": " << line;
+                ++includes;
+            }
+        }
+    }
+    EXPECT_GT(includes, 100);
+}
+
+TEST(LayersTest, OnlyTheWindowLinksWidgets) {
+    for (const std::string program : {MAKE_PACKAGE, EXTRACTOR_TEST}) {
+        std::array<char, 256> line{};
+        std::string libraries;
+        FILE* const dynamic = popen(("readelf -d '" + program + "'").c_str(), "r");
+        while (fgets(line.data(), line.size(), dynamic) != nullptr) {
+            libraries += line.data();
+        }
+        EXPECT_EQ(pclose(dynamic), 0);
+        EXPECT_EQ(LinesWith(libraries, "libQt5Core").size(), 1u) << program;
+        EXPECT_TRUE(LinesWith(libraries, "libQt5Widgets").empty()) << program;
+        EXPECT_TRUE(LinesWith(libraries, "libQt5Gui").empty()) << program;
+    }
+}
+
+}  // namespace
