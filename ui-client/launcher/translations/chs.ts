@@ -68,11 +68,11 @@
         <translation>六月</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>无法验证服务器的 SSL 证书。请检查服务器地址，或联系管理员寻求帮助。</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>您输入的部分信息无效。请检查后重试。</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>解除关联</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>通过替换缺失或损坏的文件、快捷方式和注册表项来修复 [ProductName]。</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>局域网</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>自行选择每个文件夹、同步模式和过滤规则。</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>托盘图标</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>要解除“%1”的任务关联吗？此电脑和服务器上已有的文件不会被删除。</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>同步异常</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>无法读取同步数据库。请重新启动 Tarnwell。如果问题仍然存在，请解除该任务的关联，然后重新配置。</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>用户登录时启动 Tarnwell</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>右键单击托盘图标，即可暂停任务、打开任务的文件夹或更改任务的设置。</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>如果不想限制文件大小，请输入 0。</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>[ProductName] 安装程序已完成</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>部分文件无法同步。请打开 Tarnwell 查看详细信息。</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>取消</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>此 OrvaneLink ID 不存在。请检查该 ID，然后重新输入。</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>“%1”已下载。</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>暂停</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>要从列表中移除“%1”吗？文件夹本身不会被删除。</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>无法检查此用户名。请确保可以连接到服务器，然后重试。</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>请选择此电脑上的一个文件夹。其中的内容将与服务器同步。</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>文件夹不为空</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>无论位于哪个文件夹，名称与此完全相同的文件都不会同步。</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>无法建立安全连接。请检查服务器的 SSL 设置，然后重试。</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>文件夹</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>这不是有效的 OrvaneLink ID。请仅使用字母、数字和连字符。</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>网络设置</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>由于系统错误，找不到服务器。请重试，或改为输入服务器地址。</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 现已推出。单击此处即可更新。</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>请选择文件在电脑和服务器上均被更改时的处理方式。</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>请输入您的 Orvane Station 的 OrvaneLink ID。即使您出门在外，Tarnwell 也能通过 OrvaneLink 与其连接。</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>您可以查看此文件夹，但您所做的更改不会上传。</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>从服务器到此电脑的单向同步</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>共享文件夹“%1”已可同步。</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>排除的文件</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>无法为此文件夹开启同步。请检查您在服务器上的权限，然后重试。</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>此文件夹与已同步的文件夹重叠。请选择既不在该文件夹之内、也不包含该文件夹的其他文件夹。</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>不用了</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>不再显示此消息</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>一切已配置就绪。Tarnwell 已开始备份您的文件。</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>由 Tarnwell 采用常用设置，或由您自行选择设置。</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>无法创建此文件的链接。请确保该文件已上传，并且您有权共享它。</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>将这些文件夹重新纳入同步</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>此文件在电脑和服务器上均被更改。请比较两个版本，然后删除不需要的版本。</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>只需将文件放入本地文件夹，Tarnwell 就会为您将其备份到服务器。</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>无法创建文件夹“%1”。请检查您的权限，或选择其他位置。</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>请选择服务器上要与之同步的共享文件夹。</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>您在 [ProductName] 安装程序完成之前取消了操作。未对您的电脑进行任何更改。您可以随时重新运行安装程序。</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>待机</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>无法完成备份。请检查与服务器的连接，然后重试。</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>让这些程序保持打开（需要重新启动电脑）</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>您没有与此文件夹同步的权限。请选择您有权访问的文件夹。</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell 已在运行。您可以从托盘中打开它。</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>与任一过滤规则匹配的文件都不会同步。</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>二月</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>本地文件夹所在的磁盘未连接。请连接该磁盘，然后恢复任务。</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>您未以管理员身份登录，因此将仅为您的账户安装 Tarnwell。要继续吗？</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>已上传</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>大功告成！</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>您只能读取此文件夹。文件会被下载，但您所做的更改不会上传。</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>服务器文件夹位于当前未连接的远程存储上。请联系管理员重新连接该存储。</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 个项目</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>此文件夹是挂载点，无法同步。请选择普通文件夹。</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>服务器已屏蔽您的 IP 地址。请联系管理员解除屏蔽。</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>无法更新 Tarnwell。请稍后重试，或自行下载最新版本。</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>正在连接…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell 无法正常启动。请重新启动电脑。如果问题仍然存在，请重新安装 Tarnwell。</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>新建同步任务</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>不使用代理</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>操作</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>更改、修复或移除 [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>检查您的设置</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>您在此处取消勾选的文件夹将从此电脑中移除。它们仍会保留在服务器上。</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>下载已取消。</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink 无法连接到服务器。请检查您的互联网连接，然后重试。</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>此文件夹位于网络驱动器上。可能无法立即检测到他人在其中所做的更改。</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>此文件夹无法同步。请选择其他文件夹。</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>语言</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>无法从列表中移除“%1”。请稍后重试。</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>状态</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>请关闭这些程序并单击“重试”，或单击“忽略”继续，并在之后重新启动电脑。</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>与服务器的连接已断开。Tarnwell 会尽快重新连接。</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>欢迎使用 Tarnwell。现在就来配置您的第一个备份吧。</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>未更改任何设置。</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>每个文件的状态一目了然</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>继续</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>关闭这些程序，并在之后重新启动它们</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL 加密</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>找不到本地文件夹。请将其移回原处，或解除该任务的关联，然后重新配置。</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>已锁定的文件</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>服务器发送了 Tarnwell 无法识别的响应。请确保两端均为最新版本。</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>双击托盘图标时</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>无法下载此文件。该文件可能已在服务器上被移动或删除。</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>版本不匹配</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>要同步更多文件夹，您可以随时在 Tarnwell 中添加任务。</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>直接连接</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>无法连接到服务器。请检查您的网络连接，然后重试。</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>今天</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>无法验证 SSL 证书。</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>请输入您的用户名。</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>此共享文件夹未在服务器上挂载。请联系管理员挂载该共享文件夹。</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>图标角标可显示文件的状态。绿色对勾表示文件已是最新。</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>输入要排除的文件名</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>部分文件未同步</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>高级配置向导</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>使用黑白托盘图标</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>要在 [ProductName] 安装程序完成之前退出吗？</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>无法下载“%1”。请检查与服务器的连接，然后重试。</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>四月</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>[ProductName] 安装程序因出错而在完成之前停止。未对您的电脑进行任何更改。要重试，请重新启动安装程序。</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>此任务的同步方向与您在服务器上的权限不匹配。请选择其他同步方向。</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>您没有使用此共享文件夹的权限。请联系管理员获取访问权限。</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>您可以使用现有任务，或在其他文件夹中配置新任务。</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>其他任务已在同步此文件夹。请选择其他文件夹。</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>此任务已存在</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>无法创建任务。请检查您的设置，然后重试。</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>上个月</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>已安装较新版本的 Tarnwell。要安装此版本，请先卸载较新的版本。</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>无法显示此文件的历史版本。请检查与服务器的连接，然后重试。</translation>
     </message>
 </context>

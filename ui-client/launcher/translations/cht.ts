@@ -68,11 +68,11 @@
         <translation>六月</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>無法驗證伺服器的 SSL 憑證。請檢查伺服器位址，或請系統管理員協助。</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>您輸入的部分資訊無效。請檢查後再試一次。</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>解除連結</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>更換遺失或損毀的檔案、捷徑與登錄項目，以修復 [ProductName]。</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>區域網路</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>自行選擇各個資料夾、同步模式與篩選條件。</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>系統匣圖示</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>要解除「%1」的任務連結嗎？這台電腦與伺服器上現有的檔案不會被刪除。</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>同步問題</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>無法讀取同步資料庫。請重新啟動 Tarnwell。如果問題持續發生，請解除任務連結，然後重新設定。</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>使用者登入時啟動 Tarnwell</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>在系統匣圖示上按一下滑鼠右鍵，即可暫停任務、開啟其資料夾或變更其設定。</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>如果不想限制檔案大小，請輸入 0。</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>[ProductName] 安裝程式已完成</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>部分檔案無法同步。請開啟 Tarnwell 查看詳細資訊。</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>取消</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>此 OrvaneLink ID 不存在。請檢查 ID 後重新輸入。</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>「%1」已下載完成。</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>暫停</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>要從清單中移除「%1」嗎？資料夾本身不會被刪除。</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>無法檢查此使用者名稱。請確定可以連線到伺服器，然後再試一次。</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>請選擇這台電腦上的資料夾。其內容將會與伺服器同步。</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>資料夾不是空的</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>名稱與此完全相同的檔案，不論位於哪個資料夾，一律不會同步。</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>無法建立安全連線。請檢查伺服器的 SSL 設定，然後再試一次。</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>資料夾</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>這不是有效的 OrvaneLink ID。請只使用英文字母、數字與連字號。</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>網路設定</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>由於發生系統錯誤，找不到伺服器。請再試一次，或改為輸入伺服器的位址。</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 已推出。按一下這裡即可更新。</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>請選擇檔案在這台電腦與伺服器上都有變更時的處理方式。</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>請輸入您 Orvane Station 的 OrvaneLink ID。即使您外出，Tarnwell 也能透過 OrvaneLink 與其連線。</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>您可以檢視此資料夾，但您所做的變更不會上傳。</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>從伺服器單向同步到這台電腦</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>共用資料夾「%1」已可開始同步。</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>排除的檔案</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>無法開啟此資料夾的同步功能。請檢查您在伺服器上的權限，然後再試一次。</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>此資料夾與已同步的資料夾重疊。請選擇不在該資料夾之內、也不在其上層的資料夾。</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>不用了，謝謝</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>不再顯示此訊息</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>一切都已設定完成。Tarnwell 已開始備份您的檔案。</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>讓 Tarnwell 採用一般設定，或由您自行選擇。</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>無法建立此檔案的連結。請確定檔案已上傳，且您擁有分享此檔案的權限。</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>恢復同步這些資料夾</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>此檔案在這台電腦與伺服器上都有變更。請比較兩個版本，並刪除您不需要的版本。</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>將檔案放入本機資料夾，Tarnwell 就會為您備份到伺服器。</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>無法建立資料夾「%1」。請檢查您的權限，或選擇其他位置。</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>請選擇伺服器上要同步的共用資料夾。</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>您在完成前取消了 [ProductName] 安裝程式。您的電腦未做任何變更。您可以隨時再次執行安裝程式。</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>待命</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>無法完成備份。請檢查與伺服器的連線，然後再試一次。</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>不關閉這些程式（需要重新啟動電腦）</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>您沒有與此資料夾同步的權限。請選擇您可以存取的資料夾。</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell 已在執行中。您可以從系統匣開啟。</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>符合其中任一篩選條件的檔案不會同步。</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>二月</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>本機資料夾所在的磁碟尚未連接。請連接磁碟，然後恢復任務。</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>您並非以系統管理員身分登入，因此 Tarnwell 只會為您的帳號安裝。要繼續嗎？</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>已上傳</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>一切就緒！</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>您只能讀取此資料夾。檔案會下載，但您所做的變更不會上傳。</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>伺服器資料夾位於目前未連線的遠端儲存空間。請聯絡系統管理員重新連線。</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 個項目</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>此資料夾是掛載點，無法同步。請選擇一般資料夾。</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>伺服器已封鎖您的 IP 位址。請聯絡系統管理員解除封鎖。</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>無法更新 Tarnwell。請稍後再試，或自行下載最新版本。</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>正在連線…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell 無法正常啟動。請重新啟動電腦。如果問題持續發生，請重新安裝 Tarnwell。</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>新的同步任務</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>不使用代理伺服器</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>動作</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>變更、修復或移除 [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>檢查您的設定</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>您在此取消勾選的資料夾會從這台電腦移除，但仍會保留在伺服器上。</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>下載已取消。</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink 無法連線到伺服器。請檢查您的網際網路連線，然後再試一次。</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>此資料夾位於網路磁碟機。其他人在該處所做的變更可能無法立即偵測到。</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>此資料夾無法同步。請選擇其他資料夾。</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>語言</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>無法從清單中移除「%1」。請稍後再試。</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>狀態</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>請關閉這些程式並按一下「重試」，或按一下「略過」繼續，並在之後重新啟動電腦。</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>與伺服器的連線已中斷。Tarnwell 會儘快重新連線。</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>歡迎使用 Tarnwell。讓我們來設定您的第一個備份。</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>未變更任何設定。</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>查看每個檔案的狀態</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>繼續</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>關閉這些程式，並在之後重新啟動程式</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL 加密</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>找不到本機資料夾。請將資料夾移回原處，或解除任務連結，然後重新設定。</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>鎖定的檔案</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Tarnwell 無法辨識伺服器傳回的回應。請確定兩者都已更新至最新版本。</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>按兩下系統匣圖示時</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>無法下載此檔案。檔案可能已在伺服器上移動或刪除。</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>版本不符</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>若要同步更多資料夾，您可以隨時在 Tarnwell 中新增任務。</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>直接連線</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>無法連線到伺服器。請檢查您的網路連線，然後再試一次。</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>今天</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>無法驗證 SSL 憑證。</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>請輸入您的使用者名稱。</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>伺服器上尚未掛載此共用資料夾。請聯絡系統管理員加以掛載。</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>圖示標記會顯示檔案的狀態。綠色勾號表示檔案已是最新狀態。</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>輸入要排除的檔案名稱</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>部分檔案未同步</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>進階設定精靈</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>使用黑白的系統匣圖示</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>[ProductName] 安裝程式尚未完成，您要結束嗎？</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>無法下載「%1」。請檢查與伺服器的連線，然後再試一次。</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>四月</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>[ProductName] 安裝程式因發生錯誤而在完成前停止。您的電腦未做任何變更。若要再試一次，請重新啟動安裝程式。</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>此任務的同步方向與您在伺服器上的權限不符。請選擇其他同步方向。</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>您沒有使用此共用資料夾的權限。請聯絡系統管理員授予您存取權限。</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>您可以使用現有的任務，或在其他資料夾中設定新的任務。</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>已有其他任務正在同步此資料夾。請選擇其他資料夾。</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>此任務已存在</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>無法建立任務。請檢查您的設定，然後再試一次。</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>上個月</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>已安裝較新版本的 Tarnwell。若要安裝此版本，請先解除安裝較新的版本。</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>無法顯示此檔案的先前版本。請檢查與伺服器的連線，然後再試一次。</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>Červen</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Certifikát SSL serveru se nepodařilo ověřit. Zkontrolujte adresu serveru nebo požádejte o pomoc správce.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Některé zadané údaje nejsou platné. Zkontrolujte je a zkuste to znovu.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Odpojit</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Opraví aplikaci [ProductName] tak, že nahradí chybějící nebo poškozené soubory, zástupce a položky registru.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Místní síť</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Každou složku, režim synchronizace i filtry vyberete ručně.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Ikona na liště</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Odpojit úlohu %1? Soubory, které již jsou v tomto počítači a na serveru, se nesmažou.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Problém se synchronizací</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Databázi synchronizace nelze přečíst. Restartujte Tarnwell. Pokud problém přetrvá, odpojte úlohu a nastavte ji znovu.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Spouštět Tarnwell po přihlášení uživatele</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Kliknutím pravým tlačítkem na ikonu na liště můžete úlohu pozastavit, otevřít její složku nebo změnit její nastavení.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Pokud velikost souborů nechcete omezit, zadejte 0.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Instalační program [ProductName] dokončil práci</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Některé soubory se nepodařilo synchronizovat. Podrobnosti zobrazíte otevřením Tarnwellu.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Zrušit</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Toto OrvaneLink ID neexistuje. Zkontrolujte ID a zadejte ho znovu.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>Soubor %1 byl stažen.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Pozastavit</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Odebrat složku %1 ze seznamu? Samotná složka se nesmaže.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Toto uživatelské jméno se nepodařilo zkontrolovat. Ujistěte se, že je server dostupný, a zkuste to znovu.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Vyberte složku v tomto počítači. Její obsah se bude synchronizovat se serverem.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Složka není prázdná</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Soubory s přesně tímto názvem se nikdy nesynchronizují, ať jsou v kterékoli složce.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Zabezpečené připojení se nepodařilo navázat. Zkontrolujte nastavení SSL na serveru a zkuste to znovu.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Složky</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Toto OrvaneLink ID není platné. Používejte jen písmena, číslice a spojovníky.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Nastavení sítě</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Server se kvůli systémové chybě nepodařilo najít. Zkuste to znovu nebo místo toho zadejte jeho adresu.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Je k dispozici Tarnwell %1. Aktualizujte kliknutím sem.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Vyberte, co se má stát, když byl soubor změněn v počítači i na serveru.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Zadejte OrvaneLink ID svého serveru Orvane Station. Tarnwell se k němu připojí přes OrvaneLink, i když jste na cestách.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Tuto složku si můžete prohlížet, ale vaše změny se nenahrají na server.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Jednosměrná synchronizace ze serveru do tohoto počítače</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Sdílená složka %1 je připravena k synchronizaci.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Vyloučené soubory</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Synchronizaci této složky se nepodařilo zapnout. Zkontrolujte svá oprávnění na serveru a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Tato složka se překrývá se složkou, která se již synchronizuje. Vyberte složku, která v ní neleží ani ji neobsahuje.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Ne, děkuji</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Tuto zprávu už nezobrazovat</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Vše je nastaveno. Tarnwell začal zálohovat vaše soubory.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Nechte Tarnwell zvolit obvyklá nastavení, nebo je vyberte ručně.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Odkaz na tento soubor nelze vytvořit. Ujistěte se, že soubor byl nahrán na server a že máte oprávnění ho sdílet.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Znovu zahrnout tyto složky do synchronizace</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Tento soubor byl změněn v počítači i na serveru. Porovnejte obě verze a smažte tu, kterou nepotřebujete.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Uložte soubory do místní složky a Tarnwell je za vás zazálohuje na server.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Složku %1 se nepodařilo vytvořit. Zkontrolujte svá oprávnění nebo vyberte jiné umístění.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Vyberte sdílenou složku na serveru, se kterou se má synchronizovat.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Instalační program [ProductName] byl na váš pokyn zrušen před dokončením. V počítači se nic nezměnilo. Instalační program můžete kdykoli spustit znovu.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>V pohotovosti</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Zálohování se nepodařilo dokončit. Zkontrolujte připojení k serveru a zkuste to znovu.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Nechat tyto programy spuštěné (vyžaduje restart počítače)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Nemáte oprávnění synchronizovat s touto složkou. Vyberte složku, ke které máte přístup.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell již běží. Můžete ho otevřít ze systémové lišty.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Soubory, které odpovídají některému z těchto filtrů, se nesynchronizují.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Únor</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Disk s místní složkou není připojen. Připojte ho a obnovte úlohu.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Nepoužíváte účet správce, proto se Tarnwell nainstaluje jen pro váš účet. Chcete pokračovat?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Nahráno</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Vše je připraveno!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Z této složky můžete jen číst. Soubory se budou stahovat, ale vaše změny se nenahrají na server.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Složka na serveru je na vzdáleném úložišti, které teď není připojeno. Požádejte správce, aby ho znovu připojil.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Počet položek: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Tato složka je přípojný bod a nelze ji synchronizovat. Vyberte běžnou složku.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Server zablokoval vaši adresu IP. Požádejte správce o její odblokování.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell se nepodařilo aktualizovat. Zkuste to později nebo si nejnovější verzi stáhněte ručně.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Připojování…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell se nepodařilo správně spustit. Restartujte počítač. Pokud problém přetrvá, nainstalujte Tarnwell znovu.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nová synchronizační úloha</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Nepoužívat proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Akce</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Změna, oprava nebo odebrání aplikace [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Zkontrolujte nastavení</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Složky, u kterých zde zrušíte zaškrtnutí, budou z tohoto počítače odebrány. Na serveru zůstanou.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Stahování bylo zrušeno.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>Službě OrvaneLink se nepodařilo spojit se serverem. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Tato složka je na síťovém disku. Změny, které tam provedou ostatní, nemusí být zaznamenány hned.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Tuto složku nelze synchronizovat. Vyberte jinou složku.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Jazyk</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>Složku %1 se nepodařilo odebrat ze seznamu. Zkuste to později.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Stav</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Ukončete tyto programy a klikněte na „Opakovat“, nebo pokračujte kliknutím na „Ignorovat“ a počítač poté restartujte.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Připojení k serveru bylo přerušeno. Tarnwell se znovu připojí, jakmile to bude možné.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Vítá vás Tarnwell. Nastavme spolu vaši první zálohu.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Žádná nastavení se nezměnila.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Sledujte stav každého souboru</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Pokračovat</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Ukončit tyto programy a poté je znovu spustit</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Šifrování SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Místní složku nelze najít. Přesuňte ji zpět na původní místo, nebo úlohu odpojte a nastavte ji znovu.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Uzamčený soubor</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Server odeslal odpověď, které Tarnwell nerozumí. Ujistěte se, že server i Tarnwell jsou aktuální.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Po dvojím kliknutí na ikonu na liště</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Tento soubor nelze stáhnout. Možná byl na serveru přesunut nebo smazán.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Nesoulad verzí</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Chcete-li synchronizovat více složek, můžete v Tarnwellu kdykoli přidat úlohu.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Přímé připojení</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Server není dostupný. Zkontrolujte připojení k síti a zkuste to znovu.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Dnes</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Certifikát SSL se nepodařilo ověřit.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Zadejte své uživatelské jméno.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Sdílená složka není na serveru připojena. Požádejte správce o její připojení.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Překryvné ikony ukazují, v jakém stavu jsou vaše soubory. Zelené zaškrtnutí znamená, že je soubor aktuální.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Zadejte název souboru k vyloučení</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Některé soubory se nesynchronizovaly</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Průvodce pokročilým nastavením</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Používat černobílou ikonu na liště</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Chcete instalační program [ProductName] ukončit před dokončením?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>Soubor %1 se nepodařilo stáhnout. Zkontrolujte připojení k serveru a zkuste to znovu.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Duben</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Instalační program [ProductName] byl kvůli chybě zastaven před dokončením. V počítači se nic nezměnilo. Chcete-li pokus opakovat, spusťte instalační program znovu.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Směr synchronizace této úlohy neodpovídá vašemu oprávnění na serveru. Vyberte jiný směr synchronizace.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Nemáte oprávnění používat tuto sdílenou složku. Požádejte správce o přístup.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Můžete použít stávající úlohu nebo nastavit novou v jiné složce.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Tuto složku již synchronizuje jiná úloha. Vyberte jinou.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Tato úloha již existuje</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Úlohu se nepodařilo vytvořit. Zkontrolujte nastavení a zkuste to znovu.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Minulý měsíc</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Novější verze Tarnwellu je již nainstalována. Chcete-li nainstalovat tuto verzi, nejprve novější verzi odinstalujte.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Dřívější verze tohoto souboru nelze zobrazit. Zkontrolujte připojení k serveru a zkuste to znovu.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>juni</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Serverens SSL-certifikat kunne ikke bekræftes. Kontroller serveradressen, eller bed din administrator om hjælp.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Nogle af de oplysninger, du har indtastet, er ikke gyldige. Kontroller dem, og prøv igen.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Frakobl</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Reparerer [ProductName] ved at erstatte manglende eller beskadigede filer, genveje og poster i registreringsdatabasen.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Lokalt netværk</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Vælg selv mapperne, synkroniseringsmetoden og filtrene.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Systembakkeikon</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Vil du frakoble opgaven for %1? De filer, der allerede er på denne computer og på serveren, slettes ikke.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Synkroniseringsfejl</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Synkroniseringsdatabasen kan ikke læses. Genstart Tarnwell. Hvis problemet fortsætter, skal du frakoble opgaven og oprette den igen.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Start Tarnwell ved login</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Højreklik på systembakkeikonet for at sætte en opgave på pause, åbne dens mappe eller ændre dens indstillinger.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Indtast 0, hvis du ikke vil begrænse filstørrelsen.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Installationsprogrammet til [ProductName] er færdigt</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Nogle filer kunne ikke synkroniseres. Åbn Tarnwell for at se flere oplysninger.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Annuller</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Dette OrvaneLink-id findes ikke. Kontroller id’et, og indtast det igen.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>%1 er blevet downloadet.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Sæt på pause</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Vil du fjerne %1 fra listen? Selve mappen slettes ikke.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Brugernavnet kunne ikke kontrolleres. Sørg for, at der er forbindelse til serveren, og prøv igen.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Vælg en mappe på denne computer. Dens indhold synkroniseres med serveren.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Mappen er ikke tom</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Filer med præcis dette navn synkroniseres aldrig, uanset hvilken mappe de ligger i.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Der kunne ikke oprettes en sikker forbindelse. Kontroller serverens SSL-indstillinger, og prøv igen.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Mapper</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Dette er ikke et gyldigt OrvaneLink-id. Brug kun bogstaver, tal og bindestreger.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Netværksindstillinger</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Serveren kunne ikke findes på grund af en systemfejl. Prøv igen, eller indtast i stedet serverens adresse.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 er tilgængelig. Klik her for at opdatere.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Vælg, hvad der skal ske, når en fil er blevet ændret både på computeren og på serveren.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Indtast OrvaneLink-id’et for din Orvane Station. Tarnwell opretter forbindelse til den via OrvaneLink, også når du er på farten.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Du kan se indholdet af denne mappe, men dine ændringer bliver ikke uploadet.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Envejssynkronisering fra serveren til denne computer</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Den delte mappe %1 er klar til at blive synkroniseret.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Udeladte filer</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Synkronisering kunne ikke slås til for denne mappe. Kontroller dine tilladelser på serveren, og prøv igen.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Denne mappe overlapper en mappe, der allerede synkroniseres. Vælg en mappe, der hverken ligger i eller over den.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Nej tak</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Vis ikke denne meddelelse igen</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Alt er sat op. Tarnwell er begyndt at sikkerhedskopiere dine filer.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Lad Tarnwell vælge de sædvanlige indstillinger, eller vælg dem selv.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Der kan ikke oprettes et link til denne fil. Kontroller, at filen er blevet uploadet, og at du har tilladelse til at dele den.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Medtag disse mapper i synkronisering igen</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Denne fil er blevet ændret både på computeren og på serveren. Sammenlign de to versioner, og slet den, du ikke har brug for.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Læg filer i den lokale mappe, så sikkerhedskopierer Tarnwell dem til serveren for dig.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Mappen %1 kunne ikke oprettes. Kontroller dine tilladelser, eller vælg en anden placering.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Vælg den delte mappe på serveren, som du vil synkronisere med.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Du annullerede installationsprogrammet til [ProductName], før det var færdigt. Computeren er ikke blevet ændret. Du kan køre installationsprogrammet igen når som helst.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Standby</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Sikkerhedskopieringen kunne ikke fuldføres. Kontroller forbindelsen til serveren, og prøv igen.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Lad disse programmer være åbne (kræver genstart)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Du har ikke tilladelse til at synkronisere med denne mappe. Vælg en mappe, som du har adgang til.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell kører allerede. Du kan åbne programmet fra systembakken.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Filer, der passer til et af disse filtre, synkroniseres ikke.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>februar</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Disken med den lokale mappe er ikke tilsluttet. Tilslut den, og genoptag opgaven.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Du er ikke logget ind som administrator, så Tarnwell bliver kun installeret for din konto. Vil du fortsætte?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Uploadet</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Så er du klar!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Du kan kun læse denne mappe. Filer bliver downloadet, men dine ændringer bliver ikke uploadet.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Servermappen ligger på et fjernlager, der ikke er tilsluttet lige nu. Bed din administrator om at tilslutte det igen.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 element(er)</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Denne mappe er et monteringspunkt og kan ikke synkroniseres. Vælg en almindelig mappe.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Serveren har blokeret din IP-adresse. Bed din administrator om at fjerne blokeringen.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell kunne ikke opdateres. Prøv igen senere, eller download selv den nyeste version.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Opretter forbindelse…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell kunne ikke startes korrekt. Genstart computeren. Hvis problemet fortsætter, skal du installere Tarnwell igen.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Ny synkroniseringsopgave</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Brug ikke en proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Handling</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Ændr, reparer eller fjern [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Kontroller dine indstillinger</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Mapper, som du fjerner markeringen for her, bliver fjernet fra denne computer. De beholdes på serveren.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Downloaden blev annulleret.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink kunne ikke få forbindelse til serveren. Kontroller din internetforbindelse, og prøv igen.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Denne mappe ligger på et netværksdrev. Ændringer, som andre foretager der, bliver måske ikke registreret med det samme.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Denne mappe kan ikke synkroniseres. Vælg en anden mappe.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Sprog</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>%1 kunne ikke fjernes fra listen. Prøv igen senere.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Luk disse programmer, og klik på Prøv igen, eller klik på Ignorer for at fortsætte og genstarte computeren bagefter.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Forbindelsen til serveren blev afbrudt. Tarnwell opretter forbindelse igen så hurtigt som muligt.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Velkommen til Tarnwell. Lad os sætte din første sikkerhedskopiering op.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Ingen indstillinger blev ændret.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Se status for hver enkelt fil</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Fortsæt</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Luk disse programmer, og start dem igen bagefter</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL-kryptering</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Den lokale mappe kan ikke findes. Flyt den tilbage til dens oprindelige placering, eller frakobl opgaven, og opret den igen.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Serveren sendte et svar, som Tarnwell ikke forstår. Kontroller, at begge dele er opdateret.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Ved dobbeltklik på systembakkeikonet</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Denne fil kan ikke downloades. Den er måske blevet flyttet eller slettet på serveren.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Forkert version</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Hvis du vil synkronisere flere mapper, kan du når som helst tilføje en opgave i Tarnwell.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Direkte forbindelse</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Der er ikke forbindelse til serveren. Kontroller din netværksforbindelse, og prøv igen.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>I dag</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>SSL-certifikatet kunne ikke bekræftes.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Indtast dit brugernavn.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Den delte mappe er ikke monteret på serveren. Bed din administrator om at montere den.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Ikonmærker viser, hvordan det går med dine filer. Et grønt flueben betyder, at en fil er opdateret.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Indtast et filnavn, der skal udelades</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Nogle filer blev ikke synkroniseret</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Avanceret opsætningsguide</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Brug et sort-hvidt systembakkeikon</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Vil du afslutte installationsprogrammet til [ProductName], før det er færdigt?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>%1 kunne ikke downloades. Kontroller forbindelsen til serveren, og prøv igen.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>april</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Installationsprogrammet til [ProductName] blev stoppet af en fejl, før det var færdigt. Computeren er ikke blevet ændret. Genstart installationsprogrammet for at prøve igen.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Opgavens synkroniseringsretning passer ikke til din tilladelse på serveren. Vælg en anden synkroniseringsretning.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Du har ikke tilladelse til at bruge denne delte mappe. Bed din administrator om adgang.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Du kan bruge den eksisterende opgave eller oprette en ny i en anden mappe.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>En anden opgave synkroniserer allerede denne mappe. Vælg en anden.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Opgaven findes allerede</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Opgaven kunne ikke oprettes. Kontroller dine indstillinger, og prøv igen.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Sidste måned</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Der er allerede installeret en nyere version af Tarnwell. Hvis du vil installere denne version, skal du først afinstallere den nyere.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>De tidligere versioner af denne fil kan ikke vises. Kontroller forbindelsen til serveren, og prøv igen.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>Juni</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Das SSL-Zertifikat des Servers konnte nicht überprüft werden. Prüfen Sie die Serveradresse oder bitten Sie Ihren Administrator um Hilfe.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Einige Ihrer Angaben sind ungültig. Prüfen Sie Ihre Eingaben und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Entkoppeln</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Repariert [ProductName], indem fehlende oder beschädigte Dateien, Verknüpfungen und Registrierungseinträge ersetzt werden.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Lokales Netzwerk</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Wählen Sie die Ordner, den Sync-Modus und die Filter selbst aus.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Symbol im Infobereich</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Aufgabe für „%1“ entkoppeln? Die Dateien, die sich auf diesem Computer und auf dem Server befinden, werden nicht gelöscht.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Sync-Problem</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Die Sync-Datenbank kann nicht gelesen werden. Starten Sie Tarnwell neu. Falls das Problem weiterhin auftritt, entkoppeln Sie die Aufgabe und richten Sie sie neu ein.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Tarnwell bei der Benutzeranmeldung starten</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Klicken Sie mit der rechten Maustaste auf das Symbol im Infobereich, um eine Aufgabe zu pausieren, ihren Ordner zu öffnen oder ihre Einstellungen zu ändern.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Geben Sie 0 ein, wenn Sie die Dateigröße nicht begrenzen möchten.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Das Installationsprogramm für [ProductName] ist fertig</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Einige Dateien konnten nicht synchronisiert werden. Öffnen Sie Tarnwell, um die Details zu sehen.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Diese OrvaneLink-ID gibt es nicht. Prüfen Sie die ID und geben Sie sie erneut ein.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>„%1“ wurde heruntergeladen.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Pausieren</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>„%1“ aus der Liste entfernen? Der Ordner selbst wird nicht gelöscht.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Dieser Benutzername konnte nicht überprüft werden. Stellen Sie sicher, dass der Server erreichbar ist, und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Wählen Sie einen Ordner auf diesem Computer aus. Sein Inhalt wird mit dem Server synchronisiert.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Der Ordner ist nicht leer</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Dateien mit genau diesem Namen werden nie synchronisiert, egal in welchem Ordner sie sich befinden.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Es konnte keine sichere Verbindung hergestellt werden. Prüfen Sie die SSL-Einstellungen des Servers und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Ordner</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Das ist keine gültige OrvaneLink-ID. Verwenden Sie nur Buchstaben, Ziffern und Bindestriche.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Netzwerkeinstellungen</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Der Server konnte wegen eines Systemfehlers nicht gefunden werden. Versuchen Sie es erneut oder geben Sie stattdessen seine Adresse ein.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 ist verfügbar. Klicken Sie hier, um das Update zu installieren.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Wählen Sie aus, was geschehen soll, wenn eine Datei sowohl auf dem Computer als auch auf dem Server geändert wurde.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Geben Sie die OrvaneLink-ID Ihrer Orvane Station ein. Tarnwell verbindet sich über OrvaneLink mit ihr, auch wenn Sie unterwegs sind.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Sie können diesen Ordner ansehen, aber Ihre Änderungen werden nicht hochgeladen.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Einseitige Synchronisierung vom Server auf diesen Computer</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Der freigegebene Ordner „%1“ kann jetzt synchronisiert werden.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Ausgeschlossene Dateien</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Die Synchronisierung konnte für diesen Ordner nicht eingeschaltet werden. Prüfen Sie Ihre Berechtigungen auf dem Server und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Dieser Ordner überschneidet sich mit einem Ordner, der bereits synchronisiert wird. Wählen Sie einen Ordner aus, der weder darin enthalten noch ihm übergeordnet ist.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Nein, danke</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Diese Meldung nicht mehr anzeigen</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Alles ist eingerichtet. Tarnwell hat mit dem Backup Ihrer Dateien begonnen.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Überlassen Sie Tarnwell die üblichen Einstellungen oder wählen Sie sie selbst aus.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Es kann kein Link zu dieser Datei erstellt werden. Stellen Sie sicher, dass die Datei hochgeladen wurde und dass Sie die Berechtigung haben, sie zu teilen.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Diese Ordner wieder synchronisieren</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Diese Datei wurde sowohl auf dem Computer als auch auf dem Server geändert. Vergleichen Sie die beiden Versionen und löschen Sie die, die Sie nicht benötigen.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Legen Sie Dateien in den lokalen Ordner und Tarnwell sichert sie für Sie auf dem Server.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Der Ordner „%1“ konnte nicht erstellt werden. Prüfen Sie Ihre Berechtigungen oder wählen Sie einen anderen Ort aus.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Wählen Sie den freigegebenen Ordner auf dem Server aus, mit dem synchronisiert werden soll.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Sie haben das Installationsprogramm für [ProductName] abgebrochen, bevor es fertig war. Ihr Computer wurde nicht verändert. Sie können das Installationsprogramm jederzeit erneut ausführen.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Bereitschaft</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Das Backup konnte nicht abgeschlossen werden. Prüfen Sie die Verbindung zum Server und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Diese Programme geöffnet lassen (Neustart erforderlich)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Sie haben keine Berechtigung, mit diesem Ordner zu synchronisieren. Wählen Sie einen Ordner aus, auf den Sie Zugriff haben.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell wird bereits ausgeführt. Sie können es über den Infobereich öffnen.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Dateien, auf die einer dieser Filter zutrifft, werden nicht synchronisiert.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Februar</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Die Festplatte mit dem lokalen Ordner ist nicht angeschlossen. Schließen Sie sie an und setzen Sie die Aufgabe fort.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Sie sind nicht als Administrator angemeldet. Tarnwell wird daher nur für Ihr Konto installiert. Möchten Sie fortfahren?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Hochgeladen</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Alles bereit!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Sie können diesen Ordner nur lesen. Dateien werden heruntergeladen, aber Ihre Änderungen werden nicht hochgeladen.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Der Serverordner liegt auf einem Remote-Speicher, der derzeit nicht verbunden ist. Bitten Sie Ihren Administrator, ihn wieder zu verbinden.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Einträge: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Dieser Ordner ist ein Einhängepunkt und kann nicht synchronisiert werden. Wählen Sie einen normalen Ordner aus.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Der Server hat Ihre IP-Adresse gesperrt. Bitten Sie Ihren Administrator, sie zu entsperren.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell konnte nicht aktualisiert werden. Versuchen Sie es später erneut oder laden Sie die neueste Version selbst herunter.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Wird verbunden …</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell konnte nicht richtig gestartet werden. Starten Sie Ihren Computer neu. Falls das Problem weiterhin auftritt, installieren Sie Tarnwell erneut.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Neue Sync-Aufgabe</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Keinen Proxy verwenden</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Aktion</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>[ProductName] ändern, reparieren oder entfernen</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Einstellungen prüfen</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Ordner, die Sie hier abwählen, werden von diesem Computer entfernt. Auf dem Server bleiben sie erhalten.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Das Herunterladen wurde abgebrochen.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink konnte den Server nicht erreichen. Prüfen Sie Ihre Internetverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Dieser Ordner befindet sich auf einem Netzlaufwerk. Änderungen, die andere dort vornehmen, werden möglicherweise nicht sofort erkannt.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Dieser Ordner kann nicht synchronisiert werden. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>„%1“ konnte nicht aus der Liste entfernt werden. Versuchen Sie es später erneut.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Schließen Sie diese Programme und klicken Sie auf „Wiederholen“ oder klicken Sie auf „Ignorieren“, um fortzufahren und Ihren Computer danach neu zu starten.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Die Verbindung zum Server wurde unterbrochen. Tarnwell stellt sie so bald wie möglich wieder her.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Willkommen bei Tarnwell. Richten Sie jetzt Ihr erstes Backup ein.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Es wurden keine Einstellungen geändert.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Dateistatus auf einen Blick</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Fortfahren</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Diese Programme schließen und danach neu starten</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL-Verschlüsselung</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Der lokale Ordner wurde nicht gefunden. Verschieben Sie ihn zurück an seinen Ort oder entkoppeln Sie die Aufgabe und richten Sie sie neu ein.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Gesperrte Datei</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Der Server hat eine Antwort gesendet, die Tarnwell nicht versteht. Stellen Sie sicher, dass beide aktuell sind.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Bei Doppelklick auf das Symbol im Infobereich</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Diese Datei kann nicht heruntergeladen werden. Möglicherweise wurde sie auf dem Server verschoben oder gelöscht.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Version passt nicht</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Um weitere Ordner zu synchronisieren, können Sie in Tarnwell jederzeit eine Aufgabe hinzufügen.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Direkte Verbindung</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Der Server ist nicht erreichbar. Prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Heute</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Das SSL-Zertifikat konnte nicht überprüft werden.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Geben Sie Ihren Benutzernamen ein.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Der freigegebene Ordner ist auf dem Server nicht eingehängt. Bitten Sie Ihren Administrator, ihn einzuhängen.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Statussymbole zeigen Ihnen, wie es um Ihre Dateien steht. Ein grünes Häkchen bedeutet, dass eine Datei aktuell ist.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Auszuschließenden Dateinamen eingeben</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Einige Dateien nicht synchronisiert</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Erweiterter Einrichtungsassistent</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Schwarz-weißes Symbol im Infobereich verwenden</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Möchten Sie das Installationsprogramm für [ProductName] beenden, bevor es fertig ist?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>„%1“ konnte nicht heruntergeladen werden. Prüfen Sie die Verbindung zum Server und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>April</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Das Installationsprogramm für [ProductName] wurde durch einen Fehler vorzeitig beendet. Ihr Computer wurde nicht verändert. Starten Sie das Installationsprogramm neu, um es erneut zu versuchen.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Die Sync-Richtung dieser Aufgabe passt nicht zu Ihrer Berechtigung auf dem Server. Wählen Sie eine andere Sync-Richtung aus.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Sie haben keine Berechtigung, diesen freigegebenen Ordner zu verwenden. Bitten Sie Ihren Administrator um Zugriff.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Sie können die vorhandene Aufgabe verwenden oder eine neue in einem anderen Ordner einrichten.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Dieser Ordner wird bereits von einer anderen Aufgabe synchronisiert. Wählen Sie einen anderen aus.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Diese Aufgabe ist bereits vorhanden</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Die Aufgabe konnte nicht erstellt werden. Prüfen Sie Ihre Einstellungen und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Letzter Monat</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Eine neuere Version von Tarnwell ist bereits installiert. Um diese Version zu installieren, deinstallieren Sie zuerst die neuere.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Die früheren Versionen dieser Datei können nicht angezeigt werden. Prüfen Sie die Verbindung zum Server und versuchen Sie es erneut.</translation>
     </message>
 </context>

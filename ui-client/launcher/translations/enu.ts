@@ -68,20 +68,20 @@
         <translation>June</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
-        <translation>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</translation>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
+        <translation>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
-        <translation>Some of the information you entered isn&apos;t valid. Check it and try again.</translation>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
+        <translation>Some of the information you entered isn’t valid. Check it and try again.</translation>
     </message>
     <message>
         <source>Unlink</source>
         <translation>Unlink</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
-        <translation>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</translation>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
+        <translation>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</translation>
     </message>
     <message>
         <source>Welcome to %1</source>
@@ -124,8 +124,8 @@
         <translation>Local network</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
-        <translation>Choose each folder, the sync mode and the filters yourself.</translation>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
+        <translation>Choose each folder, the sync mode, and the filters yourself.</translation>
     </message>
     <message>
         <source>August</source>
@@ -148,8 +148,8 @@
         <translation>Tray icon</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
-        <translation>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</translation>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
+        <translation>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -224,8 +224,8 @@
         <translation>Sync problem</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
-        <translation>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</translation>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <translation>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete files you no longer need or ask your administrator for a larger quota.</source>
@@ -248,12 +248,12 @@
         <translation>Start Tarnwell upon user login</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
-        <translation>Right-click the tray icon to pause a task, open its folder or change its settings.</translation>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
+        <translation>Right-click the tray icon to pause a task, open its folder, or change its settings.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
-        <translation>Enter 0 if you don&apos;t want to limit the file size.</translation>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
+        <translation>Enter 0 if you don’t want to limit the file size.</translation>
     </message>
     <message>
         <source>Choose folders to back up</source>
@@ -300,8 +300,8 @@
         <translation>The [ProductName] installer has finished</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
-        <translation>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</translation>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
+        <translation>Some files couldn’t be synced. Open Tarnwell to see the details.</translation>
     </message>
     <message>
         <source>The disk that holds this shared folder is full. Choose a shared folder on another disk or free up some space.</source>
@@ -316,12 +316,12 @@
         <translation>Cancel</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
-        <translation>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</translation>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
+        <translation>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
-        <translation>%1 has been downloaded.</translation>
+        <source>“%1” has been downloaded.</source>
+        <translation>“%1” has been downloaded.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -336,12 +336,12 @@
         <translation>Pause</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
-        <translation>Remove %1 from the list? The folder itself won&apos;t be deleted.</translation>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
+        <translation>Remove “%1” from the list? The folder itself won’t be deleted.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
-        <translation>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</translation>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
+        <translation>This username couldn’t be checked. Make sure that the server is reachable and try again.</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -360,16 +360,16 @@
         <translation>Choose a folder on this computer. Its contents will be synced with the server.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
-        <translation>The folder isn&apos;t empty</translation>
+        <source>The folder isn’t empty</source>
+        <translation>The folder isn’t empty</translation>
     </message>
     <message>
         <source>Files with exactly this name are never synced, whatever folder they are in.</source>
         <translation>Files with exactly this name are never synced, whatever folder they are in.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
-        <translation>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</translation>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
+        <translation>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -384,8 +384,8 @@
         <translation>Folders</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
-        <translation>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</translation>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
+        <translation>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</translation>
     </message>
     <message>
         <source>Enter a port number between 1 and 65535.</source>
@@ -408,8 +408,8 @@
         <translation>Network settings</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
-        <translation>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</translation>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
+        <translation>The server couldn’t be found because of a system error. Try again or enter its address instead.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -516,8 +516,8 @@
         <translation>Tarnwell %1 is available. Click here to update.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
-        <translation>Choose what happens when a file was changed on both the computer and the server.</translation>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
+        <translation>Choose what happens when a file has been changed on both the computer and the server.</translation>
     </message>
     <message>
         <source>The installer is ready to remove [ProductName].</source>
@@ -532,8 +532,8 @@
         <translation>Enter the OrvaneLink ID of your Orvane Station. Tarnwell connects to it through OrvaneLink, even when you are away.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
-        <translation>You can view this folder, but your changes won&apos;t be uploaded.</translation>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
+        <translation>You can view this folder, but your changes won’t be uploaded.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -544,8 +544,8 @@
         <translation>One-way sync from the server to this computer</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
-        <translation>The shared folder %1 is ready to be synced.</translation>
+        <source>The shared folder “%1” is ready to be synced.</source>
+        <translation>The shared folder “%1” is ready to be synced.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -600,12 +600,12 @@
         <translation>Excluded files</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
-        <translation>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</translation>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <translation>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
-        <translation>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</translation>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
+        <translation>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -660,8 +660,8 @@
         <translation>No, thanks</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
-        <translation>Don&apos;t show this message again</translation>
+        <source>Don’t show this message again</source>
+        <translation>Don’t show this message again</translation>
     </message>
     <message>
         <source>To use selective sync, update the sync package on the server first.</source>
@@ -680,12 +680,12 @@
         <translation>Everything is set up. Tarnwell has started to back up your files.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
-        <translation>Let Tarnwell choose the usual settings, or choose them yourself.</translation>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
+        <translation>Let Tarnwell choose the settings for you, or choose them yourself.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
-        <translation>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</translation>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <translation>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</translation>
     </message>
     <message>
         <source>Quit Tarnwell</source>
@@ -708,8 +708,8 @@
         <translation>Include these folders in sync again</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
-        <translation>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</translation>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
+        <translation>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</translation>
     </message>
     <message>
         <source>December</source>
@@ -760,8 +760,8 @@
         <translation>Put files into the local folder, and Tarnwell backs them up to the server for you.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
-        <translation>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</translation>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
+        <translation>The folder “%1” couldn’t be created. Check your permissions or choose another location.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -772,8 +772,8 @@
         <translation>Choose the shared folder on the server to sync with.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
-        <translation>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</translation>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
+        <translation>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -804,8 +804,8 @@
         <translation>Standby</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
-        <translation>The backup couldn&apos;t be completed. Check the connection to the server and try again.</translation>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
+        <translation>The backup couldn’t be completed. Check the connection to the server and try again.</translation>
     </message>
     <message>
         <source>More tutorials</source>
@@ -824,16 +824,16 @@
         <translation>Leave these programs open (requires a restart)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
-        <translation>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</translation>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <translation>You don’t have permission to sync with this folder. Choose a folder that you have access to.</translation>
     </message>
     <message>
         <source>Tarnwell is already running. You can open it from the tray.</source>
         <translation>Tarnwell is already running. You can open it from the tray.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
-        <translation>Files that match one of these filters aren&apos;t synced.</translation>
+        <source>Files that match one of these filters aren’t synced.</source>
+        <translation>Files that match one of these filters aren’t synced.</translation>
     </message>
     <message>
         <source>Task options</source>
@@ -848,12 +848,12 @@
         <translation>February</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
-        <translation>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</translation>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
+        <translation>The disk with the local folder isn’t connected. Connect it and resume the task.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
-        <translation>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</translation>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <translation>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</translation>
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
@@ -880,16 +880,16 @@
         <translation>Uploaded</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
-        <translation>You&apos;re all set!</translation>
+        <source>You’re all set!</source>
+        <translation>You’re all set!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
-        <translation>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</translation>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
+        <translation>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
-        <translation>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</translation>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
+        <translation>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Do you want to merge the two folders?</source>
@@ -904,16 +904,16 @@
         <translation>%1 item(s)</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
-        <translation>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</translation>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
+        <translation>This folder is a mount point and can’t be synced. Choose a regular folder.</translation>
     </message>
     <message>
         <source>The server has blocked your IP address. Ask your administrator to unblock it.</source>
         <translation>The server has blocked your IP address. Ask your administrator to unblock it.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
-        <translation>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</translation>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
+        <translation>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</translation>
     </message>
     <message>
         <source>You have read-only permission for this shared folder. Files will only be downloaded. Do you want to use it?</source>
@@ -928,16 +928,16 @@
         <translation>Connecting...</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
-        <translation>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</translation>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <translation>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</translation>
     </message>
     <message>
         <source>New sync task</source>
         <translation>New sync task</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
-        <translation>Don&apos;t use a proxy</translation>
+        <source>Don’t use a proxy</source>
+        <translation>Don’t use a proxy</translation>
     </message>
     <message>
         <source>Choose a folder on this computer</source>
@@ -948,8 +948,8 @@
         <translation>Action</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
-        <translation>Change, repair or remove [ProductName]</translation>
+        <source>Change, repair, or remove [ProductName]</source>
+        <translation>Change, repair, or remove [ProductName]</translation>
     </message>
     <message>
         <source>Enter a file name or a file extension, for example *.tmp</source>
@@ -1016,8 +1016,8 @@
         <translation>Check your settings</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
-        <translation>Folders that you clear here will be removed from this computer. They stay on the server.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
+        <translation>Folders that you deselect here will be removed from this computer. They stay on the server.</translation>
     </message>
     <message>
         <source>The sync package on the server is too old.</source>
@@ -1036,8 +1036,8 @@
         <translation>The download was canceled.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
-        <translation>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</translation>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
+        <translation>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1052,8 +1052,8 @@
         <translation>This folder is on a network drive. Changes that others make there may not be noticed right away.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
-        <translation>This folder can&apos;t be synced. Choose a different folder.</translation>
+        <source>This folder can’t be synced. Choose a different folder.</source>
+        <translation>This folder can’t be synced. Choose a different folder.</translation>
     </message>
     <message>
         <source>January</source>
@@ -1112,8 +1112,8 @@
         <translation>Language</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
-        <translation>%1 couldn&apos;t be removed from the list. Try again later.</translation>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
+        <translation>“%1” couldn’t be removed from the list. Try again later.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1128,8 +1128,8 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
-        <translation>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</translation>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
+        <translation>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</translation>
     </message>
     <message>
         <source>Tarnwell does the backup of the files on your computer to your server and keeps them the same in both places.</source>
@@ -1232,8 +1232,8 @@
         <translation>The connection to the server was lost. Tarnwell will reconnect as soon as possible.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
-        <translation>Welcome to Tarnwell. Let&apos;s set up your first backup.</translation>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
+        <translation>Welcome to Tarnwell. Let’s set up your first backup.</translation>
     </message>
     <message>
         <source>Stop syncing this shared folder? The files already on this computer will be kept.</source>
@@ -1308,8 +1308,8 @@
         <translation>No settings were changed.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
-        <translation>See the state of every file</translation>
+        <source>See the status of every file</source>
+        <translation>See the status of every file</translation>
     </message>
     <message>
         <source>October</source>
@@ -1320,8 +1320,8 @@
         <translation>Continue</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
-        <translation>Close these programs and restart them afterwards</translation>
+        <source>Close these programs and restart them afterward</source>
+        <translation>Close these programs and restart them afterward</translation>
     </message>
     <message>
         <source>Checking the password...</source>
@@ -1428,8 +1428,8 @@
         <translation>SSL encryption</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
-        <translation>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</translation>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
+        <translation>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1500,8 +1500,8 @@
         <translation>Locked file</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
-        <translation>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</translation>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
+        <translation>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</translation>
     </message>
     <message>
         <source>Mount point</source>
@@ -1528,8 +1528,8 @@
         <translation>When the tray icon is double-clicked</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
-        <translation>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</translation>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
+        <translation>This file can’t be downloaded. It may have been moved or deleted on the server.</translation>
     </message>
     <message>
         <source>Connecting through OrvaneLink...</source>
@@ -1576,8 +1576,8 @@
         <translation>Version mismatch</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
-        <translation>To sync more folders, add a task in Tarnwell at any time.</translation>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
+        <translation>To sync more folders, you can add a task in Tarnwell at any time.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1640,8 +1640,8 @@
         <translation>Direct connection</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
-        <translation>The server can&apos;t be reached. Check your network connection and try again.</translation>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
+        <translation>The server can’t be reached. Check your network connection and try again.</translation>
     </message>
     <message>
         <source>Sync with another server</source>
@@ -1720,8 +1720,8 @@
         <translation>Today</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
-        <translation>The SSL certificate couldn&apos;t be verified.</translation>
+        <source>The SSL certificate couldn’t be verified.</source>
+        <translation>The SSL certificate couldn’t be verified.</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -1744,12 +1744,12 @@
         <translation>Enter your username.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
-        <translation>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</translation>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
+        <translation>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
-        <translation>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</translation>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
+        <translation>Icon overlays show the status of your files. A green check mark means that a file is up to date.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1800,8 +1800,8 @@
         <translation>Enter a file name to exclude</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
-        <translation>Some files weren&apos;t synced</translation>
+        <source>Some files weren’t synced</source>
+        <translation>Some files weren’t synced</translation>
     </message>
     <message>
         <source>System language</source>
@@ -1812,8 +1812,8 @@
         <translation>Advanced setup wizard</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Use a black and white tray icon</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation>Use a black-and-white tray icon</translation>
     </message>
     <message>
         <source>Connection type</source>
@@ -1828,8 +1828,8 @@
         <translation>Do you want to exit the [ProductName] installer before it has finished?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
-        <translation>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</translation>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
+        <translation>“%1” couldn’t be downloaded. Check the connection to the server and try again.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1848,16 +1848,16 @@
         <translation>April</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
-        <translation>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</translation>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
+        <translation>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
-        <translation>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</translation>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
+        <translation>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
-        <translation>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</translation>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
+        <translation>You don’t have permission to use this shared folder. Ask your administrator for access.</translation>
     </message>
     <message>
         <source>This may take a few minutes.</source>
@@ -1876,8 +1876,8 @@
         <translation>You can use the existing task, or set up a new one in a different folder.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
-        <translation>Another task already syncs this folder. Choose a different one.</translation>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
+        <translation>Another task already syncs this folder. Choose a different folder.</translation>
     </message>
     <message>
         <source>Show sync status</source>
@@ -1936,8 +1936,8 @@
         <translation>This task already exists</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
-        <translation>The task couldn&apos;t be created. Check your settings and try again.</translation>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
+        <translation>The task couldn’t be created. Check your settings and try again.</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -1980,12 +1980,12 @@
         <translation>Last month</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
-        <translation>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</translation>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
+        <translation>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
-        <translation>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</translation>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
+        <translation>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</translation>
     </message>
 </context>
 </TS>

@@ -68,11 +68,11 @@
         <translation>Junio</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>No se ha podido verificar el certificado SSL del servidor. Compruebe la dirección del servidor o pida ayuda a su administrador.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Algunos de los datos introducidos no son válidos. Compruébelos e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Desvincular</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Repara [ProductName] reemplazando los archivos, accesos directos y entradas del Registro que falten o estén dañados.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Red local</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Elija usted cada carpeta, el modo de sincronización y los filtros.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Icono de la bandeja</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>¿Desea desvincular la tarea de «%1»? Los archivos que ya están en este equipo y en el servidor no se eliminarán.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Error al sincronizar</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>No se puede leer la base de datos de sincronización. Reinicie Tarnwell. Si el problema continúa, desvincule la tarea y configúrela de nuevo.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Abrir Tarnwell al iniciar sesión</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Haga clic con el botón derecho en el icono de la bandeja para pausar una tarea, abrir su carpeta o cambiar sus ajustes.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Introduzca 0 si no desea limitar el tamaño de los archivos.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>El instalador de [ProductName] ha terminado</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>No se han podido sincronizar algunos archivos. Abra Tarnwell para ver los detalles.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Este ID de OrvaneLink no existe. Compruebe el ID e introdúzcalo de nuevo.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>Se ha descargado «%1».</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Pausar</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>¿Desea quitar «%1» de la lista? La carpeta en sí no se eliminará.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>No se ha podido comprobar este nombre de usuario. Asegúrese de que se puede acceder al servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Elija una carpeta de este equipo. Su contenido se sincronizará con el servidor.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>La carpeta no está vacía</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Los archivos que se llamen exactamente así no se sincronizarán nunca, sea cual sea la carpeta en la que estén.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>No se ha podido establecer una conexión segura. Compruebe los ajustes de SSL del servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Carpetas</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Este no es un ID de OrvaneLink válido. Use solo letras, cifras y guiones.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Ajustes de red</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>No se ha podido encontrar el servidor debido a un error del sistema. Inténtelo de nuevo o introduzca la dirección del servidor.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 está disponible. Haga clic aquí para actualizar.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Elija qué ocurre cuando un archivo se ha modificado tanto en el equipo como en el servidor.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Introduzca el ID de OrvaneLink de su Orvane Station. Tarnwell se conecta con él mediante OrvaneLink, incluso cuando usted está fuera.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Puede ver esta carpeta, pero sus cambios no se subirán.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Sincronización unidireccional del servidor a este equipo</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>La carpeta compartida «%1» está lista para sincronizarse.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Archivos excluidos</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>No se ha podido activar la sincronización de esta carpeta. Compruebe sus permisos en el servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Esta carpeta coincide en parte con otra que ya se sincroniza. Elija una carpeta que no esté dentro de ella ni la contenga.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>No, gracias</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>No volver a mostrar este mensaje</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Todo está configurado. Tarnwell ha empezado a hacer copia de seguridad de sus archivos.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Deje que Tarnwell elija los ajustes habituales o elíjalos usted.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>No se puede crear un enlace a este archivo. Asegúrese de que el archivo se ha subido y de que tiene permiso para compartirlo.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Volver a incluir estas carpetas en la sincronización</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Este archivo se ha modificado tanto en el equipo como en el servidor. Compare las dos versiones y elimine la que no necesite.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Ponga archivos en la carpeta local y Tarnwell hará por usted la copia de seguridad en el servidor.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>No se ha podido crear la carpeta «%1». Compruebe sus permisos o elija otra ubicación.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Elija la carpeta compartida del servidor con la que desea sincronizar.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Ha cancelado el instalador de [ProductName] antes de que terminara. No se han hecho cambios en su equipo. Puede volver a ejecutar el instalador en cualquier momento.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>En reposo</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>No se ha podido completar la copia de seguridad. Compruebe la conexión con el servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Dejar abiertos estos programas (requiere reiniciar)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>No tiene permiso para sincronizar con esta carpeta. Elija una carpeta a la que tenga acceso.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell ya se está ejecutando. Puede abrirlo desde el icono de la bandeja.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Los archivos que coinciden con alguno de estos filtros no se sincronizan.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Febrero</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>El disco que contiene la carpeta local no está conectado. Conéctelo y reanude la tarea.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>No ha iniciado sesión como administrador, así que Tarnwell se instalará solo para su cuenta. ¿Desea continuar?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Subido</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>¡Todo listo!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Solo puede leer esta carpeta. Los archivos se descargarán, pero sus cambios no se subirán.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>La carpeta del servidor está en un almacenamiento remoto que ahora no está conectado. Pida a su administrador que vuelva a conectarlo.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Elementos: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Esta carpeta es un punto de montaje y no se puede sincronizar. Elija una carpeta normal.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>El servidor ha bloqueado su dirección IP. Pida a su administrador que la desbloquee.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>No se ha podido actualizar Tarnwell. Inténtelo de nuevo más tarde o descargue manualmente la versión más reciente.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Conectando…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell no se ha podido iniciar correctamente. Reinicie su equipo. Si el problema continúa, instale Tarnwell de nuevo.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nueva tarea de sincronización</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>No usar proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Acción</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Cambiar, reparar o quitar [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Revise sus ajustes</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Las carpetas que desmarque aquí se quitarán de este equipo, pero permanecerán en el servidor.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Se ha cancelado la descarga.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink no ha podido acceder al servidor. Compruebe su conexión a internet e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Esta carpeta está en una unidad de red. Es posible que los cambios que otras personas hagan en ella no se detecten de inmediato.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Esta carpeta no se puede sincronizar. Elija una carpeta distinta.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>No se ha podido quitar «%1» de la lista. Inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Estado</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Cierre estos programas y haga clic en «Reintentar», o haga clic en «Omitir» para continuar y reinicie después su equipo.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Se ha perdido la conexión con el servidor. Tarnwell volverá a conectarse en cuanto sea posible.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Bienvenido a Tarnwell. Vamos a configurar su primera copia de seguridad.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>No se ha cambiado ningún ajuste.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Vea el estado de cada archivo</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Continuar</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Cerrar estos programas y reiniciarlos después</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Cifrado SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>No se encuentra la carpeta local. Devuélvala a su sitio, o desvincule la tarea y configúrela de nuevo.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Archivo bloqueado</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>El servidor ha enviado una respuesta que Tarnwell no entiende. Asegúrese de que ambos están actualizados.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Al hacer doble clic en el icono de la bandeja</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>No se puede descargar este archivo. Es posible que se haya movido o eliminado en el servidor.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Versión incompatible</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Para sincronizar más carpetas, añada una tarea en Tarnwell en cualquier momento.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Conexión directa</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>No se puede acceder al servidor. Compruebe su conexión de red e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Hoy</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>No se ha podido verificar el certificado SSL.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Introduzca su nombre de usuario.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>La carpeta compartida no está montada en el servidor. Pida a su administrador que la monte.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Los iconos superpuestos muestran cómo están sus archivos. Una marca de verificación verde indica que un archivo está al día.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Introduzca un nombre de archivo para excluirlo</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Algunos archivos no se han sincronizado</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Asistente de configuración avanzada</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Usar un icono en blanco y negro en la bandeja</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>¿Desea salir del instalador de [ProductName] antes de que termine?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>No se ha podido descargar «%1». Compruebe la conexión con el servidor e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Abril</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Un error ha detenido el instalador de [ProductName] antes de que terminara. No se han hecho cambios en su equipo. Para intentarlo de nuevo, vuelva a iniciar el instalador.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>El sentido de sincronización de esta tarea no se corresponde con su permiso en el servidor. Elija otro sentido de sincronización.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>No tiene permiso para usar esta carpeta compartida. Pida acceso a su administrador.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Puede usar la tarea existente o configurar una nueva en una carpeta distinta.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Otra tarea ya sincroniza esta carpeta. Elija una distinta.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Esta tarea ya existe</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>No se ha podido crear la tarea. Compruebe sus ajustes e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Mes pasado</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Ya está instalada una versión más reciente de Tarnwell. Para instalar esta versión, desinstale primero la más reciente.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>No se pueden mostrar las versiones anteriores de este archivo. Compruebe la conexión con el servidor e inténtelo de nuevo.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>Juin</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Le certificat SSL du serveur n’a pas pu être vérifié. Vérifiez l’adresse du serveur ou demandez de l’aide à votre administrateur.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Certaines des informations saisies ne sont pas valides. Vérifiez-les et réessayez.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Dissocier</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Répare [ProductName] en remplaçant les fichiers, raccourcis et entrées de registre manquants ou endommagés.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Réseau local</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Choisissez vous-même chaque dossier, le mode de synchronisation et les filtres.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Icône de notification</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Dissocier la tâche « %1 » ? Les fichiers déjà présents sur cet ordinateur et sur le serveur ne seront pas supprimés.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Problème de synchro</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>La base de données de synchronisation est illisible. Relancez Tarnwell. Si le problème persiste, dissociez la tâche, puis configurez-la à nouveau.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Démarrer Tarnwell à l’ouverture de session</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Cliquez avec le bouton droit sur l’icône de la zone de notification pour suspendre une tâche, ouvrir son dossier ou modifier ses réglages.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Saisissez 0 pour ne pas limiter la taille des fichiers.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Le programme d’installation [ProductName] a terminé</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Certains fichiers n’ont pas pu être synchronisés. Ouvrez Tarnwell pour afficher les détails.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Cet identifiant OrvaneLink n’existe pas. Vérifiez-le et saisissez-le à nouveau.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>« %1 » a été téléchargé.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Suspendre</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Retirer « %1 » de la liste ? Le dossier lui-même ne sera pas supprimé.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Ce nom d’utilisateur n’a pas pu être vérifié. Assurez-vous que le serveur est joignable et réessayez.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Choisissez un dossier sur cet ordinateur. Son contenu sera synchronisé avec le serveur.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Le dossier n’est pas vide</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Les fichiers portant exactement ce nom ne sont jamais synchronisés, quel que soit le dossier où ils se trouvent.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Impossible d’établir une connexion sécurisée. Vérifiez les réglages SSL du serveur et réessayez.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Dossiers</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Cet identifiant OrvaneLink n’est pas valide. Utilisez uniquement des lettres, des chiffres et des traits d’union.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Réglages réseau</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Le serveur est introuvable en raison d’une erreur système. Réessayez ou saisissez plutôt son adresse.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 est disponible. Cliquez ici pour effectuer la mise à jour.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Choisissez ce qu’il faut faire lorsqu’un fichier a été modifié à la fois sur l’ordinateur et sur le serveur.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Saisissez l’identifiant OrvaneLink de votre Orvane Station. Tarnwell s’y connecte par OrvaneLink, même lorsque vous êtes en déplacement.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Vous pouvez consulter ce dossier, mais vos modifications ne seront pas téléversées.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Synchronisation unidirectionnelle du serveur vers cet ordinateur</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Le dossier partagé « %1 » est prêt à être synchronisé.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Fichiers exclus</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>La synchronisation n’a pas pu être activée pour ce dossier. Vérifiez vos autorisations sur le serveur et réessayez.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Ce dossier chevauche un dossier déjà synchronisé. Choisissez un dossier qui ne se trouve ni à l’intérieur ni au-dessus de celui-ci.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Non merci</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Ne plus afficher ce message</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Tout est configuré. Tarnwell a commencé à sauvegarder vos fichiers.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Laissez Tarnwell choisir les réglages habituels ou choisissez-les vous-même.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Impossible de créer un lien vers ce fichier. Assurez-vous que le fichier a été téléversé et que vous avez l’autorisation de le partager.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Réintégrer ces dossiers dans la synchronisation</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Ce fichier a été modifié à la fois sur l’ordinateur et sur le serveur. Comparez les deux versions et supprimez celle dont vous n’avez pas besoin.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Placez des fichiers dans le dossier local : Tarnwell les sauvegarde pour vous sur le serveur.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Le dossier « %1 » n’a pas pu être créé. Vérifiez vos autorisations ou choisissez un autre emplacement.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Choisissez le dossier partagé du serveur à utiliser pour la synchronisation.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Vous avez annulé le programme d’installation [ProductName] avant la fin de l’opération. Votre ordinateur n’a pas été modifié. Vous pouvez relancer le programme d’installation à tout moment.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>En veille</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>La sauvegarde n’a pas pu être terminée. Vérifiez la connexion au serveur et réessayez.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Laisser ces programmes ouverts (redémarrage nécessaire)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Vous n’avez pas l’autorisation d’utiliser ce dossier pour la synchronisation. Choisissez un dossier auquel vous avez accès.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell est déjà en cours d’exécution. Vous pouvez l’ouvrir depuis la zone de notification.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Les fichiers qui correspondent à l’un de ces filtres ne sont pas synchronisés.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Février</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Le disque qui contient le dossier local n’est pas connecté. Connectez-le et reprenez la tâche.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Votre session n’est pas ouverte avec un compte administrateur : Tarnwell sera donc installé uniquement pour votre compte. Voulez-vous continuer ?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Téléversé</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Tout est prêt !</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Vous pouvez uniquement lire ce dossier. Les fichiers seront téléchargés, mais vos modifications ne seront pas téléversées.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Le dossier du serveur se trouve sur un stockage distant qui n’est pas connecté actuellement. Demandez à votre administrateur de le reconnecter.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 élément(s)</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Ce dossier est un point de montage et ne peut pas être synchronisé. Choisissez un dossier ordinaire.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Le serveur a bloqué votre adresse IP. Demandez à votre administrateur de la débloquer.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell n’a pas pu être mis à jour. Réessayez plus tard ou téléchargez vous-même la dernière version.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Connexion…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell n’a pas pu démarrer correctement. Redémarrez votre ordinateur. Si le problème persiste, réinstallez Tarnwell.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nouvelle tâche de synchronisation</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Ne pas utiliser de proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Action</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Modifier, réparer ou retirer [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Vérifier les réglages</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Les dossiers que vous décochez ici seront retirés de cet ordinateur. Ils resteront sur le serveur.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Le téléchargement a été annulé.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink n’a pas pu joindre le serveur. Vérifiez votre connexion Internet et réessayez.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Ce dossier se trouve sur un lecteur réseau. Les modifications que d’autres personnes y apportent risquent de ne pas être détectées immédiatement.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Ce dossier ne peut pas être synchronisé. Choisissez un autre dossier.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Langue</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>« %1 » n’a pas pu être retiré de la liste. Réessayez plus tard.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>État</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Fermez ces programmes et cliquez sur Réessayer, ou cliquez sur Ignorer pour continuer et redémarrer votre ordinateur ensuite.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>La connexion au serveur a été perdue. Tarnwell se reconnectera dès que possible.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Bienvenue dans Tarnwell. Configurons votre première sauvegarde.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Aucun réglage n’a été modifié.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Voyez l’état de chaque fichier</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Continuer</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Fermer ces programmes et les relancer ensuite</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Chiffrement SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Le dossier local est introuvable. Remettez-le à son emplacement d’origine, ou dissociez la tâche et configurez-la à nouveau.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Fichier verrouillé</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Le serveur a envoyé une réponse que Tarnwell ne comprend pas. Assurez-vous que tous deux sont à jour.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Double-clic sur l’icône de la zone de notification</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Ce fichier ne peut pas être téléchargé. Il a peut-être été déplacé ou supprimé sur le serveur.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Versions incompatibles</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Pour synchroniser d’autres dossiers, ajoutez une tâche dans Tarnwell à tout moment.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Connexion directe</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Le serveur est injoignable. Vérifiez votre connexion réseau et réessayez.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Aujourd’hui</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Le certificat SSL n’a pas pu être vérifié.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Saisissez votre nom d’utilisateur.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Le dossier partagé n’est pas monté sur le serveur. Demandez à votre administrateur de le monter.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Les pastilles d’état vous renseignent sur vos fichiers. Une coche verte signifie qu’un fichier est à jour.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Saisissez un nom de fichier à exclure</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Certains fichiers n’ont pas été synchronisés</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Assistant de configuration avancée</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Utiliser une icône en noir et blanc dans la zone de notification</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Voulez-vous quitter le programme d’installation [ProductName] avant la fin de l’opération ?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>« %1 » n’a pas pu être téléchargé. Vérifiez la connexion au serveur et réessayez.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Avril</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Une erreur a interrompu le programme d’installation [ProductName] avant la fin de l’opération. Votre ordinateur n’a pas été modifié. Pour réessayer, relancez le programme d’installation.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Le sens de synchronisation de cette tâche ne correspond pas à votre autorisation sur le serveur. Choisissez un autre sens de synchronisation.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Vous n’avez pas l’autorisation d’utiliser ce dossier partagé. Demandez l’accès à votre administrateur.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Vous pouvez utiliser la tâche existante ou en configurer une nouvelle dans un autre dossier.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Une autre tâche synchronise déjà ce dossier. Choisissez-en un autre.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Cette tâche existe déjà</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>La tâche n’a pas pu être créée. Vérifiez vos réglages et réessayez.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Mois dernier</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Une version plus récente de Tarnwell est déjà installée. Pour installer cette version-ci, désinstallez d’abord la plus récente.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Impossible d’afficher les versions antérieures de ce fichier. Vérifiez la connexion au serveur et réessayez.</translation>
     </message>
 </context>

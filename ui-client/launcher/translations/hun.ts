@@ -68,11 +68,11 @@
         <translation>Június</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>A szerver SSL-tanúsítványát nem sikerült ellenőrizni. Ellenőrizze a szerver címét, vagy kérjen segítséget a rendszergazdától.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>A megadott adatok némelyike érvénytelen. Ellenőrizze őket, és próbálja újra.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Leválasztás</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>A hiányzó vagy sérült fájlok, parancsikonok és beállításjegyzék-bejegyzések pótlásával kijavítja a(z) [ProductName] programot.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Helyi hálózat</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Ön adja meg az egyes mappákat, a szinkronizálási módot és a szűrőket.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Tálcaikon</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Leválasztja ezt a feladatot: %1? A számítógépen és a szerveren már meglévő fájlok nem törlődnek.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Szinkronizálási hiba</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>A szinkronizálási adatbázis nem olvasható. Indítsa újra a Tarnwellt. Ha a hiba továbbra is fennáll, válassza le a feladatot, és állítsa be újra.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>A Tarnwell indítása bejelentkezéskor</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>A tálcaikonra jobb gombbal kattintva szüneteltetheti a feladatokat, megnyithatja a mappáikat, vagy módosíthatja a beállításaikat.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Ha nem szeretné korlátozni a fájlméretet, adjon meg 0 értéket.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>A(z) [ProductName] telepítője végzett</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Néhány fájlt nem sikerült szinkronizálni. A részletekért nyissa meg a Tarnwellt.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Mégse</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Ez az OrvaneLink-azonosító nem létezik. Ellenőrizze az azonosítót, és adja meg újra.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>A(z) %1 letöltése befejeződött.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Szüneteltetés</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Eltávolítja a listából a(z) %1 mappát? Maga a mappa nem törlődik.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>A felhasználónevet nem sikerült ellenőrizni. Győződjön meg arról, hogy a szerver elérhető, és próbálja újra.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Válasszon egy mappát ezen a számítógépen. Ennek tartalma szinkronizálva lesz a szerverrel.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>A mappa nem üres</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>A pontosan ilyen nevű fájlok soha nem szinkronizálódnak, bármelyik mappában is vannak.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Nem sikerült biztonságos kapcsolatot létesíteni. Ellenőrizze a szerver SSL-beállításait, és próbálja újra.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Mappák</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Ez nem érvényes OrvaneLink-azonosító. Csak betűket, számjegyeket és kötőjelet használjon.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Hálózati beállítások</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Rendszerhiba miatt a szerver nem található. Próbálja újra, vagy adja meg inkább a címét.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Elérhető a Tarnwell új verziója (%1). A frissítéshez kattintson ide.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Válassza ki, mi történjen, ha egy fájl a számítógépen és a szerveren is módosult.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Adja meg az Orvane Station OrvaneLink-azonosítóját. A Tarnwell az OrvaneLinken keresztül akkor is csatlakozik hozzá, amikor Ön távol van.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>A mappa tartalmát megtekintheti, de a módosításai nem lesznek feltöltve.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Egyirányú szinkronizálás a szerverről a számítógépre</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>A(z) %1 megosztott mappa készen áll a szinkronizálásra.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Kizárt fájlok</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Ennél a mappánál nem sikerült bekapcsolni a szinkronizálást. Ellenőrizze a szerveren a jogosultságait, és próbálja újra.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Ez a mappa átfedésben van egy már szinkronizált mappával. Olyan mappát válasszon, amely nem annak almappája vagy szülőmappája.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Köszönöm, nem</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Ne jelenjen meg többé ez az üzenet</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Minden be van állítva. A Tarnwell megkezdte a fájlok biztonsági mentését.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>A szokásos beállításokat a Tarnwellre bízhatja, de maga is megadhatja őket.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Ehhez a fájlhoz nem hozható létre hivatkozás. Győződjön meg arról, hogy a fájl fel van töltve, és hogy van jogosultsága a megosztására.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>A mappák újbóli szinkronizálása</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Ez a fájl a számítógépen és a szerveren is módosult. Hasonlítsa össze a két verziót, és törölje azt, amelyikre nincs szüksége.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Helyezzen fájlokat a helyi mappába, és a Tarnwell biztonsági mentést készít róluk a szerverre.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>A(z) %1 mappát nem sikerült létrehozni. Ellenőrizze a jogosultságait, vagy válasszon másik helyet.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Válassza ki azt a megosztott mappát a szerveren, amellyel szinkronizálni szeretne.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>A(z) [ProductName] telepítőjét a befejezés előtt megszakította. A számítógépen nem történt változás. A telepítőt bármikor újra futtathatja.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Készenlét</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>A biztonsági mentés nem fejeződött be. Ellenőrizze a kapcsolatot a szerverrel, és próbálja újra.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>A programok nyitva hagyása (újraindítást igényel)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Nincs jogosultsága szinkronizálni ezzel a mappával. Olyan mappát válasszon, amelyhez van hozzáférése.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>A Tarnwell már fut. A tálcáról nyithatja meg.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Az itt szereplő szűrők bármelyikének megfelelő fájlok nem szinkronizálódnak.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Február</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>A helyi mappát tartalmazó lemez nincs csatlakoztatva. Csatlakoztassa, és folytassa a feladatot.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Nem rendszergazdaként jelentkezett be, ezért a Tarnwell csak az Ön fiókjába lesz telepítve. Folytatja a telepítést?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Feltöltve</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Minden készen áll!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Ehhez a mappához csak olvasási jogosultsága van. A fájlok letöltődnek, de a módosításai nem lesznek feltöltve.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>A szervermappa olyan távoli tárhelyen van, amely most nincs csatlakoztatva. Kérje meg a rendszergazdát, hogy csatlakoztassa újra.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 elem</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Ez a mappa csatolási pont, ezért nem szinkronizálható. Válasszon szokványos mappát.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>A szerver letiltotta az IP-címét. Kérje meg a rendszergazdát a letiltás feloldására.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>A Tarnwell frissítése nem sikerült. Próbálja újra később, vagy töltse le saját maga a legújabb verziót.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Csatlakozás…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>A Tarnwell nem tudott megfelelően elindulni. Indítsa újra a számítógépet. Ha a hiba továbbra is fennáll, telepítse újra a Tarnwellt.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Új szinkronizálási feladat</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Proxy nélkül</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Művelet</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>A(z) [ProductName] módosítása, javítása vagy eltávolítása</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Ellenőrizze a beállításokat</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Azok a mappák, amelyeknek itt törli a jelölését, el lesznek távolítva erről a számítógépről. A szerveren megmaradnak.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>A letöltés meg lett szakítva.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>Az OrvaneLink nem tudta elérni a szervert. Ellenőrizze az internetkapcsolatot, és próbálja újra.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Ez a mappa hálózati meghajtón van. A mások által végzett módosítások esetleg nem azonnal észlelhetők.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Ez a mappa nem szinkronizálható. Válasszon másik mappát.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Nyelv</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>A(z) %1 mappát nem sikerült eltávolítani a listából. Próbálja újra később.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Állapot</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Zárja be ezeket a programokat, és kattintson az Újra gombra. Ha inkább folytatja, és utána indítja újra a számítógépet, kattintson a Kihagyás gombra.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Megszakadt a kapcsolat a szerverrel. A Tarnwell a lehető leghamarabb újra csatlakozik.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Üdvözli a Tarnwell. Állítsuk be az első biztonsági mentést.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Nem módosultak a beállítások.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>A fájlok állapota egy pillantásra</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Továbblépés</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>A programok bezárása, majd újraindítása</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL-titkosítás</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>A helyi mappa nem található. Helyezze vissza az eredeti helyére, vagy válassza le a feladatot, és állítsa be újra.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Zárolt fájl</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>A szerver olyan választ küldött, amelyet a Tarnwell nem tud értelmezni. Győződjön meg arról, hogy mindkettő naprakész.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Dupla kattintás a tálcaikonra</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Ez a fájl nem tölthető le. Lehet, hogy áthelyezték vagy törölték a szerveren.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Eltérő verzió</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>További mappák szinkronizálásához bármikor hozzáadhat egy feladatot a Tarnwellben.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Közvetlen kapcsolat</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>A szerver nem érhető el. Ellenőrizze a hálózati kapcsolatot, és próbálja újra.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Ma</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Az SSL-tanúsítványt nem sikerült ellenőrizni.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Adja meg a felhasználónevét.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>A megosztott mappa nincs csatolva a szerveren. Kérje meg a rendszergazdát, hogy csatolja.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Az ikonjelzések mutatják, milyen állapotban vannak a fájlok. A zöld pipa azt jelenti, hogy a fájl naprakész.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Adja meg a kizárandó fájlnevet</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Vannak nem szinkronizált fájlok</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Speciális beállítási varázsló</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Fekete-fehér tálcaikon használata</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Biztosan kilép a(z) [ProductName] telepítőjéből, mielőtt az végezne?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>A(z) %1 letöltése nem sikerült. Ellenőrizze a kapcsolatot a szerverrel, és próbálja újra.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Április</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>A(z) [ProductName] telepítője hiba miatt leállt, mielőtt végzett volna. A számítógépen nem történt változás. Ha újra szeretné próbálni, indítsa újra a telepítőt.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>A feladat szinkronizálási iránya nem felel meg a szerveren meglévő jogosultságának. Válasszon másik szinkronizálási irányt.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Nincs jogosultsága ennek a megosztott mappának a használatára. Kérjen hozzáférést a rendszergazdától.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Használhatja a meglévő feladatot, vagy beállíthat egy újat egy másik mappában.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Ezt a mappát már egy másik feladat szinkronizálja. Válasszon egy másikat.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Ez a feladat már létezik</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>A feladatot nem sikerült létrehozni. Ellenőrizze a beállításokat, és próbálja újra.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Múlt hónap</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>A Tarnwell újabb verziója már telepítve van. Ennek a verziónak a telepítéséhez előbb távolítsa el az újabbat.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>A fájl korábbi verziói nem jeleníthetők meg. Ellenőrizze a kapcsolatot a szerverrel, és próbálja újra.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>Giugno</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Impossibile verificare il certificato SSL del server. Controlla l’indirizzo del server o chiedi aiuto all’amministratore.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Alcune delle informazioni inserite non sono valide. Controllale e riprova.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Scollega</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Ripara [ProductName] sostituendo file, collegamenti e voci di registro mancanti o danneggiati.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Rete locale</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Scegli tu ogni cartella, la modalità di sincronizzazione e i filtri.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Icona di notifica</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Vuoi scollegare l’attività per %1? I file già presenti su questo computer e sul server non verranno eliminati.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Problema rilevato</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Impossibile leggere il database di sincronizzazione. Riavvia Tarnwell. Se il problema persiste, scollega l’attività e configurala di nuovo.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Avvia Tarnwell all’accesso dell’utente</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Fai clic con il pulsante destro sull’icona nell’area di notifica per sospendere un’attività, aprirne la cartella o modificarne le impostazioni.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Inserisci 0 per non limitare la dimensione dei file.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Il programma di installazione di [ProductName] ha terminato</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Impossibile sincronizzare alcuni file. Apri Tarnwell per vedere i dettagli.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Annulla</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Questo ID OrvaneLink non esiste. Controlla l’ID e inseriscilo di nuovo.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>Il file %1 è stato scaricato.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Sospendi</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Vuoi rimuovere %1 dall’elenco? La cartella non verrà eliminata.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Impossibile verificare questo nome utente. Assicurati che il server sia raggiungibile e riprova.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Scegli una cartella su questo computer. Il suo contenuto verrà sincronizzato con il server.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>La cartella non è vuota</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>I file con esattamente questo nome non vengono mai sincronizzati, in qualunque cartella si trovino.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Impossibile stabilire una connessione sicura. Controlla le impostazioni SSL del server e riprova.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Cartelle</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Questo ID OrvaneLink non è valido. Usa solo lettere, cifre e trattini.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Impostazioni di rete</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Impossibile trovare il server a causa di un errore di sistema. Riprova o inserisci il suo indirizzo.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>È disponibile Tarnwell %1. Fai clic qui per aggiornare.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Scegli cosa fare quando un file è stato modificato sia sul computer sia sul server.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Inserisci l’ID OrvaneLink di Orvane Station. Tarnwell si connette tramite OrvaneLink, anche quando sei fuori.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Puoi vedere questa cartella, ma le tue modifiche non verranno caricate.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Sincronizzazione unidirezionale dal server a questo computer</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>La cartella condivisa %1 è pronta per la sincronizzazione.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>File esclusi</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Impossibile attivare la sincronizzazione per questa cartella. Controlla i tuoi permessi sul server e riprova.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Questa cartella si sovrappone a una cartella già sincronizzata. Scegli una cartella che non la contenga e che non si trovi al suo interno.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>No, grazie</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Non mostrare più questo messaggio</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>La configurazione è terminata. Tarnwell ha iniziato il backup dei tuoi file.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Lascia che Tarnwell scelga le impostazioni abituali o sceglile tu.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Impossibile creare un link a questo file. Assicurati che il file sia stato caricato e di avere il permesso di condividerlo.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Includi di nuovo queste cartelle nella sincronizzazione</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Questo file è stato modificato sia sul computer sia sul server. Confronta le due versioni ed elimina quella che non serve.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Metti i file nella cartella locale: Tarnwell ne esegue il backup sul server per te.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Impossibile creare la cartella %1. Controlla i tuoi permessi o scegli un’altra posizione.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Scegli la cartella condivisa sul server con cui eseguire la sincronizzazione.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Il programma di installazione di [ProductName] è stato annullato prima del termine. Il computer non è stato modificato. Puoi eseguire di nuovo il programma di installazione in qualsiasi momento.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>In standby</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Impossibile completare il backup. Controlla la connessione al server e riprova.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Lascia aperti questi programmi (richiede un riavvio)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Non hai il permesso di sincronizzare con questa cartella. Scegli una cartella a cui hai accesso.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell è già in esecuzione. Puoi aprirlo dall’area di notifica.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>I file che corrispondono a uno di questi filtri non vengono sincronizzati.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Febbraio</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Il disco con la cartella locale non è connesso. Connettilo e riprendi l’attività.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Non hai effettuato l’accesso come amministratore, quindi Tarnwell verrà installato solo per il tuo account. Vuoi continuare?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Caricato</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Tutto pronto!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Puoi solo leggere questa cartella. I file verranno scaricati, ma le tue modifiche non verranno caricate.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>La cartella sul server si trova su uno spazio di archiviazione remoto al momento non connesso. Chiedi all’amministratore di riconnetterlo.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Elementi: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Questa cartella è un punto di mount e non può essere sincronizzata. Scegli una cartella normale.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Il server ha bloccato il tuo indirizzo IP. Chiedi all’amministratore di sbloccarlo.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Impossibile aggiornare Tarnwell. Riprova più tardi o scarica manualmente l’ultima versione.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Connessione in corso…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Impossibile avviare correttamente Tarnwell. Riavvia il computer. Se il problema persiste, installa di nuovo Tarnwell.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nuova attività di sincronizzazione</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Non usare un proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Azione</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Cambia, ripara o rimuovi [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Controlla le impostazioni</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Le cartelle deselezionate qui verranno rimosse da questo computer. Rimarranno sul server.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Il download è stato annullato.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink non è riuscito a raggiungere il server. Controlla la connessione a internet e riprova.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Questa cartella si trova su un’unità di rete. Le modifiche apportate lì da altri potrebbero non essere rilevate subito.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Questa cartella non può essere sincronizzata. Scegli una cartella diversa.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Lingua</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>Impossibile rimuovere %1 dall’elenco. Riprova più tardi.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Stato</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Chiudi questi programmi e fai clic su “Riprova”, oppure fai clic su “Ignora” per continuare e riavvia il computer al termine.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>La connessione al server si è interrotta. Tarnwell si riconnetterà appena possibile.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Benvenuto in Tarnwell. Configuriamo il tuo primo backup.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Nessuna impostazione è stata modificata.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Lo stato di ogni file</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Continua</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Chiudi questi programmi e riavviali al termine</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Crittografia SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Impossibile trovare la cartella locale. Rimettila al suo posto, oppure scollega l’attività e configurala di nuovo.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>File bloccato</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Il server ha inviato una risposta che Tarnwell non comprende. Assicurati che entrambi siano aggiornati.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Con un doppio clic sull’icona nell’area di notifica</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Impossibile scaricare questo file. Potrebbe essere stato spostato o eliminato sul server.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Versioni incompatibili</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Per sincronizzare altre cartelle, puoi aggiungere un’attività in Tarnwell in qualsiasi momento.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Connessione diretta</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Impossibile raggiungere il server. Controlla la connessione di rete e riprova.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Oggi</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Impossibile verificare il certificato SSL.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Inserisci il nome utente.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>La cartella condivisa non è montata sul server. Chiedi all’amministratore di montarla.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>I simboli di stato mostrano la situazione dei file. Un segno di spunta verde indica che un file è aggiornato.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Inserisci il nome di un file da escludere</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Alcuni file non sono stati sincronizzati</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Configurazione guidata avanzata</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Usa un’icona in bianco e nero nell’area di notifica</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Vuoi uscire dal programma di installazione di [ProductName] prima che abbia terminato?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>Impossibile scaricare %1. Controlla la connessione al server e riprova.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Aprile</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Un errore ha interrotto il programma di installazione di [ProductName] prima del termine. Il computer non è stato modificato. Per riprovare, riavvia il programma di installazione.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>La direzione di sincronizzazione di questa attività non corrisponde al tuo permesso sul server. Scegli un’altra direzione di sincronizzazione.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Non hai il permesso di usare questa cartella condivisa. Chiedi l’accesso all’amministratore.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Puoi usare l’attività esistente o configurarne una nuova in una cartella diversa.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Un’altra attività sincronizza già questa cartella. Scegline una diversa.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Questa attività esiste già</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Impossibile creare l’attività. Controlla le impostazioni e riprova.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Mese scorso</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Una versione più recente di Tarnwell è già installata. Per installare questa versione, disinstalla prima quella più recente.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Impossibile mostrare le versioni precedenti di questo file. Controlla la connessione al server e riprova.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>6月</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>サーバのSSL証明書を検証できませんでした。サーバのアドレスを確認するか、管理者に問い合わせてください。</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>入力した情報の一部が正しくありません。確認してからもう一度お試しください。</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>連携解除</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>不足または破損しているファイル、ショートカット、レジストリ項目を置き換えて、[ProductName]を修復します。</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>ローカルネットワーク</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>各フォルダ、同期モード、フィルタを自分で選択します。</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>トレイアイコン</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>「%1」のタスクの連携を解除しますか？すでにこのコンピュータとサーバにあるファイルは削除されません。</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>同期の問題</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>同期データベースを読み込めません。Tarnwellを再起動してください。問題が解決しない場合は、タスクの連携を解除して、もう一度設定してください。</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>ユーザのログイン時にTarnwellを起動</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>トレイアイコンを右クリックすると、タスクを一時停止したり、フォルダを開いたり、設定を変更したりできます。</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>ファイルサイズを制限しない場合は、0を入力してください。</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>[ProductName]インストーラの処理が完了しました</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>一部のファイルを同期できませんでした。Tarnwellを開いて詳細を確認してください。</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>キャンセル</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>このOrvaneLink IDは存在しません。IDを確認して、入力し直してください。</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>「%1」をダウンロードしました。</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>一時停止</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>「%1」をリストから削除しますか？フォルダ自体は削除されません。</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>このユーザ名を確認できませんでした。サーバに接続できることを確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>このコンピュータ上のフォルダを選択してください。フォルダの内容がサーバと同期されます。</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>フォルダが空ではありません</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>この名前と完全に一致するファイルは、どのフォルダにあっても同期されません。</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>安全な接続を確立できませんでした。サーバのSSL設定を確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>フォルダ</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>このOrvaneLink IDは無効です。英字、数字、ハイフンのみを使用してください。</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>ネットワーク設定</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>システムエラーのため、サーバが見つかりませんでした。もう一度試すか、代わりにサーバのアドレスを入力してください。</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1を利用できます。アップデートするには、ここをクリックしてください。</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>コンピュータとサーバの両方でファイルが変更された場合の処理を選択してください。</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>お使いのOrvane StationのOrvaneLink IDを入力してください。TarnwellはOrvaneLinkを経由して接続するため、外出先からでも利用できます。</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>このフォルダは表示できますが、変更内容はアップロードされません。</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>サーバからこのコンピュータへの一方向同期</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>共有フォルダ「%1」を同期する準備ができました。</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>除外ファイル</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>このフォルダの同期をオンにできませんでした。サーバでのアクセス権を確認して、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>このフォルダは、すでに同期しているフォルダと重複しています。そのフォルダの中にも上の階層にもないフォルダを選択してください。</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>いいえ、結構です</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>今後このメッセージを表示しない</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>設定がすべて完了しました。Tarnwellがファイルのバックアップを開始しました。</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>一般的な設定をTarnwellに任せるか、自分で設定を選択してください。</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>このファイルへのリンクを作成できません。ファイルがアップロードされていて、共有するためのアクセス権があることを確認してください。</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>これらのフォルダを同期の対象に戻す</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>このファイルは、コンピュータとサーバの両方で変更されました。2つのバージョンを比較して、不要な方を削除してください。</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>ローカルフォルダにファイルを入れると、Tarnwellがサーバにバックアップします。</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>フォルダ「%1」を作成できませんでした。アクセス権を確認するか、別の場所を選択してください。</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>同期先にするサーバ上の共有フォルダを選択してください。</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>[ProductName]のインストーラは、完了する前にキャンセルされました。コンピュータは変更されていません。インストーラはいつでももう一度実行できます。</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>スタンバイ</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>バックアップを完了できませんでした。サーバとの接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>これらのプログラムを開いたままにする（再起動が必要）</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>このフォルダと同期するためのアクセス権がありません。アクセス権のあるフォルダを選択してください。</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwellはすでに起動しています。トレイから開くことができます。</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>これらのフィルタのいずれかに一致するファイルは同期されません。</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>2月</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>ローカルフォルダのあるディスクが接続されていません。ディスクを接続して、タスクを再開してください。</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>管理者としてサインインしていないため、Tarnwellはあなたのアカウントにのみインストールされます。続けますか？</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>アップロード済み</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>準備がすべて整いました！</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>このフォルダは読み取り専用です。ファイルはダウンロードされますが、変更内容はアップロードされません。</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>サーバフォルダは、現在接続されていないリモートストレージにあります。再接続するよう管理者に依頼してください。</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1項目</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>このフォルダはマウントポイントのため、同期できません。通常のフォルダを選択してください。</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>サーバがあなたのIPアドレスをブロックしました。ブロックを解除するよう管理者に依頼してください。</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwellをアップデートできませんでした。後でもう一度試すか、最新バージョンを自分でダウンロードしてください。</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>接続中…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwellを正しく起動できませんでした。コンピュータを再起動してください。問題が解決しない場合は、Tarnwellをインストールし直してください。</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>新しい同期タスク</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>プロキシを使用しない</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>操作</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>[ProductName]の変更、修復、削除</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>設定を確認</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>ここでチェックを外したフォルダは、このコンピュータから削除されます。サーバには残ります。</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>ダウンロードはキャンセルされました。</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLinkがサーバに接続できませんでした。インターネット接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>このフォルダはネットワークドライブにあります。ほかの人が行った変更がすぐに検出されない場合があります。</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>このフォルダは同期できません。別のフォルダを選択してください。</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>言語</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>「%1」をリストから削除できませんでした。後でもう一度お試しください。</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>状態</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>これらのプログラムを閉じて「再試行」をクリックするか、「無視」をクリックして続け、後でコンピュータを再起動してください。</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>サーバとの接続が切れました。Tarnwellはできるだけ早く再接続します。</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Tarnwellへようこそ。最初のバックアップを設定しましょう。</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>設定は変更されませんでした。</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>すべてのファイルの状態を確認</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>続ける</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>これらのプログラムを閉じ、後で開き直す</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL暗号化</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>ローカルフォルダが見つかりません。フォルダを元の場所に戻すか、タスクの連携を解除して、もう一度設定してください。</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>ロックされたファイル</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Tarnwellが認識できない応答をサーバから受信しました。両方が最新の状態であることを確認してください。</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>トレイアイコンのダブルクリック時の動作</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>このファイルをダウンロードできません。サーバ上で移動または削除された可能性があります。</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>バージョンの不一致</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>ほかのフォルダも同期するには、いつでもTarnwellでタスクを追加してください。</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>直接接続</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>サーバに接続できません。ネットワーク接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>今日</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>SSL証明書を検証できませんでした。</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>ユーザ名を入力してください。</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>共有フォルダがサーバにマウントされていません。マウントするよう管理者に依頼してください。</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>アイコンオーバーレイで、ファイルの状態がわかります。緑のチェックマークは、ファイルが最新であることを示します。</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>除外するファイル名を入力</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>一部のファイルを同期できませんでした</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>詳細セットアップウィザード</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>白黒のトレイアイコンを使用</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>[ProductName]のインストーラの処理がまだ完了していません。インストーラを終了しますか？</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>「%1」をダウンロードできませんでした。サーバとの接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>4月</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>エラーのため、[ProductName]のインストーラは完了する前に停止しました。コンピュータは変更されていません。もう一度試すには、インストーラを起動し直してください。</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>このタスクの同期方向は、サーバでのあなたのアクセス権と一致していません。別の同期方向を選択してください。</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>この共有フォルダを使用するためのアクセス権がありません。アクセス権を付与するよう管理者に依頼してください。</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>既存のタスクを使用するか、別のフォルダで新しいタスクを設定できます。</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>このフォルダは、すでに別のタスクで同期されています。別のフォルダを選択してください。</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>このタスクはすでに存在します</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>タスクを作成できませんでした。設定を確認して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>先月</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>より新しいバージョンのTarnwellがすでにインストールされています。このバージョンをインストールするには、まず新しい方をアンインストールしてください。</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>このファイルの以前のバージョンを表示できません。サーバとの接続を確認して、もう一度お試しください。</translation>
     </message>
 </context>

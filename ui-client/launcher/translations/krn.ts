@@ -68,11 +68,11 @@
         <translation>6월</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>서버의 SSL 인증서를 확인할 수 없습니다. 서버 주소를 확인하거나 관리자에게 도움을 요청하십시오.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>입력한 정보 중 일부가 올바르지 않습니다. 확인한 후 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>연동 해제</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>누락되거나 손상된 파일, 바로 가기 및 레지스트리 항목을 교체하여 [ProductName]을(를) 복구합니다.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>로컬 네트워크</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>각 폴더, 동기화 모드 및 필터를 직접 선택합니다.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>트레이 아이콘</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>‘%1’ 작업의 연동을 해제하시겠습니까? 이 컴퓨터와 서버에 이미 있는 파일은 삭제되지 않습니다.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>동기화 문제</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>동기화 데이터베이스를 읽을 수 없습니다. Tarnwell을 다시 시작하십시오. 문제가 계속되면 작업의 연동을 해제하고 다시 설정하십시오.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>사용자 로그인 시 Tarnwell 시작</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>트레이 아이콘을 오른쪽 클릭하면 작업을 일시 정지하거나, 작업 폴더를 열거나, 작업 설정을 변경할 수 있습니다.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>파일 크기를 제한하지 않으려면 0을 입력하십시오.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>[ProductName] 설치 프로그램 완료</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>일부 파일을 동기화할 수 없습니다. 세부사항을 보려면 Tarnwell을 여십시오.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>취소</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>이 OrvaneLink ID는 존재하지 않습니다. ID를 확인하고 다시 입력하십시오.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>‘%1’을(를) 다운로드했습니다.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>일시 정지</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>‘%1’을(를) 목록에서 제거하시겠습니까? 폴더 자체는 삭제되지 않습니다.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>이 사용자 이름을 확인할 수 없습니다. 서버에 연결할 수 있는지 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>이 컴퓨터의 폴더를 선택하십시오. 폴더의 내용이 서버와 동기화됩니다.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>폴더가 비어 있지 않음</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>이 이름과 정확히 일치하는 파일은 어느 폴더에 있든 동기화되지 않습니다.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>보안 연결을 설정할 수 없습니다. 서버의 SSL 설정을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>폴더</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>올바른 OrvaneLink ID가 아닙니다. 영문자, 숫자 및 하이픈만 사용하십시오.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>네트워크 설정</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>시스템 오류로 인해 서버를 찾을 수 없습니다. 다시 시도하거나 대신 서버 주소를 입력하십시오.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 버전을 사용할 수 있습니다. 업데이트하려면 여기를 클릭하십시오.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>컴퓨터와 서버 양쪽에서 파일이 변경된 경우의 처리 방법을 선택하십시오.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Orvane Station의 OrvaneLink ID를 입력하십시오. 외부에 있을 때도 Tarnwell이 OrvaneLink를 통해 연결합니다.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>이 폴더를 볼 수 있지만 변경사항은 업로드되지 않습니다.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>서버에서 이 컴퓨터로 단방향 동기화</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>‘%1’ 공유 폴더를 동기화할 준비가 되었습니다.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>제외된 파일</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>이 폴더의 동기화를 켤 수 없습니다. 서버의 권한을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>이 폴더는 이미 동기화 중인 폴더와 겹칩니다. 해당 폴더의 상위 폴더나 하위 폴더가 아닌 폴더를 선택하십시오.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>필요 없음</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>이 메시지 다시 보지 않기</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>모든 설정이 끝났습니다. Tarnwell이 파일 백업을 시작했습니다.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>일반적인 설정을 Tarnwell에 맡기거나 직접 선택하십시오.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>이 파일의 링크를 생성할 수 없습니다. 파일이 업로드되었는지, 파일을 공유할 권한이 있는지 확인하십시오.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>이 폴더들을 동기화에 다시 포함</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>이 파일은 컴퓨터와 서버 양쪽에서 변경되었습니다. 두 버전을 비교하고 필요하지 않은 버전을 삭제하십시오.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>로컬 폴더에 파일을 넣으면 Tarnwell이 서버에 백업합니다.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>‘%1’ 폴더를 생성할 수 없습니다. 권한을 확인하거나 다른 위치를 선택하십시오.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>서버에서 동기화할 공유 폴더를 선택하십시오.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>[ProductName] 설치 프로그램이 완료되기 전에 취소했습니다. 컴퓨터는 변경되지 않았습니다. 언제든지 설치 프로그램을 다시 실행할 수 있습니다.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>대기</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>백업을 완료할 수 없습니다. 서버 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>이 프로그램들을 열어 두기(컴퓨터 다시 시작 필요)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>이 폴더와 동기화할 권한이 없습니다. 접근 권한이 있는 폴더를 선택하십시오.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell이 이미 실행 중입니다. 트레이에서 열 수 있습니다.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>다음 필터 중 하나와 일치하는 파일은 동기화되지 않습니다.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>2월</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>로컬 폴더가 있는 디스크가 연결되어 있지 않습니다. 디스크를 연결하고 작업을 재개하십시오.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>관리자로 로그인하지 않았으므로 Tarnwell이 현재 계정에만 설치됩니다. 계속하시겠습니까?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>업로드됨</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>모든 준비가 끝났습니다!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>이 폴더는 읽을 수만 있습니다. 파일은 다운로드되지만 변경사항은 업로드되지 않습니다.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>서버 폴더가 현재 연결되지 않은 원격 저장 장치에 있습니다. 관리자에게 다시 연결해 달라고 요청하십시오.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1개 항목</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>이 폴더는 마운트 지점이므로 동기화할 수 없습니다. 일반 폴더를 선택하십시오.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>서버에서 이 컴퓨터의 IP 주소를 차단했습니다. 관리자에게 차단을 해제해 달라고 요청하십시오.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell을 업데이트할 수 없습니다. 나중에 다시 시도하거나 최신 버전을 직접 다운로드하십시오.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>연결 중…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell을 제대로 시작할 수 없습니다. 컴퓨터를 다시 시작하십시오. 문제가 계속되면 Tarnwell을 다시 설치하십시오.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>새로운 동기화 작업</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>프록시 사용 안 함</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>동작</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>[ProductName] 변경, 복구 또는 제거</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>설정 확인</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>여기에서 선택 해제한 폴더는 이 컴퓨터에서 제거됩니다. 서버에는 그대로 남아 있습니다.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>다운로드가 취소되었습니다.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink에서 서버에 연결할 수 없습니다. 인터넷 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>이 폴더는 네트워크 드라이브에 있습니다. 다른 사람이 변경한 내용을 바로 감지하지 못할 수 있습니다.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>이 폴더는 동기화할 수 없습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>언어</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>‘%1’을(를) 목록에서 제거할 수 없습니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>상태</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>이 프로그램들을 닫고 ‘다시 시도’를 클릭하거나, ‘무시’를 클릭하여 계속한 다음 컴퓨터를 다시 시작하십시오.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>서버 연결이 끊어졌습니다. Tarnwell이 가능한 한 빨리 다시 연결합니다.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Tarnwell에 오신 것을 환영합니다. 첫 번째 백업을 설정하십시오.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>변경된 설정이 없습니다.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>모든 파일의 상태를 한눈에</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>계속</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>이 프로그램들을 닫고 나중에 다시 시작</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL 암호화</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>로컬 폴더를 찾을 수 없습니다. 폴더를 원래 위치로 다시 옮기거나, 작업의 연동을 해제하고 다시 설정하십시오.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>잠긴 파일</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>서버에서 Tarnwell이 인식할 수 없는 응답을 보냈습니다. 양쪽 모두 최신 버전인지 확인하십시오.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>트레이 아이콘을 이중 클릭할 때</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>이 파일을 다운로드할 수 없습니다. 서버에서 이동되었거나 삭제되었을 수 있습니다.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>버전 불일치</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>더 많은 폴더를 동기화하려면 언제든지 Tarnwell에서 작업을 추가하십시오.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>직접 연결</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>서버에 연결할 수 없습니다. 네트워크 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>오늘</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>SSL 인증서를 확인할 수 없습니다.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>사용자 이름을 입력하십시오.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>공유 폴더가 서버에 마운트되어 있지 않습니다. 관리자에게 마운트해 달라고 요청하십시오.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>아이콘 오버레이로 파일의 상태를 알 수 있습니다. 초록색 체크 표시는 파일이 최신 상태임을 나타냅니다.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>제외할 파일 이름 입력</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>일부 파일이 동기화되지 않음</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>고급 설정 마법사</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>흑백 트레이 아이콘 사용</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>[ProductName] 설치 프로그램이 아직 완료되지 않았습니다. 설치 프로그램을 끝내시겠습니까?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>‘%1’을(를) 다운로드할 수 없습니다. 서버 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>4월</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>오류로 인해 [ProductName] 설치 프로그램이 완료되기 전에 중단되었습니다. 컴퓨터는 변경되지 않았습니다. 다시 시도하려면 설치 프로그램을 다시 시작하십시오.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>이 작업의 동기화 방향이 서버의 권한과 일치하지 않습니다. 다른 동기화 방향을 선택하십시오.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>이 공유 폴더를 사용할 권한이 없습니다. 관리자에게 접근 권한을 요청하십시오.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>기존 작업을 사용하거나 다른 폴더에 새로운 작업을 설정할 수 있습니다.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>다른 작업에서 이미 이 폴더를 동기화하고 있습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>이미 존재하는 작업</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>작업을 생성할 수 없습니다. 설정을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>지난달</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>더 새로운 버전의 Tarnwell이 이미 설치되어 있습니다. 이 버전을 설치하려면 먼저 더 새로운 버전을 제거하십시오.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>이 파일의 이전 버전을 표시할 수 없습니다. 서버 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
 </context>

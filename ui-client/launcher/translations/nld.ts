@@ -68,11 +68,11 @@
         <translation>juni</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Het SSL-certificaat van de server kan niet worden geverifieerd. Controleer het serveradres of vraag je beheerder om hulp.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Sommige gegevens die je hebt ingevoerd, zijn niet geldig. Controleer ze en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Ontkoppelen</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Herstelt [ProductName] door ontbrekende of beschadigde bestanden, snelkoppelingen en registervermeldingen te vervangen.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Lokaal netwerk</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Kies zelf elke map, de synchronisatiemodus en de filters.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Systeemvakpictogram</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Wil je de taak voor ‘%1’ ontkoppelen? De bestanden die al op deze computer en op de server staan, worden niet verwijderd.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Synchronisatieprobleem</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>De synchronisatiedatabase kan niet worden gelezen. Start Tarnwell opnieuw. Als het probleem aanhoudt, ontkoppel je de taak en configureer je die opnieuw.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Tarnwell starten bij inloggen</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Klik met de rechtermuisknop op het systeemvakpictogram om een taak te pauzeren, de bijbehorende map te openen of de instellingen te wijzigen.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Voer 0 in als je de bestandsgrootte niet wilt beperken.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Het installatieprogramma van [ProductName] is klaar</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Sommige bestanden konden niet worden gesynchroniseerd. Open Tarnwell om de details te bekijken.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Annuleren</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Deze OrvaneLink-ID bestaat niet. Controleer de ID en voer deze opnieuw in.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>‘%1’ is gedownload.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Pauzeren</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Wil je ‘%1’ uit de lijst verwijderen? De map zelf wordt niet verwijderd.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Deze gebruikersnaam kan niet worden gecontroleerd. Zorg dat de server bereikbaar is en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Kies een map op deze computer. De inhoud wordt met de server gesynchroniseerd.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>De map is niet leeg</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Bestanden met precies deze naam worden nooit gesynchroniseerd, ongeacht in welke map ze staan.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Er kan geen beveiligde verbinding tot stand worden gebracht. Controleer de SSL-instellingen van de server en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Mappen</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Dit is geen geldige OrvaneLink-ID. Gebruik alleen letters, cijfers en koppeltekens.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Netwerkinstellingen</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>De server is niet gevonden vanwege een systeemfout. Probeer het opnieuw of voer het adres van de server in.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 is beschikbaar. Klik hier om bij te werken.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Kies wat er gebeurt wanneer een bestand zowel op de computer als op de server is gewijzigd.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Voer de OrvaneLink-ID van je Orvane Station in. Tarnwell maakt verbinding via OrvaneLink, ook wanneer je onderweg bent.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Je kunt deze map bekijken, maar je wijzigingen worden niet geüpload.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Eenrichtingssynchronisatie van de server naar deze computer</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>De gedeelde map ‘%1’ is gereed om te worden gesynchroniseerd.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Uitgesloten bestanden</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>De synchronisatie kan niet worden ingeschakeld voor deze map. Controleer je bevoegdheden op de server en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Deze map overlapt met een map die al wordt gesynchroniseerd. Kies een map die daar niet in of boven ligt.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Nee, bedankt</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Dit bericht niet meer tonen</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Alles is geconfigureerd. Tarnwell is begonnen met een back-up van je bestanden.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Laat Tarnwell de gebruikelijke instellingen kiezen of kies ze zelf.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Er kan geen link naar dit bestand worden gemaakt. Zorg dat het bestand is geüpload en dat je bevoegd bent om het te delen.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Deze mappen weer synchroniseren</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Dit bestand is zowel op de computer als op de server gewijzigd. Vergelijk de twee versies en verwijder de versie die je niet nodig hebt.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Zet bestanden in de lokale map en Tarnwell maakt er voor jou een back-up van op de server.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>De map ‘%1’ kan niet worden aangemaakt. Controleer je bevoegdheden of kies een andere locatie.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Kies de gedeelde map op de server waarmee je wilt synchroniseren.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Je hebt het installatieprogramma van [ProductName] geannuleerd voordat het klaar was. Je computer is niet gewijzigd. Je kunt het installatieprogramma op elk moment opnieuw uitvoeren.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Stand-by</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>De back-up kan niet worden voltooid. Controleer de verbinding met de server en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Deze programma’s geopend laten (opnieuw opstarten vereist)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Je bent niet bevoegd om met deze map te synchroniseren. Kies een map waartoe je toegang hebt.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell is al actief en kan vanuit het systeemvak worden geopend.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Bestanden die aan een van deze filters voldoen, worden niet gesynchroniseerd.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>februari</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>De schijf met de lokale map is niet aangesloten. Sluit de schijf aan en hervat de taak.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Je bent niet als beheerder ingelogd, dus Tarnwell wordt alleen voor jouw account geïnstalleerd. Wil je doorgaan?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Geüpload</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Klaar voor gebruik!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Je kunt deze map alleen lezen. Bestanden worden gedownload, maar je wijzigingen worden niet geüpload.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>De servermap staat op externe opslag die momenteel niet is verbonden. Vraag je beheerder om de verbinding te herstellen.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Onderdelen: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Deze map is een aankoppelpunt en kan niet worden gesynchroniseerd. Kies een gewone map.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>De server heeft je IP-adres geblokkeerd. Vraag je beheerder om de blokkering op te heffen.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell kan niet worden bijgewerkt. Probeer het later opnieuw of download zelf de nieuwste versie.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Verbinden…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell kan niet goed worden gestart. Start je computer opnieuw op. Als het probleem aanhoudt, installeer je Tarnwell opnieuw.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nieuwe synchronisatietaak</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Geen proxy gebruiken</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Actie</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>[ProductName] wijzigen, herstellen of verwijderen</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Controleer je instellingen</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Mappen die je hier uitvinkt, worden van deze computer verwijderd. Op de server blijven ze staan.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>De download is geannuleerd.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink kan de server niet bereiken. Controleer je internetverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Deze map staat op een netwerkschijf. Wijzigingen die anderen daar aanbrengen, worden mogelijk niet meteen opgemerkt.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Deze map kan niet worden gesynchroniseerd. Kies een andere map.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Taal</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>‘%1’ kan niet uit de lijst worden verwijderd. Probeer het later opnieuw.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Sluit deze programma’s en klik op ‘Opnieuw proberen’, of klik op ‘Negeren’ om door te gaan en start je computer daarna opnieuw op.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>De verbinding met de server is verbroken. Tarnwell maakt zo snel mogelijk opnieuw verbinding.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Welkom bij Tarnwell. Laten we je eerste back-up configureren.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Er zijn geen instellingen gewijzigd.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Bekijk de status van elk bestand</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Doorgaan</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Deze programma’s sluiten en daarna opnieuw starten</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL-versleuteling</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>De lokale map kan niet worden gevonden. Zet de map terug op zijn plaats of ontkoppel de taak en configureer die opnieuw.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Vergrendeld bestand</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>De server heeft een antwoord gestuurd dat Tarnwell niet begrijpt. Zorg dat beide up-to-date zijn.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Bij dubbelklikken op het systeemvakpictogram</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Dit bestand kan niet worden gedownload. Mogelijk is het op de server verplaatst of verwijderd.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Versies verschillen</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Als je meer mappen wilt synchroniseren, kun je in Tarnwell altijd een taak toevoegen.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Directe verbinding</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>De server is niet bereikbaar. Controleer je netwerkverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Vandaag</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Het SSL-certificaat kan niet worden geverifieerd.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Voer je gebruikersnaam in.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>De gedeelde map is niet aangekoppeld op de server. Vraag je beheerder om de map aan te koppelen.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Aan statuspictogrammen zie je hoe het met je bestanden gaat. Een groen vinkje betekent dat een bestand up-to-date is.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Voer een bestandsnaam in om uit te sluiten</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Sommige bestanden zijn niet gesynchroniseerd</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Geavanceerde configuratieassistent</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Zwart-witpictogram in het systeemvak gebruiken</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Wil je het installatieprogramma van [ProductName] afsluiten voordat het klaar is?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>‘%1’ kan niet worden gedownload. Controleer de verbinding met de server en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>april</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Het installatieprogramma van [ProductName] is door een fout gestopt voordat het klaar was. Je computer is niet gewijzigd. Start het installatieprogramma opnieuw om het nog eens te proberen.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>De synchronisatierichting van deze taak past niet bij je bevoegdheid op de server. Kies een andere synchronisatierichting.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Je bent niet bevoegd om deze gedeelde map te gebruiken. Vraag je beheerder om toegang.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Je kunt de bestaande taak gebruiken of een nieuwe taak configureren in een andere map.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Deze map wordt al door een andere taak gesynchroniseerd. Kies een andere.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Deze taak bestaat al</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>De taak kan niet worden aangemaakt. Controleer je instellingen en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Vorige maand</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Er is al een nieuwere versie van Tarnwell geïnstalleerd. Om deze versie te installeren, verwijder je eerst de nieuwere versie.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>De eerdere versies van dit bestand kunnen niet worden getoond. Controleer de verbinding met de server en probeer het opnieuw.</translation>
     </message>
 </context>

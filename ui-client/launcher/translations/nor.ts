@@ -68,11 +68,11 @@
         <translation>juni</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>SSL-sertifikatet til serveren kunne ikke verifiseres. Kontroller serveradressen, eller be administratoren om hjelp.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Noe av informasjonen du skrev inn, er ikke gyldig. Kontroller den, og prøv igjen.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Koble fra</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Reparerer [ProductName] ved å erstatte manglende eller skadde filer, snarveier og registeroppføringer.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Lokalt nettverk</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Velg selv hver enkelt mappe, synkroniseringsmodusen og filtrene.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Statusfeltikon</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Vil du koble oppgaven for «%1» fra serveren? Filene som allerede er på denne datamaskinen og på serveren, blir ikke slettet.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Synkroniseringsfeil</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Synkroniseringsdatabasen kan ikke leses. Start Tarnwell på nytt. Hvis problemet vedvarer, kobler du oppgaven fra serveren og setter den opp på nytt.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Start Tarnwell ved pålogging</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Høyreklikk på statusfeltikonet for å sette en oppgave på pause, åpne mappen til oppgaven eller endre innstillingene.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Skriv inn 0 hvis du ikke vil begrense filstørrelsen.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Installasjonsprogrammet for [ProductName] er ferdig</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Noen filer kunne ikke synkroniseres. Åpne Tarnwell for å se detaljene.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Avbryt</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Denne OrvaneLink-ID-en finnes ikke. Kontroller ID-en, og skriv den inn på nytt.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>«%1» er lastet ned.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Sett på pause</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Vil du fjerne «%1» fra listen? Selve mappen blir ikke slettet.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Brukernavnet kunne ikke kontrolleres. Sørg for at serveren kan nås, og prøv igjen.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Velg en mappe på denne datamaskinen. Innholdet blir synkronisert med serveren.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Mappen er ikke tom</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Filer med nøyaktig dette navnet synkroniseres aldri, uansett hvilken mappe de ligger i.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>En sikker tilkobling kunne ikke opprettes. Kontroller SSL-innstillingene på serveren, og prøv igjen.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Mapper</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Dette er ikke en gyldig OrvaneLink-ID. Bruk bare bokstaver, sifre og bindestreker.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Nettverksinnstillinger</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Serveren ble ikke funnet på grunn av en systemfeil. Prøv igjen, eller skriv inn adressen i stedet.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 er tilgjengelig. Klikk her for å oppdatere.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Velg hva som skal skje når en fil er endret både på datamaskinen og på serveren.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Skriv inn OrvaneLink-ID-en til din Orvane Station. Tarnwell kobler til den via OrvaneLink, også når du er på farten.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Du kan se innholdet i denne mappen, men endringene dine blir ikke lastet opp.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Enveissynkronisering fra serveren til denne datamaskinen</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Den delte mappen «%1» er klar til å synkroniseres.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Utelatte filer</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Synkronisering kunne ikke slås på for denne mappen. Kontroller rettighetene dine på serveren, og prøv igjen.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Denne mappen overlapper med en mappe som allerede synkroniseres. Velg en mappe som verken ligger i eller over den.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Nei takk</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Ikke vis denne meldingen igjen</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Alt er satt opp. Tarnwell har begynt å sikkerhetskopiere filene dine.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>La Tarnwell velge de vanlige innstillingene, eller velg dem selv.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>En lenke til denne filen kan ikke opprettes. Sørg for at filen er lastet opp, og at du har rettigheter til å dele den.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Ta med disse mappene i synkroniseringen igjen</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Denne filen er endret både på datamaskinen og på serveren. Sammenlign de to versjonene, og slett den du ikke trenger.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Legg filer i den lokale mappen, så sikkerhetskopierer Tarnwell dem til serveren for deg.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Mappen «%1» kunne ikke opprettes. Kontroller rettighetene dine, eller velg en annen plassering.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Velg den delte mappen på serveren du vil synkronisere med.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Du avbrøt installasjonsprogrammet for [ProductName] før det var ferdig. Datamaskinen er ikke endret. Du kan kjøre installasjonsprogrammet igjen når som helst.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Ventemodus</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Sikkerhetskopieringen kunne ikke fullføres. Kontroller tilkoblingen til serveren, og prøv igjen.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>La disse programmene være åpne (krever omstart)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Du har ikke rettigheter til å synkronisere med denne mappen. Velg en mappe du har tilgang til.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell kjører allerede. Du kan åpne programmet fra statusfeltet.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Filer som samsvarer med ett av disse filtrene, synkroniseres ikke.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>februar</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Disken med den lokale mappen er ikke tilkoblet. Koble den til, og gjenoppta oppgaven.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Du er ikke logget på som administrator, så Tarnwell installeres bare for din konto. Vil du fortsette?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Lastet opp</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Alt er klart!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Du kan bare lese denne mappen. Filer blir lastet ned, men endringene dine blir ikke lastet opp.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Servermappen ligger på en fjernlagringsenhet som ikke er tilkoblet nå. Be administratoren om å koble den til igjen.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 objekt(er)</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Denne mappen er et monteringspunkt og kan ikke synkroniseres. Velg en vanlig mappe.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Serveren har blokkert IP-adressen din. Be administratoren om å oppheve blokkeringen.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell kunne ikke oppdateres. Prøv igjen senere, eller last ned den nyeste versjonen selv.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Kobler til …</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell kunne ikke startes som det skal. Start datamaskinen på nytt. Hvis problemet vedvarer, installerer du Tarnwell på nytt.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Ny synkroniseringsoppgave</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Ikke bruk proxyserver</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Handling</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Endre, reparer eller fjern [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Kontroller innstillingene</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Mapper du fjerner haken for her, blir fjernet fra denne datamaskinen. De blir værende på serveren.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Nedlastingen ble avbrutt.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink fikk ikke kontakt med serveren. Kontroller internettilkoblingen, og prøv igjen.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Denne mappen ligger på en nettverksdisk. Endringer som andre gjør der, blir kanskje ikke oppdaget med én gang.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Denne mappen kan ikke synkroniseres. Velg en annen mappe.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Språk</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>«%1» kunne ikke fjernes fra listen. Prøv igjen senere.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Lukk disse programmene, og klikk på Prøv igjen, eller klikk på Ignorer for å fortsette og starte datamaskinen på nytt etterpå.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Tilkoblingen til serveren ble brutt. Tarnwell kobler til igjen så snart som mulig.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Velkommen til Tarnwell. La oss sette opp den første sikkerhetskopieringen din.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Ingen innstillinger ble endret.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Se statusen til hver fil</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Fortsett</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Lukk disse programmene, og start dem på nytt etterpå</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL-kryptering</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Finner ikke den lokale mappen. Flytt den tilbake der den var, eller koble oppgaven fra serveren og sett den opp på nytt.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Serveren sendte et svar som Tarnwell ikke forstår. Sørg for at begge er oppdatert.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Ved dobbeltklikk på statusfeltikonet</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Denne filen kan ikke lastes ned. Den kan ha blitt flyttet eller slettet på serveren.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Ulike versjoner</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Hvis du vil synkronisere flere mapper, kan du når som helst legge til en oppgave i Tarnwell.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Direkte tilkobling</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Serveren kan ikke nås. Kontroller nettverkstilkoblingen, og prøv igjen.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>I dag</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>SSL-sertifikatet kunne ikke verifiseres.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Skriv inn brukernavnet ditt.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Den delte mappen er ikke montert på serveren. Be administratoren om å montere den.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Ikonmerker viser hvordan det går med filene dine. En grønn hake betyr at en fil er oppdatert.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Skriv inn et filnavn som skal utelates</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Noen filer ble ikke synkronisert</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Assistent for avansert oppsett</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Bruk svart-hvitt statusfeltikon</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Vil du avslutte installasjonsprogrammet for [ProductName] før det er ferdig?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>«%1» kunne ikke lastes ned. Kontroller tilkoblingen til serveren, og prøv igjen.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>april</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Installasjonsprogrammet for [ProductName] ble stanset av en feil før det var ferdig. Datamaskinen er ikke endret. Start installasjonsprogrammet på nytt for å prøve igjen.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Synkroniseringsretningen for denne oppgaven samsvarer ikke med rettighetene dine på serveren. Velg en annen synkroniseringsretning.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Du har ikke rettigheter til å bruke denne delte mappen. Be administratoren om tilgang.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Du kan bruke den eksisterende oppgaven eller sette opp en ny i en annen mappe.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>En annen oppgave synkroniserer allerede denne mappen. Velg en annen mappe.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Denne oppgaven finnes allerede</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Oppgaven kunne ikke opprettes. Kontroller innstillingene, og prøv igjen.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Forrige måned</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>En nyere versjon av Tarnwell er allerede installert. Hvis du vil installere denne versjonen, må du først avinstallere den nyere.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>De tidligere versjonene av denne filen kan ikke vises. Kontroller tilkoblingen til serveren, og prøv igjen.</translation>
     </message>
 </context>

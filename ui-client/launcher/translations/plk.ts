@@ -68,11 +68,11 @@
         <translation>Czerwiec</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Nie udało się zweryfikować certyfikatu SSL serwera. Sprawdź adres serwera lub poproś o pomoc administratora.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Niektóre z wpisanych informacji są nieprawidłowe. Sprawdź je i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Odłącz</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Naprawia program [ProductName], zastępując brakujące lub uszkodzone pliki, skróty i wpisy rejestru.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Sieć lokalna</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Wybierz samodzielnie każdy folder, tryb synchronizacji i filtry.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Ikona w zasobniku</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Czy odłączyć zadanie dla „%1”? Pliki znajdujące się już na tym komputerze i na serwerze nie zostaną usunięte.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Problem z synchronizacją</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Nie można odczytać bazy danych synchronizacji. Uruchom ponownie Tarnwell. Jeśli problem nie ustąpi, odłącz zadanie i skonfiguruj je ponownie.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Uruchamiaj Tarnwell po zalogowaniu użytkownika</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Kliknij prawym przyciskiem ikonę w zasobniku, aby wstrzymać zadanie, otworzyć jego folder lub zmienić jego ustawienia.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Wpisz 0, jeśli nie chcesz ograniczać rozmiaru plików.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Instalator programu [ProductName] zakończył pracę</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Nie udało się zsynchronizować niektórych plików. Otwórz Tarnwell, aby zobaczyć szczegóły.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Anuluj</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>To OrvaneLink ID nie istnieje. Sprawdź je i wpisz ponownie.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>Pobrano „%1”.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Wstrzymaj</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Czy usunąć „%1” z listy? Sam folder nie zostanie usunięty.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Nie udało się sprawdzić tej nazwy użytkownika. Upewnij się, że serwer jest dostępny, i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Wybierz folder na tym komputerze. Jego zawartość będzie synchronizowana z serwerem.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Ten folder nie jest pusty</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Pliki o dokładnie takiej nazwie nigdy nie są synchronizowane, niezależnie od folderu, w którym się znajdują.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Nie udało się nawiązać bezpiecznego połączenia. Sprawdź ustawienia SSL serwera i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Foldery</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>To nie jest prawidłowe OrvaneLink ID. Używaj tylko liter, cyfr i łączników.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Ustawienia sieci</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Nie udało się znaleźć serwera z powodu błędu systemu. Spróbuj ponownie lub wpisz adres serwera.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Dostępny jest Tarnwell %1. Kliknij tutaj, aby uaktualnić.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Wybierz, co ma się stać, gdy plik zostanie zmieniony zarówno na komputerze, jak i na serwerze.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Wpisz OrvaneLink ID swojego serwera Orvane Station. Tarnwell łączy się z nim przez OrvaneLink, nawet gdy jesteś daleko.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Możesz przeglądać ten folder, ale twoje zmiany nie będą wysyłane.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Jednokierunkowa synchronizacja z serwera na ten komputer</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Folder udostępniony „%1” można już synchronizować.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Wykluczone pliki</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Nie udało się włączyć synchronizacji tego folderu. Sprawdź swoje uprawnienia na serwerze i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Ten folder pokrywa się z folderem, który jest już synchronizowany. Wybierz folder, który nie leży wewnątrz niego ani go nie zawiera.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Nie, dziękuję</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Nie pokazuj więcej tego komunikatu</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Wszystko jest skonfigurowane. Tarnwell zaczął tworzyć backup twoich plików.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Pozwól programowi Tarnwell wybrać typowe ustawienia lub wybierz je samodzielnie.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Nie można utworzyć łącza do tego pliku. Upewnij się, że plik został wysłany i że masz uprawnienia do jego udostępniania.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Uwzględnij ponownie te foldery w synchronizacji</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Ten plik został zmieniony zarówno na komputerze, jak i na serwerze. Porównaj obie wersje i usuń tę, której nie potrzebujesz.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Umieść pliki w folderze lokalnym, a Tarnwell utworzy ich backup na serwerze.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Nie udało się utworzyć folderu „%1”. Sprawdź swoje uprawnienia lub wybierz inne położenie.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Wybierz na serwerze folder udostępniony do synchronizacji.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Praca instalatora programu [ProductName] została anulowana przed zakończeniem. W komputerze nie wprowadzono żadnych zmian. Możesz uruchomić instalator ponownie w dowolnej chwili.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Gotowość</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Nie udało się ukończyć backupu. Sprawdź połączenie z serwerem i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Nie zamykaj tych programów (konieczny restart komputera)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Nie masz uprawnień do synchronizacji z tym folderem. Wybierz folder, do którego masz dostęp.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell jest już uruchomiony. Możesz go otworzyć z zasobnika.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Pliki pasujące do któregoś z tych filtrów nie są synchronizowane.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Luty</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Dysk z folderem lokalnym nie jest podłączony. Podłącz go i wznów zadanie.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Nie korzystasz z konta administratora, dlatego program Tarnwell zostanie zainstalowany tylko dla twojego konta. Czy chcesz kontynuować?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Wysłano</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Wszystko gotowe!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Masz do tego folderu dostęp tylko do odczytu. Pliki będą pobierane, ale twoje zmiany nie będą wysyłane.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Folder na serwerze znajduje się w zdalnej pamięci masowej, która nie jest teraz podłączona. Poproś administratora o jej ponowne podłączenie.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Pozycje: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Ten folder jest punktem montowania i nie można go synchronizować. Wybierz zwykły folder.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Serwer zablokował twój adres IP. Poproś administratora o jego odblokowanie.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Nie udało się uaktualnić programu Tarnwell. Spróbuj ponownie później lub samodzielnie pobierz najnowszą wersję.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Łączenie…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Nie udało się prawidłowo uruchomić programu Tarnwell. Uruchom ponownie komputer. Jeśli problem nie ustąpi, zainstaluj Tarnwell ponownie.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nowe zadanie synchronizacji</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Nie używaj serwera proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Czynność</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Zmień, napraw lub usuń program [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Sprawdź ustawienia</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Odznaczone tutaj foldery zostaną usunięte z tego komputera. Na serwerze pozostaną.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Pobieranie zostało anulowane.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink nie może połączyć się z serwerem. Sprawdź połączenie z internetem i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Ten folder znajduje się na dysku sieciowym. Zmiany wprowadzane tam przez inne osoby mogą nie być zauważane od razu.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Tego folderu nie można synchronizować. Wybierz inny folder.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Język</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>Nie udało się usunąć „%1” z listy. Spróbuj ponownie później.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Stan</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Zamknij te programy i kliknij „Ponów” albo kliknij „Ignoruj”, aby kontynuować i później uruchomić ponownie komputer.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Połączenie z serwerem zostało utracone. Tarnwell połączy się ponownie, gdy tylko będzie to możliwe.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Witamy w programie Tarnwell. Skonfigurujmy twój pierwszy backup.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Nie zmieniono żadnych ustawień.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Zobacz stan każdego pliku</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Kontynuuj</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Zamknij te programy i później uruchom je ponownie</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Szyfrowanie SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Nie można znaleźć folderu lokalnego. Przenieś go z powrotem na miejsce albo odłącz zadanie i skonfiguruj je ponownie.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Zablokowany plik</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Serwer wysłał odpowiedź, której Tarnwell nie rozumie. Upewnij się, że zarówno serwer, jak i Tarnwell są aktualne.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Po dwukrotnym kliknięciu ikony w zasobniku</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Nie można pobrać tego pliku. Mógł zostać przeniesiony lub usunięty na serwerze.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Niezgodność wersji</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Aby synchronizować więcej folderów, w dowolnej chwili dodaj zadanie w programie Tarnwell.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Połączenie bezpośrednie</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Nie można połączyć się z serwerem. Sprawdź połączenie sieciowe i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Dzisiaj</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Nie udało się zweryfikować certyfikatu SSL.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Wpisz swoją nazwę użytkownika.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Folder udostępniony nie jest zamontowany na serwerze. Poproś administratora o jego zamontowanie.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Nakładki na ikonach pokazują stan twoich plików. Zielony znacznik wyboru oznacza, że plik jest aktualny.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Wpisz nazwę pliku do wykluczenia</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Niektórych plików nie zsynchronizowano</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Asystent konfiguracji zaawansowanej</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Używaj czarno-białej ikony w zasobniku</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Czy chcesz zamknąć instalator programu [ProductName], zanim zakończy pracę?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>Nie udało się pobrać „%1”. Sprawdź połączenie z serwerem i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Kwiecień</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Instalator programu [ProductName] został zatrzymany z powodu błędu, zanim zakończył pracę. W komputerze nie wprowadzono żadnych zmian. Aby spróbować ponownie, uruchom instalator jeszcze raz.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Kierunek synchronizacji tego zadania nie odpowiada twoim uprawnieniom na serwerze. Wybierz inny kierunek synchronizacji.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Nie masz uprawnień do używania tego folderu udostępnionego. Poproś administratora o dostęp.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Możesz użyć istniejącego zadania lub skonfigurować nowe w innym folderze.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Ten folder jest już synchronizowany przez inne zadanie. Wybierz inny.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>To zadanie już istnieje</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Nie udało się utworzyć zadania. Sprawdź ustawienia i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Zeszły miesiąc</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Nowsza wersja programu Tarnwell jest już zainstalowana. Aby zainstalować tę wersję, odinstaluj najpierw nowszą.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Nie można pokazać wcześniejszych wersji tego pliku. Sprawdź połączenie z serwerem i spróbuj ponownie.</translation>
     </message>
 </context>

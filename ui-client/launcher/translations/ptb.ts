@@ -68,11 +68,11 @@
         <translation>Junho</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Não foi possível verificar o certificado SSL do servidor. Confira o endereço do servidor ou peça ajuda ao administrador.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Alguns dos dados digitados não são válidos. Confira-os e tente novamente.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Desvincular</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Repara [ProductName] substituindo arquivos, atalhos e entradas do registro ausentes ou danificados.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Rede local</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Escolha por conta própria cada pasta, o modo de sincronização e os filtros.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Ícone da bandeja</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Desvincular a tarefa de %1? Os arquivos que já estão neste computador e no servidor não serão apagados.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Falha ao sincronizar</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Não é possível ler o banco de dados de sincronização. Reinicie o Tarnwell. Se o problema continuar, desvincule a tarefa e configure-a novamente.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Iniciar o Tarnwell no login do usuário</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Clique com o botão direito no ícone da bandeja para pausar uma tarefa, abrir a pasta dela ou alterar as configurações.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Digite 0 se não quiser limitar o tamanho dos arquivos.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>O instalador de [ProductName] terminou</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Não foi possível sincronizar alguns arquivos. Abra o Tarnwell para ver os detalhes.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Este ID do OrvaneLink não existe. Confira o ID e digite-o novamente.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>O download de %1 foi concluído.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Pausar</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Remover %1 da lista? A pasta em si não será apagada.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Não foi possível verificar este nome de usuário. Confirme se o servidor está acessível e tente novamente.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Escolha uma pasta neste computador. O conteúdo dela será sincronizado com o servidor.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>A pasta não está vazia</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Arquivos com exatamente este nome nunca são sincronizados, seja qual for a pasta em que estejam.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Não foi possível estabelecer uma conexão segura. Confira as configurações de SSL do servidor e tente novamente.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Pastas</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Este ID do OrvaneLink não é válido. Use somente letras, números e hifens.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Configurações de rede</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Não foi possível encontrar o servidor devido a um erro do sistema. Tente novamente ou digite o endereço dele.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>O Tarnwell %1 está disponível. Clique aqui para atualizar.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Escolha o que acontece quando um arquivo foi alterado tanto no computador quanto no servidor.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Digite o ID do OrvaneLink do seu Orvane Station. O Tarnwell se conecta a ele pelo OrvaneLink, mesmo quando você está fora.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Você pode ver esta pasta, mas suas alterações não serão enviadas.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Sincronização unidirecional do servidor para este computador</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>A pasta compartilhada %1 está pronta para ser sincronizada.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Arquivos ignorados</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Não foi possível ativar a sincronização desta pasta. Confira suas permissões no servidor e tente novamente.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Esta pasta se sobrepõe a uma pasta que já é sincronizada. Escolha uma pasta que não esteja dentro dela nem a contenha.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Agora não</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Não mostrar esta mensagem novamente</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Tudo está configurado. O Tarnwell começou a fazer backup dos seus arquivos.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Deixe o Tarnwell escolher as configurações habituais ou faça as escolhas por conta própria.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Não é possível criar um link para este arquivo. Confirme se o arquivo foi enviado e se você tem permissão para compartilhá-lo.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Voltar a sincronizar estas pastas</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Este arquivo foi alterado tanto no computador quanto no servidor. Compare as duas versões e apague a que não for necessária.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Coloque arquivos na pasta local, e o Tarnwell faz o backup deles no servidor para você.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Não foi possível criar a pasta %1. Confira suas permissões ou escolha outro local.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Escolha a pasta compartilhada do servidor com a qual sincronizar.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Você cancelou o instalador de [ProductName] antes do término. Nada foi alterado no computador. Você pode executar o instalador novamente a qualquer momento.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Em espera</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Não foi possível concluir o backup. Confira a conexão com o servidor e tente novamente.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Deixar estes programas abertos (exige reinicialização)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Você não tem permissão para sincronizar com esta pasta. Escolha uma pasta à qual você tenha acesso.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>O Tarnwell já está em execução. Você pode abri-lo pela bandeja.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Arquivos que correspondem a um destes filtros não são sincronizados.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Fevereiro</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>O disco que contém a pasta local não está conectado. Conecte-o e retome a tarefa.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Você não fez login como administrador, por isso o Tarnwell será instalado somente para a sua conta. Deseja continuar?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Enviado</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Tudo pronto!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Você só pode ler esta pasta. Os arquivos serão baixados, mas suas alterações não serão enviadas.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>A pasta do servidor está em um armazenamento remoto que não está conectado no momento. Peça ao administrador para reconectá-lo.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Itens: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Esta pasta é um ponto de montagem e não pode ser sincronizada. Escolha uma pasta comum.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>O servidor bloqueou seu endereço IP. Peça ao administrador para desbloqueá-lo.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Não foi possível atualizar o Tarnwell. Tente novamente mais tarde ou baixe a versão mais recente manualmente.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Conectando…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Não foi possível iniciar o Tarnwell corretamente. Reinicie o computador. Se o problema continuar, instale o Tarnwell novamente.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Nova tarefa de sincronização</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Não usar proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Ação</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Alterar, reparar ou remover [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Confira as configurações</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>As pastas que você desmarcar aqui serão removidas deste computador. Elas continuam no servidor.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>O download foi cancelado.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>O OrvaneLink não conseguiu acessar o servidor. Confira sua conexão com a internet e tente novamente.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Esta pasta está em uma unidade de rede. Alterações feitas nela por outras pessoas podem não ser percebidas imediatamente.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Esta pasta não pode ser sincronizada. Escolha uma pasta diferente.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>Não foi possível remover %1 da lista. Tente novamente mais tarde.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Feche estes programas e clique em “Tentar novamente”, ou clique em “Ignorar” para continuar e reinicie o computador depois.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>A conexão com o servidor foi perdida. O Tarnwell vai se reconectar assim que possível.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Boas-vindas ao Tarnwell. Vamos configurar seu primeiro backup.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Nenhuma configuração foi alterada.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Veja o estado de cada arquivo</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Continuar</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Fechar estes programas e reabri-los depois</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Criptografia SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Não é possível encontrar a pasta local. Coloque-a de volta no lugar ou desvincule a tarefa e configure-a novamente.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Arquivo bloqueado</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>O servidor enviou uma resposta que o Tarnwell não entende. Confirme se os dois estão atualizados.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Ao clicar duas vezes no ícone da bandeja</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Não é possível baixar este arquivo. Ele pode ter sido movido ou apagado no servidor.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Versão incompatível</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Para sincronizar mais pastas, adicione uma tarefa no Tarnwell a qualquer momento.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Conexão direta</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Não é possível acessar o servidor. Confira sua conexão de rede e tente novamente.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Hoje</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Não foi possível verificar o certificado SSL.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Digite seu nome de usuário.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>A pasta compartilhada não está montada no servidor. Peça ao administrador para montá-la.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Os ícones de status mostram como estão seus arquivos. Uma marca de seleção verde significa que o arquivo está atualizado.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Digite um nome de arquivo a ignorar</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Alguns arquivos não foram sincronizados</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Assistente de configuração avançada</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Usar ícone em preto e branco na bandeja</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Deseja sair do instalador de [ProductName] antes do término?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>Não foi possível baixar %1. Confira a conexão com o servidor e tente novamente.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Abril</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>O instalador de [ProductName] foi interrompido por um erro antes do término. Nada foi alterado no computador. Para tentar novamente, reinicie o instalador.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>A direção da sincronização desta tarefa não corresponde à sua permissão no servidor. Escolha outra direção.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Você não tem permissão para usar esta pasta compartilhada. Peça acesso ao administrador.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Você pode usar a tarefa existente ou configurar uma nova em uma pasta diferente.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Outra tarefa já sincroniza esta pasta. Escolha uma pasta diferente.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Esta tarefa já existe</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Não foi possível criar a tarefa. Confira as configurações e tente novamente.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Mês passado</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Uma versão mais recente do Tarnwell já está instalada. Para instalar esta versão, desinstale primeiro a mais recente.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Não é possível mostrar as versões anteriores deste arquivo. Confira a conexão com o servidor e tente novamente.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>Июнь</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Не удалось проверить SSL-сертификат сервера. Проверьте адрес сервера или обратитесь за помощью к администратору.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Некоторые введенные данные недопустимы. Проверьте их и повторите попытку.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Отвязать</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Восстанавливает [ProductName], заменяя отсутствующие или поврежденные файлы, ярлыки и записи реестра.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Локальная сеть</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Выберите каждую папку, режим синхронизации и фильтры самостоятельно.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Значок в трее</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Отвязать задание для %1? Файлы, которые уже есть на этом компьютере и на сервере, не будут удалены.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Сбой синхронизации</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Не удается прочитать базу данных синхронизации. Перезапустите Tarnwell. Если проблема не исчезнет, отвяжите задание и настройте его заново.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Запускать Tarnwell при входе в систему</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Щелкните значок в трее правой кнопкой мыши, чтобы приостановить задание, открыть его папку или изменить его настройки.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Введите 0, если вы не хотите ограничивать размер файлов.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Работа программы установки [ProductName] завершена</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Некоторые файлы не удалось синхронизировать. Откройте Tarnwell, чтобы узнать подробности.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Отменить</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Такого ID OrvaneLink не существует. Проверьте ID и введите его снова.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>Файл %1 загружен.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Приостановить</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Удалить папку %1 из списка? Сама папка не будет удалена.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Не удалось проверить это имя пользователя. Убедитесь, что сервер доступен, и повторите попытку.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Выберите папку на этом компьютере. Ее содержимое будет синхронизироваться с сервером.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Папка не пуста</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Файлы, имя которых в точности совпадает с указанным, никогда не синхронизируются, в какой бы папке они ни находились.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Не удалось установить защищенное подключение. Проверьте настройки SSL на сервере и повторите попытку.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Папки</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Недопустимый ID OrvaneLink. Используйте только буквы, цифры и дефисы.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Настройки сети</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Не удалось найти сервер из-за системной ошибки. Повторите попытку или введите адрес сервера.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Доступна версия Tarnwell %1. Нажмите здесь, чтобы обновить.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Выберите, что делать, если файл был изменен и на компьютере, и на сервере.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Введите ID OrvaneLink вашего сервера Orvane Station. Tarnwell подключится к нему через OrvaneLink, где бы вы ни находились.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Вы можете просматривать эту папку, но ваши изменения не будут выгружаться.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Односторонняя синхронизация с сервера на этот компьютер</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Общая папка %1 готова к синхронизации.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Исключенные файлы</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Не удалось включить синхронизацию этой папки. Проверьте свои права доступа на сервере и повторите попытку.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Эта папка пересекается с папкой, которая уже синхронизируется. Выберите папку, которая не находится внутри нее и не содержит ее.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Нет, спасибо</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Больше не показывать это сообщение</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Все настроено. Tarnwell начал резервное копирование ваших файлов.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Позвольте Tarnwell выбрать обычные настройки или задайте их самостоятельно.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Не удается создать ссылку на этот файл. Убедитесь, что файл выгружен на сервер и у вас есть право предоставлять к нему общий доступ.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Снова синхронизировать эти папки</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Этот файл был изменен и на компьютере, и на сервере. Сравните две версии и удалите ненужную.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Поместите файлы в локальную папку, и Tarnwell сам создаст их резервные копии на сервере.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Не удалось создать папку %1. Проверьте свои права доступа или выберите другое место.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Выберите на сервере общую папку, с которой нужно выполнять синхронизацию.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Вы отменили работу программы установки [ProductName] до ее завершения. На компьютере ничего не изменилось. Программу установки можно снова запустить в любое время.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Ожидание</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Не удалось завершить резервное копирование. Проверьте подключение к серверу и повторите попытку.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Не закрывать эти программы (потребуется перезагрузка)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>У вас нет прав на синхронизацию с этой папкой. Выберите папку, к которой у вас есть доступ.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell уже запущен. Его можно открыть из трея.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Файлы, соответствующие хотя бы одному из этих фильтров, не синхронизируются.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Февраль</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Диск с локальной папкой не подключен. Подключите его и возобновите задание.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Вы вошли в систему не как администратор, поэтому Tarnwell будет установлен только для вашей учетной записи. Продолжить?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Выгружено</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Все готово!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Эта папка доступна вам только для чтения. Файлы будут загружаться, но ваши изменения не будут выгружаться.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Папка на сервере расположена во внешнем хранилище, которое сейчас не подключено. Попросите администратора снова подключить его.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Записей: %1</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Эта папка является точкой монтирования, поэтому ее нельзя синхронизировать. Выберите обычную папку.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Сервер заблокировал ваш IP-адрес. Попросите администратора разблокировать его.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Не удалось обновить Tarnwell. Повторите попытку позже или загрузите последнюю версию самостоятельно.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Подключение…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Не удалось правильно запустить Tarnwell. Перезагрузите компьютер. Если проблема не исчезнет, установите Tarnwell заново.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Новое задание синхронизации</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Не использовать прокси</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Действие</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Изменение, восстановление или удаление [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Проверьте настройки</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Папки, с которых вы здесь снимете флажки, будут удалены с этого компьютера. На сервере они останутся.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Загрузка отменена.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>Не удалось связаться с сервером через OrvaneLink. Проверьте подключение к интернету и повторите попытку.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Эта папка находится на сетевом диске. Изменения, которые вносят там другие пользователи, могут обнаруживаться не сразу.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Эту папку нельзя синхронизировать. Выберите другую папку.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Язык</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>Не удалось удалить папку %1 из списка. Повторите попытку позже.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Статус</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Закройте эти программы и нажмите «Повторить» либо нажмите «Пропустить», чтобы продолжить, а затем перезагрузите компьютер.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Подключение к серверу прервалось. Tarnwell подключится снова, как только это станет возможно.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Добро пожаловать в Tarnwell. Давайте настроим ваше первое резервное копирование.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Настройки не изменены.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Статус каждого файла на виду</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Продолжить</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Закрыть эти программы, а затем запустить их снова</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Шифрование SSL</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Не удается найти локальную папку. Верните ее на прежнее место либо отвяжите задание и настройте его заново.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Заблокированный файл</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Сервер прислал ответ, который Tarnwell не понимает. Убедитесь, что и Tarnwell, и сервер обновлены.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>При двойном щелчке значка в трее</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Этот файл не удается загрузить. Возможно, он был перемещен или удален на сервере.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Версии не совпадают</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Чтобы синхронизировать другие папки, в любое время добавьте задание в Tarnwell.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Прямое подключение</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Сервер недоступен. Проверьте подключение к сети и повторите попытку.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Сегодня</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>Не удалось проверить SSL-сертификат.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Введите имя пользователя.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Общая папка не смонтирована на сервере. Попросите администратора смонтировать ее.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Метки на значках показывают, что происходит с вашими файлами. Зеленая галочка означает, что файл синхронизирован.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Введите имя исключаемого файла</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Не все файлы синхронизированы</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Мастер расширенной настройки</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Использовать черно-белый значок в трее</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Выйти из программы установки [ProductName] до завершения ее работы?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>Не удалось загрузить файл %1. Проверьте подключение к серверу и повторите попытку.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Апрель</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Работа программы установки [ProductName] была прервана из-за ошибки. На компьютере ничего не изменилось. Чтобы повторить попытку, снова запустите программу установки.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Направление синхронизации этого задания не соответствует вашим правам доступа на сервере. Выберите другое направление синхронизации.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>У вас нет прав на использование этой общей папки. Попросите администратора предоставить вам доступ.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Вы можете использовать существующее задание или настроить новое в другой папке.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Другое задание уже синхронизирует эту папку. Выберите другую.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Это задание уже существует</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Не удалось создать задание. Проверьте настройки и повторите попытку.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Прошлый месяц</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Более новая версия Tarnwell уже установлена. Чтобы установить эту версию, сначала удалите более новую.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Не удается показать предыдущие версии этого файла. Проверьте подключение к серверу и повторите попытку.</translation>
     </message>
 </context>

@@ -68,11 +68,11 @@
         <translation>juni</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Serverns SSL-certifikat kunde inte verifieras. Kontrollera serveradressen eller be administratören om hjälp.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Något av det du angav är ogiltigt. Kontrollera det och försök igen.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Koppla bort</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Reparerar [ProductName] genom att ersätta filer, genvägar och registerposter som saknas eller är skadade.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Lokalt nätverk</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Välj mappar, synkläge och filter själv.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Symbol i systemfältet</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>Vill du koppla bort uppgiften för %1? Filerna som redan finns på den här datorn och på servern raderas inte.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Synkproblem</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Synkdatabasen kan inte läsas. Starta om Tarnwell. Om problemet kvarstår kopplar du bort uppgiften och konfigurerar den på nytt.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Starta Tarnwell vid inloggning</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Högerklicka på symbolen i systemfältet för att pausa en uppgift, öppna dess mapp eller ändra dess inställningar.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Ange 0 om du inte vill begränsa filstorleken.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>Installationsprogrammet för [ProductName] är klart</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Några filer kunde inte synkroniseras. Öppna Tarnwell för mer information.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>Avbryt</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Detta OrvaneLink-ID finns inte. Kontrollera ID:t och ange det igen.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>%1 har hämtats.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Pausa</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>Vill du ta bort %1 från listan? Själva mappen raderas inte.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Användarnamnet kunde inte kontrolleras. Se till att servern kan nås och försök igen.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Välj en mapp på den här datorn. Innehållet synkroniseras med servern.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Mappen är inte tom</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Filer med exakt det här namnet synkroniseras aldrig, oavsett vilken mapp de ligger i.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Det gick inte att upprätta en säker anslutning. Kontrollera serverns SSL-inställningar och försök igen.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Mappar</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Detta är inte ett giltigt OrvaneLink-ID. Använd endast bokstäver, siffror och bindestreck.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Nätverksinställningar</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Servern kunde inte hittas på grund av ett systemfel. Försök igen eller ange serverns adress i stället.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 finns att hämta. Klicka här för att uppdatera.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Välj vad som ska hända när en fil har ändrats både på datorn och på servern.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Ange OrvaneLink-ID för din Orvane Station. Tarnwell ansluter till den via OrvaneLink, även när du är på en annan plats.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Du kan visa den här mappen, men dina ändringar laddas inte upp.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Envägssynkronisering från servern till den här datorn</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>Den delade mappen %1 kan nu synkroniseras.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Undantagna filer</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Synkroniseringen kunde inte aktiveras för den här mappen. Kontrollera dina behörigheter på servern och försök igen.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Den här mappen överlappar en mapp som redan synkroniseras. Välj en mapp som varken ligger i den eller ovanför den.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Nej tack</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Visa inte det här meddelandet igen</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Nu är allt klart. Tarnwell har börjat säkerhetskopiera dina filer.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Låt Tarnwell välja de vanliga inställningarna eller välj dem själv.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Det går inte att skapa en länk till den här filen. Kontrollera att filen har laddats upp och att du har behörighet att dela den.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Ta med de här mapparna i synkroniseringen igen</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Den här filen har ändrats både på datorn och på servern. Jämför de två versionerna och radera den som du inte behöver.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Lägg filer i den lokala mappen så säkerhetskopierar Tarnwell dem till servern åt dig.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>Mappen %1 kunde inte skapas. Kontrollera dina behörigheter eller välj en annan plats.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Välj den delade mapp på servern som du vill synkronisera med.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>Du avbröt installationsprogrammet för [ProductName] innan det var klart. Datorn har inte ändrats. Du kan köra installationsprogrammet igen när som helst.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Vänteläge</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Säkerhetskopieringen kunde inte slutföras. Kontrollera anslutningen till servern och försök igen.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Låt programmen vara öppna (kräver omstart)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Du har inte behörighet att synkronisera med den här mappen. Välj en mapp som du har åtkomst till.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell körs redan. Du kan öppna programmet från systemfältet.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Filer som matchar något av de här filtren synkroniseras inte.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>februari</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Disken med den lokala mappen är inte ansluten. Anslut den och återuppta uppgiften.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Du är inte inloggad som administratör, så Tarnwell installeras bara för ditt konto. Vill du fortsätta?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Uppladdad</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Allt är klart!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Du har bara läsbehörighet för den här mappen. Filer hämtas, men dina ändringar laddas inte upp.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Servermappen finns på en fjärrlagringsplats som inte är ansluten just nu. Be administratören att ansluta den igen.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 objekt</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Den här mappen är en monteringspunkt och kan inte synkroniseras. Välj en vanlig mapp.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Servern har blockerat din IP-adress. Be administratören att häva blockeringen.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell kunde inte uppdateras. Försök igen senare eller hämta den senaste versionen själv.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Ansluter…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell kunde inte startas på rätt sätt. Starta om datorn. Installera Tarnwell igen om problemet kvarstår.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Ny synkuppgift</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Använd ingen proxy</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>Åtgärd</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>Ändra, reparera eller ta bort [ProductName]</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Kontrollera dina inställningar</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Mappar som du avmarkerar här tas bort från den här datorn. De finns kvar på servern.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>Hämtningen avbröts.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink kunde inte nå servern. Kontrollera din internetanslutning och försök igen.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Den här mappen finns på en nätverksenhet. Det kan dröja innan ändringar som andra gör där upptäcks.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Den här mappen kan inte synkroniseras. Välj en annan mapp.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Språk</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>%1 kunde inte tas bort från listan. Försök igen senare.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Status</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Stäng de här programmen och klicka på Försök igen, eller klicka på Ignorera för att fortsätta och starta om datorn efteråt.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Anslutningen till servern bröts. Tarnwell ansluter igen så snart som möjligt.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Välkommen till Tarnwell. Nu konfigurerar vi din första säkerhetskopiering.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Inga inställningar ändrades.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Se statusen för varje fil</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Fortsätt</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Stäng de här programmen och starta om dem efteråt</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL-kryptering</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Den lokala mappen kan inte hittas. Flytta tillbaka den till dess plats eller koppla bort uppgiften och konfigurera den på nytt.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Servern skickade ett svar som Tarnwell inte förstår. Kontrollera att båda är uppdaterade.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Vid dubbelklick på symbolen i systemfältet</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Den här filen kan inte hämtas. Den kan ha flyttats eller raderats på servern.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Olika versioner</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Om du vill synkronisera fler mappar kan du när som helst lägga till en uppgift i Tarnwell.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Direktanslutning</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Servern kan inte nås. Kontrollera nätverksanslutningen och försök igen.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Idag</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>SSL-certifikatet kunde inte verifieras.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Ange ditt användarnamn.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Den delade mappen är inte monterad på servern. Be administratören att montera den.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Statusmärken visar hur det står till med dina filer. En grön bock betyder att en fil är uppdaterad.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Ange ett filnamn att undanta</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Några filer synkroniserades inte</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Avancerad konfigureringsguide</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Använd en svartvit symbol i systemfältet</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>Vill du avsluta installationsprogrammet för [ProductName] innan det är klart?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>%1 kunde inte hämtas. Kontrollera anslutningen till servern och försök igen.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>april</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>Installationsprogrammet för [ProductName] stoppades av ett fel innan det var klart. Datorn har inte ändrats. Kör installationsprogrammet på nytt om du vill försöka igen.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Uppgiftens synkriktning stämmer inte överens med din behörighet på servern. Välj en annan synkriktning.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Du har inte behörighet att använda den här delade mappen. Be administratören om åtkomst.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Du kan använda den befintliga uppgiften eller konfigurera en ny i en annan mapp.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>En annan uppgift synkroniserar redan den här mappen. Välj en annan.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Uppgiften finns redan</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Uppgiften kunde inte skapas. Kontrollera dina inställningar och försök igen.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Förra månaden</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>En nyare version av Tarnwell är redan installerad. Om du vill installera den här versionen måste du först avinstallera den nyare.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>De tidigare versionerna av den här filen kan inte visas. Kontrollera anslutningen till servern och försök igen.</translation>
     </message>
 </context>

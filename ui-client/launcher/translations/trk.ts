@@ -68,11 +68,11 @@
         <translation>Haziran</translation>
     </message>
     <message>
-        <source>The SSL certificate of the server couldn&apos;t be verified. Check the server address or ask your administrator for help.</source>
+        <source>The SSL certificate of the server couldn’t be verified. Check the server address or ask your administrator for help.</source>
         <translation>Sunucunun SSL sertifikası doğrulanamadı. Sunucu adresini denetleyin veya yöneticinizden yardım isteyin.</translation>
     </message>
     <message>
-        <source>Some of the information you entered isn&apos;t valid. Check it and try again.</source>
+        <source>Some of the information you entered isn’t valid. Check it and try again.</source>
         <translation>Girdiğiniz bilgilerin bazıları geçerli değil. Denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -80,7 +80,7 @@
         <translation>Eşlemeyi kaldır</translation>
     </message>
     <message>
-        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts and registry entries.</source>
+        <source>Repairs [ProductName] by replacing missing or damaged files, shortcuts, and registry entries.</source>
         <translation>Eksik veya hasarlı dosyaları, kısayolları ve kayıt defteri girdilerini yenileyerek [ProductName] programını onarır.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Yerel ağ</translation>
     </message>
     <message>
-        <source>Choose each folder, the sync mode and the filters yourself.</source>
+        <source>Choose each folder, the sync mode, and the filters yourself.</source>
         <translation>Klasörleri, eşzamanlama modunu ve filtreleri tek tek kendiniz seçin.</translation>
     </message>
     <message>
@@ -148,7 +148,7 @@
         <translation>Bildirim alanı simgesi</translation>
     </message>
     <message>
-        <source>Unlink the task for %1? The files already on this computer and on the server won&apos;t be deleted.</source>
+        <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
         <translation>%1 görevinin eşlemesini kaldırmak istiyor musunuz? Bu bilgisayarda ve sunucuda bulunan dosyalar silinmez.</translation>
     </message>
     <message>
@@ -224,7 +224,7 @@
         <translation>Eşzamanlama sorunu</translation>
     </message>
     <message>
-        <source>The sync database can&apos;t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
+        <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
         <translation>Eşzamanlama veritabanı okunamıyor. Tarnwell’i yeniden başlatın. Sorun sürerse görevin eşlemesini kaldırıp görevi yeniden ayarlayın.</translation>
     </message>
     <message>
@@ -248,11 +248,11 @@
         <translation>Kullanıcı oturum açtığında Tarnwell’i başlat</translation>
     </message>
     <message>
-        <source>Right-click the tray icon to pause a task, open its folder or change its settings.</source>
+        <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
         <translation>Bir görevi duraklatmak, klasörünü açmak veya ayarlarını değiştirmek için bildirim alanı simgesine sağ tıklayın.</translation>
     </message>
     <message>
-        <source>Enter 0 if you don&apos;t want to limit the file size.</source>
+        <source>Enter 0 if you don’t want to limit the file size.</source>
         <translation>Dosya boyutunu sınırlamak istemiyorsanız 0 girin.</translation>
     </message>
     <message>
@@ -300,7 +300,7 @@
         <translation>[ProductName] yükleyicisi işlemi tamamladı</translation>
     </message>
     <message>
-        <source>Some files couldn&apos;t be synced. Open Tarnwell to see the details.</source>
+        <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
         <translation>Bazı dosyalar eşzamanlanamadı. Ayrıntıları görmek için Tarnwell’i açın.</translation>
     </message>
     <message>
@@ -316,11 +316,11 @@
         <translation>İptal</translation>
     </message>
     <message>
-        <source>This OrvaneLink ID doesn&apos;t exist. Check the ID and enter it again.</source>
+        <source>This OrvaneLink ID doesn’t exist. Check the ID and enter it again.</source>
         <translation>Böyle bir OrvaneLink kimliği yok. Kimliği denetleyip yeniden girin.</translation>
     </message>
     <message>
-        <source>%1 has been downloaded.</source>
+        <source>“%1” has been downloaded.</source>
         <translation>%1 indirildi.</translation>
     </message>
     <message>
@@ -336,11 +336,11 @@
         <translation>Duraklat</translation>
     </message>
     <message>
-        <source>Remove %1 from the list? The folder itself won&apos;t be deleted.</source>
+        <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
         <translation>%1 klasörünü listeden kaldırmak istiyor musunuz? Klasörün kendisi silinmez.</translation>
     </message>
     <message>
-        <source>This username couldn&apos;t be checked. Make sure that the server is reachable and try again.</source>
+        <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
         <translation>Bu kullanıcı adı denetlenemedi. Sunucuya erişilebildiğinden emin olup yeniden deneyin.</translation>
     </message>
     <message>
@@ -360,7 +360,7 @@
         <translation>Bu bilgisayarda bir klasör seçin. İçeriği sunucuyla eşzamanlanacak.</translation>
     </message>
     <message>
-        <source>The folder isn&apos;t empty</source>
+        <source>The folder isn’t empty</source>
         <translation>Klasör boş değil</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Adı tam olarak bu olan dosyalar, hangi klasörde olursa olsun hiçbir zaman eşzamanlanmaz.</translation>
     </message>
     <message>
-        <source>A secure connection couldn&apos;t be established. Check the SSL settings of the server and try again.</source>
+        <source>A secure connection couldn’t be established. Check the SSL settings of the server and try again.</source>
         <translation>Güvenli bir bağlantı kurulamadı. Sunucunun SSL ayarlarını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Klasörler</translation>
     </message>
     <message>
-        <source>This isn&apos;t a valid OrvaneLink ID. Use only letters, digits and hyphens.</source>
+        <source>This isn’t a valid OrvaneLink ID. Use only letters, digits, and hyphens.</source>
         <translation>Bu, geçerli bir OrvaneLink kimliği değil. Yalnızca harf, rakam ve kısa çizgi kullanın.</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Ağ ayarları</translation>
     </message>
     <message>
-        <source>The server couldn&apos;t be found because of a system error. Try again or enter its address instead.</source>
+        <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
         <translation>Bir sistem hatası nedeniyle sunucu bulunamadı. Yeniden deneyin veya bunun yerine sunucunun adresini girin.</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
         <translation>Tarnwell %1 kullanıma sunuldu. Güncellemek için buraya tıklayın.</translation>
     </message>
     <message>
-        <source>Choose what happens when a file was changed on both the computer and the server.</source>
+        <source>Choose what happens when a file has been changed on both the computer and the server.</source>
         <translation>Bir dosya hem bilgisayarda hem sunucuda değiştirildiğinde ne yapılacağını seçin.</translation>
     </message>
     <message>
@@ -532,7 +532,7 @@
         <translation>Orvane Station’ınızın OrvaneLink kimliğini girin. Tarnwell, siz uzaktayken bile ona OrvaneLink üzerinden bağlanır.</translation>
     </message>
     <message>
-        <source>You can view this folder, but your changes won&apos;t be uploaded.</source>
+        <source>You can view this folder, but your changes won’t be uploaded.</source>
         <translation>Bu klasörü görüntüleyebilirsiniz ama değişiklikleriniz sunucuya yüklenmez.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>Sunucudan bu bilgisayara tek yönlü eşzamanlama</translation>
     </message>
     <message>
-        <source>The shared folder %1 is ready to be synced.</source>
+        <source>The shared folder “%1” is ready to be synced.</source>
         <translation>%1 adlı paylaşılan klasör eşzamanlanmaya hazır.</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Hariç tutulan dosyalar</translation>
     </message>
     <message>
-        <source>Sync couldn&apos;t be turned on for this folder. Check your permissions on the server and try again.</source>
+        <source>Sync couldn’t be turned on for this folder. Check your permissions on the server and try again.</source>
         <translation>Bu klasör için eşzamanlama açılamadı. Sunucudaki izinlerinizi denetleyip yeniden deneyin.</translation>
     </message>
     <message>
-        <source>This folder overlaps with a folder that is already synced. Choose a folder that is neither inside nor above it.</source>
+        <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
         <translation>Bu klasör, eşzamanlanmakta olan bir klasörle iç içe. O klasörün içinde olmayan ve onu içermeyen bir klasör seçin.</translation>
     </message>
     <message>
@@ -660,7 +660,7 @@
         <translation>Hayır, teşekkürler</translation>
     </message>
     <message>
-        <source>Don&apos;t show this message again</source>
+        <source>Don’t show this message again</source>
         <translation>Bu iletiyi bir daha gösterme</translation>
     </message>
     <message>
@@ -680,11 +680,11 @@
         <translation>Her şey ayarlandı. Tarnwell dosyalarınızı yedeklemeye başladı.</translation>
     </message>
     <message>
-        <source>Let Tarnwell choose the usual settings, or choose them yourself.</source>
+        <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
         <translation>Olağan ayarları Tarnwell’e bırakın veya ayarları kendiniz seçin.</translation>
     </message>
     <message>
-        <source>A link to this file can&apos;t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
+        <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
         <translation>Bu dosya için bağlantı oluşturulamıyor. Dosyanın sunucuya yüklendiğinden ve dosyayı paylaşma izniniz olduğundan emin olun.</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Bu klasörleri eşzamanlamaya yeniden dahil et</translation>
     </message>
     <message>
-        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don&apos;t need.</source>
+        <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
         <translation>Bu dosya hem bilgisayarda hem sunucuda değiştirilmiş. İki sürümü karşılaştırın ve gerekmeyeni silin.</translation>
     </message>
     <message>
@@ -760,7 +760,7 @@
         <translation>Dosyaları yerel klasöre koyun; Tarnwell onları sizin için sunucuya yedekler.</translation>
     </message>
     <message>
-        <source>The folder %1 couldn&apos;t be created. Check your permissions or choose another location.</source>
+        <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
         <translation>%1 klasörü oluşturulamadı. İzinlerinizi denetleyin veya başka bir konum seçin.</translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
         <translation>Eşzamanlama için sunucudaki paylaşılan klasörü seçin.</translation>
     </message>
     <message>
-        <source>You canceled the [ProductName] installer before it finished. Your computer hasn&apos;t been changed. You can run the installer again at any time.</source>
+        <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
         <translation>[ProductName] yükleyicisini tamamlanmadan iptal ettiniz. Bilgisayarınızda değişiklik yapılmadı. Yükleyiciyi istediğiniz zaman yeniden çalıştırabilirsiniz.</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>Beklemede</translation>
     </message>
     <message>
-        <source>The backup couldn&apos;t be completed. Check the connection to the server and try again.</source>
+        <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
         <translation>Yedekleme tamamlanamadı. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -824,7 +824,7 @@
         <translation>Bu programları açık bırak (yeniden başlatma gerekir)</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to sync with this folder. Choose a folder that you have access to.</source>
+        <source>You don’t have permission to sync with this folder. Choose a folder that you have access to.</source>
         <translation>Bu klasörle eşzamanlama izniniz yok. Erişiminiz olan bir klasör seçin.</translation>
     </message>
     <message>
@@ -832,7 +832,7 @@
         <translation>Tarnwell zaten çalışıyor. Bildirim alanından açabilirsiniz.</translation>
     </message>
     <message>
-        <source>Files that match one of these filters aren&apos;t synced.</source>
+        <source>Files that match one of these filters aren’t synced.</source>
         <translation>Bu filtrelerden birine uyan dosyalar eşzamanlanmaz.</translation>
     </message>
     <message>
@@ -848,11 +848,11 @@
         <translation>Şubat</translation>
     </message>
     <message>
-        <source>The disk with the local folder isn&apos;t connected. Connect it and resume the task.</source>
+        <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
         <translation>Yerel klasörün bulunduğu disk bağlı değil. Diski bağlayın ve görevi sürdürün.</translation>
     </message>
     <message>
-        <source>You aren&apos;t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
+        <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
         <translation>Yönetici olarak oturum açmadığınız için Tarnwell yalnızca sizin hesabınıza yüklenecek. Devam etmek istiyor musunuz?</translation>
     </message>
     <message>
@@ -880,15 +880,15 @@
         <translation>Yüklendi</translation>
     </message>
     <message>
-        <source>You&apos;re all set!</source>
+        <source>You’re all set!</source>
         <translation>Her şey hazır!</translation>
     </message>
     <message>
-        <source>You can only read this folder. Files will be downloaded, but your changes won&apos;t be uploaded.</source>
+        <source>You can only read this folder. Files will be downloaded, but your changes won’t be uploaded.</source>
         <translation>Bu klasörü yalnızca okuyabilirsiniz. Dosyalar indirilir ama değişiklikleriniz sunucuya yüklenmez.</translation>
     </message>
     <message>
-        <source>The server folder is on remote storage that isn&apos;t connected right now. Ask your administrator to reconnect it.</source>
+        <source>The server folder is on remote storage that isn’t connected right now. Ask your administrator to reconnect it.</source>
         <translation>Sunucu klasörü, şu anda bağlı olmayan uzak bir depolama alanında. Yöneticinizden bu alanı yeniden bağlamasını isteyin.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>%1 öğe</translation>
     </message>
     <message>
-        <source>This folder is a mount point and can&apos;t be synced. Choose a regular folder.</source>
+        <source>This folder is a mount point and can’t be synced. Choose a regular folder.</source>
         <translation>Bu klasör bir bağlama noktası olduğundan eşzamanlanamaz. Normal bir klasör seçin.</translation>
     </message>
     <message>
@@ -912,7 +912,7 @@
         <translation>Sunucu IP adresinizi engelledi. Yöneticinizden engeli kaldırmasını isteyin.</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be updated. Try again later or download the latest version yourself.</source>
+        <source>Tarnwell couldn’t be updated. Try again later or download the latest version yourself.</source>
         <translation>Tarnwell güncellenemedi. Daha sonra yeniden deneyin veya en son sürümü kendiniz indirin.</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@
         <translation>Bağlanıyor…</translation>
     </message>
     <message>
-        <source>Tarnwell couldn&apos;t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
+        <source>Tarnwell couldn’t be started properly. Restart your computer. If the problem continues, install Tarnwell again.</source>
         <translation>Tarnwell düzgün başlatılamadı. Bilgisayarınızı yeniden başlatın. Sorun sürerse Tarnwell’i yeniden yükleyin.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Yeni eşzamanlama görevi</translation>
     </message>
     <message>
-        <source>Don&apos;t use a proxy</source>
+        <source>Don’t use a proxy</source>
         <translation>Proxy olmadan bağlan</translation>
     </message>
     <message>
@@ -948,7 +948,7 @@
         <translation>İşlem</translation>
     </message>
     <message>
-        <source>Change, repair or remove [ProductName]</source>
+        <source>Change, repair, or remove [ProductName]</source>
         <translation>[ProductName] programını değiştirin, onarın veya kaldırın</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
         <translation>Ayarlarınızı denetleyin</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on the server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
         <translation>Burada işaretini kaldırdığınız klasörler bu bilgisayardan kaldırılır. Sunucuda kalırlar.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@
         <translation>İndirme iptal edildi.</translation>
     </message>
     <message>
-        <source>OrvaneLink couldn&apos;t reach the server. Check your internet connection and try again.</source>
+        <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
         <translation>OrvaneLink sunucuya erişemedi. İnternet bağlantınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Bu klasör bir ağ sürücüsünde. Başkalarının orada yaptığı değişiklikler hemen fark edilmeyebilir.</translation>
     </message>
     <message>
-        <source>This folder can&apos;t be synced. Choose a different folder.</source>
+        <source>This folder can’t be synced. Choose a different folder.</source>
         <translation>Bu klasör eşzamanlanamaz. Farklı bir klasör seçin.</translation>
     </message>
     <message>
@@ -1112,7 +1112,7 @@
         <translation>Dil</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be removed from the list. Try again later.</source>
+        <source>“%1” couldn’t be removed from the list. Try again later.</source>
         <translation>%1 listeden kaldırılamadı. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
@@ -1128,7 +1128,7 @@
         <translation>Durum</translation>
     </message>
     <message>
-        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterwards.</source>
+        <source>Close these programs and click Retry, or click Ignore to continue and restart your computer afterward.</source>
         <translation>Bu programları kapatıp “Yeniden dene” düğmesine tıklayın ya da devam edip bilgisayarınızı daha sonra yeniden başlatmak için “Yok say” düğmesine tıklayın.</translation>
     </message>
     <message>
@@ -1232,7 +1232,7 @@
         <translation>Sunucu bağlantısı koptu. Tarnwell olabildiğince çabuk yeniden bağlanacak.</translation>
     </message>
     <message>
-        <source>Welcome to Tarnwell. Let&apos;s set up your first backup.</source>
+        <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
         <translation>Tarnwell’e hoş geldiniz. İlk yedeklemenizi birlikte ayarlayalım.</translation>
     </message>
     <message>
@@ -1308,7 +1308,7 @@
         <translation>Hiçbir ayar değiştirilmedi.</translation>
     </message>
     <message>
-        <source>See the state of every file</source>
+        <source>See the status of every file</source>
         <translation>Her dosyanın durumunu görün</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Devam et</translation>
     </message>
     <message>
-        <source>Close these programs and restart them afterwards</source>
+        <source>Close these programs and restart them afterward</source>
         <translation>Bu programları kapat ve sonra yeniden başlat</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>SSL şifrelemesi</translation>
     </message>
     <message>
-        <source>The local folder can&apos;t be found. Move it back to its place, or unlink the task and set it up again.</source>
+        <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
         <translation>Yerel klasör bulunamıyor. Klasörü eski yerine taşıyın veya görevin eşlemesini kaldırıp görevi yeniden ayarlayın.</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Kilitli dosya</translation>
     </message>
     <message>
-        <source>The server sent an answer that Tarnwell doesn&apos;t understand. Make sure that both are up to date.</source>
+        <source>The server sent a response that Tarnwell doesn’t recognize. Make sure that both are up to date.</source>
         <translation>Sunucu, Tarnwell’in anlamadığı bir yanıt gönderdi. İkisinin de güncel olduğundan emin olun.</translation>
     </message>
     <message>
@@ -1528,7 +1528,7 @@
         <translation>Bildirim alanı simgesine çift tıklandığında</translation>
     </message>
     <message>
-        <source>This file can&apos;t be downloaded. It may have been moved or deleted on the server.</source>
+        <source>This file can’t be downloaded. It may have been moved or deleted on the server.</source>
         <translation>Bu dosya indirilemiyor. Sunucuda taşınmış veya silinmiş olabilir.</translation>
     </message>
     <message>
@@ -1576,7 +1576,7 @@
         <translation>Sürüm uyuşmuyor</translation>
     </message>
     <message>
-        <source>To sync more folders, add a task in Tarnwell at any time.</source>
+        <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
         <translation>Daha fazla klasör eşzamanlamak için Tarnwell’e istediğiniz zaman görev ekleyin.</translation>
     </message>
     <message>
@@ -1640,7 +1640,7 @@
         <translation>Doğrudan bağlantı</translation>
     </message>
     <message>
-        <source>The server can&apos;t be reached. Check your network connection and try again.</source>
+        <source>The server can’t be reached. Check your network connection and try again.</source>
         <translation>Sunucuya erişilemiyor. Ağ bağlantınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -1720,7 +1720,7 @@
         <translation>Bugün</translation>
     </message>
     <message>
-        <source>The SSL certificate couldn&apos;t be verified.</source>
+        <source>The SSL certificate couldn’t be verified.</source>
         <translation>SSL sertifikası doğrulanamadı.</translation>
     </message>
     <message>
@@ -1744,11 +1744,11 @@
         <translation>Kullanıcı adınızı girin.</translation>
     </message>
     <message>
-        <source>The shared folder isn&apos;t mounted on the server. Ask your administrator to mount it.</source>
+        <source>The shared folder isn’t mounted on the server. Ask your administrator to mount it.</source>
         <translation>Paylaşılan klasör sunucuda bağlı değil. Yöneticinizden klasörü bağlamasını isteyin.</translation>
     </message>
     <message>
-        <source>Icon overlays show how your files are doing. A green check mark means that a file is up to date.</source>
+        <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
         <translation>Simge işaretleri dosyalarınızın durumunu gösterir. Yeşil onay işareti, dosyanın güncel olduğunu belirtir.</translation>
     </message>
     <message>
@@ -1800,7 +1800,7 @@
         <translation>Hariç tutulacak bir dosya adı girin</translation>
     </message>
     <message>
-        <source>Some files weren&apos;t synced</source>
+        <source>Some files weren’t synced</source>
         <translation>Bazı dosyalar eşzamanlanmadı</translation>
     </message>
     <message>
@@ -1812,7 +1812,7 @@
         <translation>Gelişmiş kurulum sihirbazı</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Siyah beyaz bildirim alanı simgesi kullan</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@
         <translation>[ProductName] yükleyicisinden işlem tamamlanmadan çıkmak istiyor musunuz?</translation>
     </message>
     <message>
-        <source>%1 couldn&apos;t be downloaded. Check the connection to the server and try again.</source>
+        <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
         <translation>%1 indirilemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -1848,15 +1848,15 @@
         <translation>Nisan</translation>
     </message>
     <message>
-        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn&apos;t been changed. To try again, restart the installer.</source>
+        <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
         <translation>[ProductName] yükleyicisi bir hata nedeniyle tamamlanmadan durdu. Bilgisayarınızda değişiklik yapılmadı. Yeniden denemek için yükleyiciyi yeniden başlatın.</translation>
     </message>
     <message>
-        <source>The sync direction of this task doesn&apos;t match your permission on the server. Choose another sync direction.</source>
+        <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
         <translation>Bu görevin eşzamanlama yönü sunucudaki izninizle uyuşmuyor. Başka bir eşzamanlama yönü seçin.</translation>
     </message>
     <message>
-        <source>You don&apos;t have permission to use this shared folder. Ask your administrator for access.</source>
+        <source>You don’t have permission to use this shared folder. Ask your administrator for access.</source>
         <translation>Bu paylaşılan klasörü kullanma izniniz yok. Yöneticinizden erişim isteyin.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Var olan görevi kullanabilir veya farklı bir klasörde yeni bir görev ayarlayabilirsiniz.</translation>
     </message>
     <message>
-        <source>Another task already syncs this folder. Choose a different one.</source>
+        <source>Another task already syncs this folder. Choose a different folder.</source>
         <translation>Bu klasörü zaten başka bir görev eşzamanlıyor. Farklı bir klasör seçin.</translation>
     </message>
     <message>
@@ -1936,7 +1936,7 @@
         <translation>Bu görev zaten var</translation>
     </message>
     <message>
-        <source>The task couldn&apos;t be created. Check your settings and try again.</source>
+        <source>The task couldn’t be created. Check your settings and try again.</source>
         <translation>Görev oluşturulamadı. Ayarlarınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -1980,11 +1980,11 @@
         <translation>Geçen ay</translation>
     </message>
     <message>
-        <source>A newer version of Tarnwell is already installed. To install this version, uninstall the newer one first.</source>
+        <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
         <translation>Tarnwell’in daha yeni bir sürümü zaten yüklü. Bu sürümü yüklemek için önce yeni sürümü kaldırın.</translation>
     </message>
     <message>
-        <source>The earlier versions of this file can&apos;t be shown. Check the connection to the server and try again.</source>
+        <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
         <translation>Bu dosyanın önceki sürümleri gösterilemiyor. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
 </context>
