@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>„%1“ wird gesichert</translation>
+        <translation>%1 wird gesichert</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>One-way sync from the server to this computer</source>
-        <translation>Einseitige Synchronisierung vom Server auf diesen Computer</translation>
+        <translation>Synchronisierung nur vom Server auf diesen Computer</translation>
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Überlassen Sie Tarnwell die üblichen Einstellungen oder wählen Sie sie selbst aus.</translation>
+        <translation>Lassen Sie Tarnwell die Einstellungen wählen oder legen Sie sie selbst fest.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>„%1“ wird heruntergeladen</translation>
+        <translation>%1 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>Der lokale Ordner wurde nicht gefunden. Verschieben Sie ihn zurück an seinen Ort oder entkoppeln Sie die Aufgabe und richten Sie sie neu ein.</translation>
+        <translation>Der lokale Ordner wurde nicht gefunden. Verschieben Sie ihn zurück an seinen ursprünglichen Ort oder entkoppeln Sie die Aufgabe und richten Sie sie neu ein.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1513,7 +1513,7 @@
     </message>
     <message>
         <source>Two-way sync</source>
-        <translation>Beidseitige Synchronisierung</translation>
+        <translation>Zwei-Wege-Synchronisierung</translation>
     </message>
     <message>
         <source>Tarnwell is being updated...</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Eine neuere Version von Tarnwell ist bereits installiert. Um diese Version zu installieren, deinstallieren Sie zuerst die neuere.</translation>
+        <translation>Eine neuere Version von Tarnwell ist bereits installiert. Um diese Version zu installieren, entfernen Sie zuerst die neuere.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>Andere server koppelen</translation>
+        <translation>Nog een server koppelen</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Laat Tarnwell de gebruikelijke instellingen kiezen of kies ze zelf.</translation>
+        <translation>Laat Tarnwell de instellingen voor je kiezen of kies ze zelf.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
-        <translation>Maak een back-up van je computer en synchroniseer met je eigen server.</translation>
+        <translation>Maak een back-up van je computer en synchroniseer die met je eigen server.</translation>
     </message>
     <message>
         <source>Tarnwell is starting...</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>‘%1’ wordt gedownload</translation>
+        <translation>%1 wordt gedownload</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>De lokale map kan niet worden gevonden. Zet de map terug op zijn plaats of ontkoppel de taak en configureer die opnieuw.</translation>
+        <translation>De lokale map kan niet worden gevonden. Zet de map terug op de oorspronkelijke plaats of ontkoppel de taak en configureer die opnieuw.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Aan statuspictogrammen zie je hoe het met je bestanden gaat. Een groen vinkje betekent dat een bestand up-to-date is.</translation>
+        <translation>Statuspictogrammen tonen de status van je bestanden. Een groen vinkje betekent dat een bestand up-to-date is.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>Deze map wordt al door een andere taak gesynchroniseerd. Kies een andere.</translation>
+        <translation>Deze map wordt al door een andere taak gesynchroniseerd. Kies een andere map.</translation>
     </message>
     <message>
         <source>Show sync status</source>
