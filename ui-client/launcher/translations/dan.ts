@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Relay through OrvaneLink</source>
-        <translation>Relæ via OrvaneLink</translation>
+        <translation>Videresendelse via OrvaneLink</translation>
     </message>
     <message>
         <source>June</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Vil du frakoble opgaven for %1? De filer, der allerede er på denne computer og på serveren, slettes ikke.</translation>
+        <translation>Vil du frakoble opgaven for ”%1”? De filer, der allerede er på denne computer og på serveren, slettes ikke.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Exclude this folder from sync</source>
-        <translation>Udelad denne mappe fra synkronisering</translation>
+        <translation>Udelad denne mappe fra synkroniseringen</translation>
     </message>
     <message>
         <source>Next</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>%1 er blevet downloadet.</translation>
+        <translation>”%1” er blevet downloadet.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Vil du fjerne %1 fra listen? Selve mappen slettes ikke.</translation>
+        <translation>Vil du fjerne ”%1” fra listen? Selve mappen slettes ikke.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>Den delte mappe %1 er klar til at blive synkroniseret.</translation>
+        <translation>Den delte mappe ”%1” er klar til at blive synkroniseret.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Lad Tarnwell vælge de sædvanlige indstillinger, eller vælg dem selv.</translation>
+        <translation>Lad Tarnwell vælge indstillingerne for dig, eller vælg dem selv.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Include these folders in sync again</source>
-        <translation>Medtag disse mapper i synkronisering igen</translation>
+        <translation>Medtag disse mapper i synkroniseringen igen</translation>
     </message>
     <message>
         <source>This file was changed on both the computer and the server. Compare the two versions and delete the one you don’t need.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Mappen %1 kunne ikke oprettes. Kontroller dine tilladelser, eller vælg en anden placering.</translation>
+        <translation>Mappen ”%1” kunne ikke oprettes. Kontroller dine tilladelser, eller vælg en anden placering.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Just now</source>
-        <translation>Lige nu</translation>
+        <translation>For et øjeblik siden</translation>
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>%1 kunne ikke fjernes fra listen. Prøv igen senere.</translation>
+        <translation>”%1” kunne ikke fjernes fra listen. Prøv igen senere.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Include this folder in sync again</source>
-        <translation>Medtag denne mappe i synkronisering igen</translation>
+        <translation>Medtag denne mappe i synkroniseringen igen</translation>
     </message>
     <message>
         <source>Repair</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>Din administrator kræver totrinsbekræftelse. Log ind på serveren i en browser, og slå den til først.</translation>
+        <translation>Din administrator kræver totrinsbekræftelse. Log ind på serveren i en browser, og slå totrinsbekræftelse til først.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>Exclude these folders from sync</source>
-        <translation>Udelad disse mapper fra synkronisering</translation>
+        <translation>Udelad disse mapper fra synkroniseringen</translation>
     </message>
     <message>
         <source>Advanced settings</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Ikonmærker viser, hvordan det går med dine filer. Et grønt flueben betyder, at en fil er opdateret.</translation>
+        <translation>Ikonmærker viser status for dine filer. Et grønt flueben betyder, at en fil er opdateret.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>%1 kunne ikke downloades. Kontroller forbindelsen til serveren, og prøv igen.</translation>
+        <translation>”%1” kunne ikke downloades. Kontroller forbindelsen til serveren, og prøv igen.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>En anden opgave synkroniserer allerede denne mappe. Vælg en anden.</translation>
+        <translation>En anden opgave synkroniserer allerede denne mappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Show sync status</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Der er allerede installeret en nyere version af Tarnwell. Hvis du vil installere denne version, skal du først afinstallere den nyere.</translation>
+        <translation>Der er allerede installeret en nyere version af Tarnwell. Hvis du vil installere denne version, skal du først fjerne den nyere.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

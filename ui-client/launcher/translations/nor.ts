@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Exclude this folder from sync</source>
-        <translation>Utelat denne mappen fra synkronisering</translation>
+        <translation>Utelat denne mappen fra synkroniseringen</translation>
     </message>
     <message>
         <source>Next</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>The Orvane Station with this OrvaneLink ID is offline. Make sure that it is turned on and connected to the internet.</source>
-        <translation>Orvane Station med denne OrvaneLink-ID-en er ikke på nett. Sørg for at den er slått på og koblet til internett.</translation>
+        <translation>Orvane Station-enheten med denne OrvaneLink-ID-en er ikke på nett. Sørg for at den er slått på og koblet til internett.</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>La Tarnwell velge de vanlige innstillingene, eller velg dem selv.</translation>
+        <translation>La Tarnwell velge innstillingene for deg, eller velg dem selv.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>See the status of every file</source>
-        <translation>Se statusen til hver fil</translation>
+        <translation>Se statusen for hver fil</translation>
     </message>
     <message>
         <source>October</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>Finner ikke den lokale mappen. Flytt den tilbake der den var, eller koble oppgaven fra serveren og sett den opp på nytt.</translation>
+        <translation>Finner ikke den lokale mappen. Flytt den tilbake dit den var, eller koble oppgaven fra serveren og sett den opp på nytt.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>Exclude these folders from sync</source>
-        <translation>Utelat disse mappene fra synkronisering</translation>
+        <translation>Utelat disse mappene fra synkroniseringen</translation>
     </message>
     <message>
         <source>Advanced settings</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Ikonmerker viser hvordan det går med filene dine. En grønn hake betyr at en fil er oppdatert.</translation>
+        <translation>Ikonmerker viser statusen for filene dine. En grønn hake betyr at en fil er oppdatert.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>En nyere versjon av Tarnwell er allerede installert. Hvis du vil installere denne versjonen, må du først avinstallere den nyere.</translation>
+        <translation>En nyere versjon av Tarnwell er allerede installert. Hvis du vil installere denne versjonen, må du først fjerne den nyere.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

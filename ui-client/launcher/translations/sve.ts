@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Vill du koppla bort uppgiften för %1? Filerna som redan finns på den här datorn och på servern raderas inte.</translation>
+        <translation>Vill du koppla bort uppgiften för ”%1”? Filerna som redan finns på den här datorn och på servern raderas inte.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>%1 har hämtats.</translation>
+        <translation>”%1” har hämtats.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Vill du ta bort %1 från listan? Själva mappen raderas inte.</translation>
+        <translation>Vill du ta bort ”%1” från listan? Själva mappen raderas inte.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>Den delade mappen %1 kan nu synkroniseras.</translation>
+        <translation>Den delade mappen ”%1” kan nu synkroniseras.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Låt Tarnwell välja de vanliga inställningarna eller välj dem själv.</translation>
+        <translation>Låt Tarnwell välja inställningarna åt dig eller välj dem själv.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Mappen %1 kunde inte skapas. Kontrollera dina behörigheter eller välj en annan plats.</translation>
+        <translation>Mappen ”%1” kunde inte skapas. Kontrollera dina behörigheter eller välj en annan plats.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>%1 kunde inte tas bort från listan. Försök igen senare.</translation>
+        <translation>”%1” kunde inte tas bort från listan. Försök igen senare.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1217,7 +1217,7 @@
     </message>
     <message>
         <source>The SSL certificate of the server has changed. Check with your administrator before you trust the new certificate.</source>
-        <translation>Serverns SSL-certifikat har ändrats. Kontrollera med administratören innan du litar på det nya certifikatet.</translation>
+        <translation>Serverns SSL-certifikat har ändrats. Hör med administratören innan du litar på det nya certifikatet.</translation>
     </message>
     <message>
         <source>The connection was lost while the task was being set up. Check your network and try again.</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>Administratören kräver tvåstegsverifiering. Logga in på servern i en webbläsare och aktivera den först.</translation>
+        <translation>Administratören kräver tvåstegsverifiering. Logga in på servern i en webbläsare och aktivera verifieringen först.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>Den lokala mappen kan inte hittas. Flytta tillbaka den till dess plats eller koppla bort uppgiften och konfigurera den på nytt.</translation>
+        <translation>Den lokala mappen kan inte hittas. Flytta tillbaka den till den ursprungliga platsen eller koppla bort uppgiften och konfigurera den på nytt.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Statusmärken visar hur det står till med dina filer. En grön bock betyder att en fil är uppdaterad.</translation>
+        <translation>Statusmärken visar dina filers status. En grön bock betyder att en fil är uppdaterad.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>%1 kunde inte hämtas. Kontrollera anslutningen till servern och försök igen.</translation>
+        <translation>”%1” kunde inte hämtas. Kontrollera anslutningen till servern och försök igen.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>En annan uppgift synkroniserar redan den här mappen. Välj en annan.</translation>
+        <translation>En annan uppgift synkroniserar redan den här mappen. Välj en annan mapp.</translation>
     </message>
     <message>
         <source>Show sync status</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>En nyare version av Tarnwell är redan installerad. Om du vill installera den här versionen måste du först avinstallera den nyare.</translation>
+        <translation>En nyare version av Tarnwell är redan installerad. Om du vill installera den här versionen måste du först ta bort den nyare.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
