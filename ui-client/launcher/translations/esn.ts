@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Welcome to %1</source>
-        <translation>Bienvenido a %1</translation>
+        <translation>Le damos la bienvenida a %1</translation>
     </message>
     <message>
         <source>Select</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Bienvenido</translation>
+        <translation>Le damos la bienvenida</translation>
     </message>
     <message>
         <source>Start Tarnwell upon user login</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Choose folders to back up</source>
-        <translation>Elija carpetas para la copia de seguridad</translation>
+        <translation>Elija de qué carpetas hacer copia de seguridad</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>Ready to remove</source>
-        <translation>Todo listo para quitar</translation>
+        <translation>Todo listo para quitar el programa</translation>
     </message>
     <message>
         <source>This folder already contains files. They will be synced as well. Do you want to use it?</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Deje que Tarnwell elija los ajustes habituales o elíjalos usted.</translation>
+        <translation>Deje que Tarnwell elija los ajustes o elíjalos usted.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Just now</source>
-        <translation>Ahora mismo</translation>
+        <translation>Hace un momento</translation>
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Done</source>
-        <translation>Terminar</translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Account</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
-        <translation>Bienvenido a Tarnwell. Vamos a configurar su primera copia de seguridad.</translation>
+        <translation>Le damos la bienvenida a Tarnwell. Vamos a configurar su primera copia de seguridad.</translation>
     </message>
     <message>
         <source>Stop syncing this shared folder? The files already on this computer will be kept.</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>Su administrador exige la verificación en dos pasos. Inicie sesión en el servidor con un navegador y actívela primero.</translation>
+        <translation>Su administrador exige la verificación en dos pasos. Inicie sesión en el servidor con un navegador y active primero esa verificación.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>Welcome to the [ProductName] installer</source>
-        <translation>Bienvenido al instalador de [ProductName]</translation>
+        <translation>Le damos la bienvenida al instalador de [ProductName]</translation>
     </message>
     <message>
         <source>Updated files</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>No se encuentra la carpeta local. Devuélvala a su sitio, o desvincule la tarea y configúrela de nuevo.</translation>
+        <translation>No se encuentra la carpeta local. Devuélvala a su ubicación original, o desvincule la tarea y configúrela de nuevo.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>%1 day(s) ago</source>
-        <translation>Hace %1 d</translation>
+        <translation>Hace %1 día(s)</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Para sincronizar más carpetas, añada una tarea en Tarnwell en cualquier momento.</translation>
+        <translation>Para sincronizar más carpetas, puede añadir una tarea en Tarnwell en cualquier momento.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1585,7 +1585,7 @@
     </message>
     <message>
         <source>Update required</source>
-        <translation>Hay que actualizar</translation>
+        <translation>Actualización necesaria</translation>
     </message>
     <message>
         <source>Thursday</source>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <source>Select at least one folder to back up.</source>
-        <translation>Seleccione al menos una carpeta para la copia de seguridad.</translation>
+        <translation>Seleccione al menos una carpeta de la que hacer copia de seguridad.</translation>
     </message>
     <message>
         <source>The installer is ready to install [ProductName].</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Los iconos superpuestos muestran cómo están sus archivos. Una marca de verificación verde indica que un archivo está al día.</translation>
+        <translation>Los iconos superpuestos muestran el estado de sus archivos. Una marca de verificación verde indica que un archivo está al día.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>Otra tarea ya sincroniza esta carpeta. Elija una distinta.</translation>
+        <translation>Otra tarea ya sincroniza esta carpeta. Elija una carpeta distinta.</translation>
     </message>
     <message>
         <source>Show sync status</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Ya está instalada una versión más reciente de Tarnwell. Para instalar esta versión, desinstale primero la más reciente.</translation>
+        <translation>Ya está instalada una versión más reciente de Tarnwell. Para instalar esta versión, quite primero la más reciente.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

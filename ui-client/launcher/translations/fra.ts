@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>Sauvegarde de « %1 »</translation>
+        <translation>Sauvegarde : %1</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>The [ProductName] installer has finished</source>
-        <translation>Le programme d’installation [ProductName] a terminé</translation>
+        <translation>Le programme d’installation [ProductName] a terminé l’opération</translation>
     </message>
     <message>
         <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>This folder overlaps with a folder that is already synced. Choose a folder that neither contains it nor is inside it.</source>
-        <translation>Ce dossier chevauche un dossier déjà synchronisé. Choisissez un dossier qui ne se trouve ni à l’intérieur ni au-dessus de celui-ci.</translation>
+        <translation>Ce dossier chevauche un dossier déjà synchronisé. Choisissez-en un qui n’est pas contenu dans ce dernier et qui ne le contient pas.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Laissez Tarnwell choisir les réglages habituels ou choisissez-les vous-même.</translation>
+        <translation>Laissez Tarnwell choisir les réglages pour vous ou choisissez-les vous-même.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>Vous avez annulé le programme d’installation [ProductName] avant la fin de l’opération. Votre ordinateur n’a pas été modifié. Vous pouvez relancer le programme d’installation à tout moment.</translation>
+        <translation>Vous avez interrompu le programme d’installation [ProductName] avant la fin de l’opération. Votre ordinateur n’a pas été modifié. Vous pouvez relancer le programme d’installation à tout moment.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
-        <translation>Votre session n’est pas ouverte avec un compte administrateur : Tarnwell sera donc installé uniquement pour votre compte. Voulez-vous continuer ?</translation>
+        <translation>Votre session n’est pas ouverte avec un compte administrateur. Tarnwell sera donc installé uniquement pour votre compte. Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>Téléchargement de « %1 »</translation>
+        <translation>Téléchargement : %1</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Pour synchroniser d’autres dossiers, ajoutez une tâche dans Tarnwell à tout moment.</translation>
+        <translation>Pour synchroniser d’autres dossiers, vous pouvez à tout moment ajouter une tâche dans Tarnwell.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Les pastilles d’état vous renseignent sur vos fichiers. Une coche verte signifie qu’un fichier est à jour.</translation>
+        <translation>Les pastilles indiquent l’état de vos fichiers. Une coche verte signifie qu’un fichier est à jour.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>Le programme d’installation a été annulé</translation>
+        <translation>Le programme d’installation a été interrompu</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Une version plus récente de Tarnwell est déjà installée. Pour installer cette version-ci, désinstallez d’abord la plus récente.</translation>
+        <translation>Une version plus récente de Tarnwell est déjà installée. Pour installer cette version-ci, retirez d’abord la plus récente.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Welcome to %1</source>
-        <translation>Benvenuto in %1</translation>
+        <translation>Ti diamo il benvenuto in %1</translation>
     </message>
     <message>
         <source>Select</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Vuoi scollegare l’attività per %1? I file già presenti su questo computer e sul server non verranno eliminati.</translation>
+        <translation>Vuoi scollegare l’attività per “%1”? I file già presenti su questo computer e sul server non verranno eliminati.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Problema rilevato</translation>
+        <translation>Problema di sincronizzazione</translation>
     </message>
     <message>
         <source>The sync database can’t be read. Restart Tarnwell. If the problem continues, unlink the task and set it up again.</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Benvenuto</translation>
+        <translation>Ti diamo il benvenuto</translation>
     </message>
     <message>
         <source>Start Tarnwell upon user login</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>Il file %1 è stato scaricato.</translation>
+        <translation>Il file “%1” è stato scaricato.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Vuoi rimuovere %1 dall’elenco? La cartella non verrà eliminata.</translation>
+        <translation>Vuoi rimuovere “%1” dall’elenco? La cartella non verrà eliminata.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>La cartella condivisa %1 è pronta per la sincronizzazione.</translation>
+        <translation>La cartella condivisa “%1” è pronta per la sincronizzazione.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Lascia che Tarnwell scelga le impostazioni abituali o sceglile tu.</translation>
+        <translation>Lascia che Tarnwell scelga le impostazioni per te oppure sceglile tu.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Impossibile creare la cartella %1. Controlla i tuoi permessi o scegli un’altra posizione.</translation>
+        <translation>Impossibile creare la cartella “%1”. Controlla i tuoi permessi o scegli un’altra posizione.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>Il programma di installazione di [ProductName] è stato annullato prima del termine. Il computer non è stato modificato. Puoi eseguire di nuovo il programma di installazione in qualsiasi momento.</translation>
+        <translation>Hai interrotto il programma di installazione di [ProductName] prima del termine. Il computer non è stato modificato. Puoi eseguire di nuovo il programma di installazione in qualsiasi momento.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
-        <translation>Backup e sincronizzazione del computer con il tuo server.</translation>
+        <translation>Esegui il backup del computer e sincronizzalo con il tuo server.</translation>
     </message>
     <message>
         <source>Tarnwell is starting...</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>Impossibile rimuovere %1 dall’elenco. Riprova più tardi.</translation>
+        <translation>Impossibile rimuovere “%1” dall’elenco. Riprova più tardi.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>Files in your local folder are now backed up to the server automatically.</source>
-        <translation>Ora il backup dei file della tua cartella locale sul server viene eseguito automaticamente.</translation>
+        <translation>Ora il backup sul server dei file della tua cartella locale viene eseguito automaticamente.</translation>
     </message>
     <message>
         <source>The SSL certificate of the server has changed. Check with your administrator before you trust the new certificate.</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
-        <translation>Benvenuto in Tarnwell. Configuriamo il tuo primo backup.</translation>
+        <translation>Ti diamo il benvenuto in Tarnwell. Configuriamo il tuo primo backup.</translation>
     </message>
     <message>
         <source>Stop syncing this shared folder? The files already on this computer will be kept.</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>Welcome to the [ProductName] installer</source>
-        <translation>Benvenuto nel programma di installazione di [ProductName]</translation>
+        <translation>Ti diamo il benvenuto nel programma di installazione di [ProductName]</translation>
     </message>
     <message>
         <source>Updated files</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>Impossibile trovare la cartella locale. Rimettila al suo posto, oppure scollega l’attività e configurala di nuovo.</translation>
+        <translation>Impossibile trovare la cartella locale. Riportala nella posizione originale, oppure scollega l’attività e configurala di nuovo.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>%1 day(s) ago</source>
-        <translation>%1 g fa</translation>
+        <translation>%1 giorno/i fa</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1585,7 +1585,7 @@
     </message>
     <message>
         <source>Update required</source>
-        <translation>Da aggiornare</translation>
+        <translation>Aggiornamento necessario</translation>
     </message>
     <message>
         <source>Thursday</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>Il programma di installazione è stato annullato</translation>
+        <translation>Il programma di installazione è stato interrotto</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>Impossibile scaricare %1. Controlla la connessione al server e riprova.</translation>
+        <translation>Impossibile scaricare “%1”. Controlla la connessione al server e riprova.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>Un’altra attività sincronizza già questa cartella. Scegline una diversa.</translation>
+        <translation>Un’altra attività sincronizza già questa cartella. Scegli una cartella diversa.</translation>
     </message>
     <message>
         <source>Show sync status</source>
@@ -1945,7 +1945,7 @@
     </message>
     <message>
         <source>Always keep the version on the server</source>
-        <translation>Conserva sempre la versione sul server</translation>
+        <translation>Conserva sempre la versione del server</translation>
     </message>
     <message>
         <source>Choose a local folder</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Una versione più recente di Tarnwell è già installata. Per installare questa versione, disinstalla prima quella più recente.</translation>
+        <translation>Una versione più recente di Tarnwell è già installata. Per installare questa versione, rimuovi prima quella più recente.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

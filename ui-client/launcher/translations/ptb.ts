@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Desvincular a tarefa de %1? Os arquivos que já estão neste computador e no servidor não serão apagados.</translation>
+        <translation>Desvincular a tarefa de “%1”? Os arquivos que já estão neste computador e no servidor não serão apagados.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Choose folders to back up</source>
-        <translation>Escolha as pastas para o backup</translation>
+        <translation>Escolha as pastas a incluir no backup</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>O download de %1 foi concluído.</translation>
+        <translation>O download de “%1” foi concluído.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Remover %1 da lista? A pasta em si não será apagada.</translation>
+        <translation>Remover “%1” da lista? A pasta em si não será apagada.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>A pasta compartilhada %1 está pronta para ser sincronizada.</translation>
+        <translation>A pasta compartilhada “%1” está pronta para ser sincronizada.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Deixe o Tarnwell escolher as configurações habituais ou faça as escolhas por conta própria.</translation>
+        <translation>Deixe o Tarnwell escolher as configurações para você ou escolha-as por conta própria.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Não foi possível criar a pasta %1. Confira suas permissões ou escolha outro local.</translation>
+        <translation>Não foi possível criar a pasta “%1”. Confira suas permissões ou escolha outro local.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>Não foi possível remover %1 da lista. Tente novamente mais tarde.</translation>
+        <translation>Não foi possível remover “%1” da lista. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>See the status of every file</source>
-        <translation>Veja o estado de cada arquivo</translation>
+        <translation>Veja o status de cada arquivo</translation>
     </message>
     <message>
         <source>October</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>Não é possível encontrar a pasta local. Coloque-a de volta no lugar ou desvincule a tarefa e configure-a novamente.</translation>
+        <translation>Não é possível encontrar a pasta local. Coloque-a de volta no local original ou desvincule a tarefa e configure-a novamente.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Para sincronizar mais pastas, adicione uma tarefa no Tarnwell a qualquer momento.</translation>
+        <translation>Para sincronizar mais pastas, você pode adicionar uma tarefa no Tarnwell a qualquer momento.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <source>Select at least one folder to back up.</source>
-        <translation>Selecione pelo menos uma pasta para o backup.</translation>
+        <translation>Selecione pelo menos uma pasta a incluir no backup.</translation>
     </message>
     <message>
         <source>The installer is ready to install [ProductName].</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>Não foi possível baixar %1. Confira a conexão com o servidor e tente novamente.</translation>
+        <translation>Não foi possível baixar “%1”. Confira a conexão com o servidor e tente novamente.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Uma versão mais recente do Tarnwell já está instalada. Para instalar esta versão, desinstale primeiro a mais recente.</translation>
+        <translation>Uma versão mais recente do Tarnwell já está instalada. Para instalar esta versão, remova primeiro a mais recente.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Pretende desassociar a tarefa relativa a %1? Os ficheiros que já se encontram neste computador e no servidor não serão apagados.</translation>
+        <translation>Pretende desassociar a tarefa relativa a «%1»? Os ficheiros que já se encontram neste computador e no servidor não serão apagados.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Choose folders to back up</source>
-        <translation>Escolher as pastas para a cópia de segurança</translation>
+        <translation>Escolher as pastas a incluir na cópia de segurança</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>O ficheiro %1 foi descarregado.</translation>
+        <translation>O ficheiro «%1» foi descarregado.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Pretende remover %1 da lista? A pasta propriamente dita não será apagada.</translation>
+        <translation>Pretende remover «%1» da lista? A pasta propriamente dita não será apagada.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>A pasta partilhada %1 está pronta para ser sincronizada.</translation>
+        <translation>A pasta partilhada «%1» está pronta para ser sincronizada.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Deixe o Tarnwell escolher as definições habituais ou escolha-as manualmente.</translation>
+        <translation>Deixe o Tarnwell escolher as definições por si ou escolha-as manualmente.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Não foi possível criar a pasta %1. Verifique as suas permissões ou escolha outra localização.</translation>
+        <translation>Não foi possível criar a pasta «%1». Verifique as suas permissões ou escolha outra localização.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
-        <translation>Faça a cópia de segurança e a sincronização do computador com o seu próprio servidor.</translation>
+        <translation>Faça cópias de segurança do computador e sincronize-o com o seu próprio servidor.</translation>
     </message>
     <message>
         <source>Tarnwell is starting...</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>Não foi possível remover %1 da lista. Tente novamente mais tarde.</translation>
+        <translation>Não foi possível remover «%1» da lista. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Your administrator requires 2-step verification. Sign in to the server in a browser and turn it on first.</source>
-        <translation>O administrador exige a verificação em dois passos. Inicie sessão no servidor através de um navegador e ative-a primeiro.</translation>
+        <translation>O administrador exige a verificação em dois passos. Inicie primeiro sessão no servidor através de um navegador e ative essa verificação.</translation>
     </message>
     <message>
         <source>The quota of this shared folder is used up. Delete files you no longer need or choose another shared folder.</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Para sincronizar mais pastas, adicione uma tarefa no Tarnwell em qualquer altura.</translation>
+        <translation>Para sincronizar mais pastas, pode adicionar uma tarefa no Tarnwell em qualquer altura.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <source>Select at least one folder to back up.</source>
-        <translation>Selecione, pelo menos, uma pasta para a cópia de segurança.</translation>
+        <translation>Selecione, pelo menos, uma pasta a incluir na cópia de segurança.</translation>
     </message>
     <message>
         <source>The installer is ready to install [ProductName].</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>Some files weren’t synced</source>
-        <translation>Ficheiros não sincronizados</translation>
+        <translation>Alguns ficheiros não foram sincronizados</translation>
     </message>
     <message>
         <source>System language</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>Não foi possível descarregar %1. Verifique a ligação ao servidor e tente novamente.</translation>
+        <translation>Não foi possível descarregar «%1». Verifique a ligação ao servidor e tente novamente.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Já está instalada uma versão mais recente do Tarnwell. Para instalar esta versão, desinstale primeiro a mais recente.</translation>
+        <translation>Já está instalada uma versão mais recente do Tarnwell. Para instalar esta versão, remova primeiro a mais recente.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
