@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>Resume</source>
-        <translation>Obnovit</translation>
+        <translation>Pokračovat v synchronizaci</translation>
     </message>
     <message>
         <source>Backing up...</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Odpojit úlohu %1? Soubory, které již jsou v tomto počítači a na serveru, se nesmažou.</translation>
+        <translation>Odpojit úlohu „%1“? Soubory, které již jsou v tomto počítači a na serveru, se nesmažou.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>Soubor %1 byl stažen.</translation>
+        <translation>Soubor „%1“ byl stažen.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Odebrat složku %1 ze seznamu? Samotná složka se nesmaže.</translation>
+        <translation>Odebrat složku „%1“ ze seznamu? Samotná složka se nesmaže.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Jen ke čtení</translation>
+        <translation>Jen pro čtení</translation>
     </message>
     <message>
         <source>Use this folder</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Date range</source>
-        <translation>Rozsah dat</translation>
+        <translation>Období</translation>
     </message>
     <message>
         <source>Tarnwell needs StationOS %1 or later. Update your Orvane Station and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>Sdílená složka %1 je připravena k synchronizaci.</translation>
+        <translation>Sdílená složka „%1“ je připravena k synchronizaci.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Nechte Tarnwell zvolit obvyklá nastavení, nebo je vyberte ručně.</translation>
+        <translation>Nechte Tarnwell zvolit nastavení za vás, nebo je vyberte ručně.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Složku %1 se nepodařilo vytvořit. Zkontrolujte svá oprávnění nebo vyberte jiné umístění.</translation>
+        <translation>Složku „%1“ se nepodařilo vytvořit. Zkontrolujte svá oprávnění nebo vyberte jiné umístění.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>Instalační program [ProductName] byl na váš pokyn zrušen před dokončením. V počítači se nic nezměnilo. Instalační program můžete kdykoli spustit znovu.</translation>
+        <translation>Instalační program [ProductName] byl na váš pokyn přerušen před dokončením. V počítači se nic nezměnilo. Instalační program můžete kdykoli spustit znovu.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>This task is inactive. Resume it to sync its files again.</source>
-        <translation>Tato úloha je neaktivní. Chcete-li její soubory znovu synchronizovat, obnovte ji.</translation>
+        <translation>Tato úloha je neaktivní. Chcete-li její soubory znovu synchronizovat, klikněte na „Pokračovat v synchronizaci“.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -809,7 +809,7 @@
     </message>
     <message>
         <source>More tutorials</source>
-        <translation>Další výuka</translation>
+        <translation>Další návody</translation>
     </message>
     <message>
         <source>This folder is used by another sync program. Choose a different folder.</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Just now</source>
-        <translation>Právě teď</translation>
+        <translation>Před chvílí</translation>
     </message>
     <message>
         <source>Leave these programs open (requires a restart)</source>
@@ -849,7 +849,7 @@
     </message>
     <message>
         <source>The disk with the local folder isn’t connected. Connect it and resume the task.</source>
-        <translation>Disk s místní složkou není připojen. Připojte ho a obnovte úlohu.</translation>
+        <translation>Disk s místní složkou není připojen. Připojte ho a pokračujte v úloze.</translation>
     </message>
     <message>
         <source>You aren’t signed in as an administrator, so Tarnwell will be installed only for your account. Do you want to continue?</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>You have read-only permission for this shared folder. Files will only be downloaded. Do you want to use it?</source>
-        <translation>K této sdílené složce máte oprávnění jen ke čtení. Soubory se budou pouze stahovat. Chcete ji použít?</translation>
+        <translation>K této sdílené složce máte oprávnění jen pro čtení. Soubory se budou pouze stahovat. Chcete ji použít?</translation>
     </message>
     <message>
         <source>This version of Tarnwell is already installed. Do you want to install it again?</source>
@@ -977,7 +977,7 @@
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation>Zobrazit výuku</translation>
+        <translation>Zobrazit návod</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -1037,7 +1037,7 @@
     </message>
     <message>
         <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
-        <translation>Službě OrvaneLink se nepodařilo spojit se serverem. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
+        <translation>Službě OrvaneLink se nepodařilo připojit k serveru. Zkontrolujte připojení k internetu a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1069,7 +1069,7 @@
     </message>
     <message>
         <source>You have read-only permission for this folder, so nothing can be backed up to it. Choose a folder you can write to.</source>
-        <translation>K této složce máte oprávnění jen ke čtení, takže do ní nelze nic zálohovat. Vyberte složku, do které můžete zapisovat.</translation>
+        <translation>K této složce máte oprávnění jen pro čtení, takže do ní nelze nic zálohovat. Vyberte složku, do které můžete zapisovat.</translation>
     </message>
     <message>
         <source>Before you begin, make sure that your server is turned on.</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>Složku %1 se nepodařilo odebrat ze seznamu. Zkuste to později.</translation>
+        <translation>Složku „%1“ se nepodařilo odebrat ze seznamu. Zkuste to později.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message>
         <source>Custom range</source>
-        <translation>Vlastní rozsah</translation>
+        <translation>Vlastní období</translation>
     </message>
     <message>
         <source>No settings were changed.</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Sync stopped unexpectedly. Resume the task. If the problem continues, restart Tarnwell.</source>
-        <translation>Synchronizace se neočekávaně zastavila. Obnovte úlohu. Pokud problém přetrvá, restartujte Tarnwell.</translation>
+        <translation>Synchronizace se neočekávaně zastavila. Pokračujte v úloze. Pokud problém přetrvá, restartujte Tarnwell.</translation>
     </message>
     <message>
         <source>Use the system proxy</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message>
         <source>Read-only folder</source>
-        <translation>Složka jen ke čtení</translation>
+        <translation>Složka jen pro čtení</translation>
     </message>
     <message>
         <source>No Orvane Station was found on your local network. Enter its address or its OrvaneLink ID instead.</source>
@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>has been shared with you.</source>
-        <translation>s vámi nyní někdo sdílí.</translation>
+        <translation>je složka, kterou s vámi nyní někdo sdílí.</translation>
     </message>
     <message>
         <source>This computer and the server are now linked.</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>The disk of this computer is full. Free up some space and resume the task.</source>
-        <translation>Disk tohoto počítače je plný. Uvolněte místo a obnovte úlohu.</translation>
+        <translation>Disk tohoto počítače je plný. Uvolněte místo a pokračujte v úloze.</translation>
     </message>
     <message>
         <source>Tarnwell Backup</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>Instalační program byl zrušen</translation>
+        <translation>Instalační program byl přerušen</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>Soubor %1 se nepodařilo stáhnout. Zkontrolujte připojení k serveru a zkuste to znovu.</translation>
+        <translation>Soubor „%1“ se nepodařilo stáhnout. Zkontrolujte připojení k serveru a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>Tuto složku již synchronizuje jiná úloha. Vyberte jinou.</translation>
+        <translation>Tuto složku již synchronizuje jiná úloha. Vyberte jinou složku.</translation>
     </message>
     <message>
         <source>Show sync status</source>
@@ -1945,7 +1945,7 @@
     </message>
     <message>
         <source>Always keep the version on the server</source>
-        <translation>Vždy ponechat verzi na serveru</translation>
+        <translation>Vždy ponechat verzi ze serveru</translation>
     </message>
     <message>
         <source>Choose a local folder</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Novější verze Tarnwellu je již nainstalována. Chcete-li nainstalovat tuto verzi, nejprve novější verzi odinstalujte.</translation>
+        <translation>Novější verze Tarnwellu je již nainstalována. Chcete-li nainstalovat tuto verzi, nejprve novější verzi odeberte.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

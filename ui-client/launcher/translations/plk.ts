@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Tarnwell update</source>
-        <translation>Uaktualnienie Tarnwell</translation>
+        <translation>Uaktualnienie programu Tarnwell</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>Powiąż inny serwer</translation>
+        <translation>Powiąż kolejny serwer</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Pozwól programowi Tarnwell wybrać typowe ustawienia lub wybierz je samodzielnie.</translation>
+        <translation>Pozwól programowi Tarnwell wybrać ustawienia za ciebie lub wybierz je samodzielnie.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>Praca instalatora programu [ProductName] została anulowana przed zakończeniem. W komputerze nie wprowadzono żadnych zmian. Możesz uruchomić instalator ponownie w dowolnej chwili.</translation>
+        <translation>Praca instalatora programu [ProductName] została przerwana przed zakończeniem. W komputerze nie wprowadzono żadnych zmian. Możesz uruchomić instalator ponownie w dowolnej chwili.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -1049,7 +1049,7 @@
     </message>
     <message>
         <source>This folder is on a network drive. Changes that others make there may not be noticed right away.</source>
-        <translation>Ten folder znajduje się na dysku sieciowym. Zmiany wprowadzane tam przez inne osoby mogą nie być zauważane od razu.</translation>
+        <translation>Ten folder znajduje się na dysku sieciowym. Zmiany wprowadzane tam przez inne osoby mogą nie być wykrywane od razu.</translation>
     </message>
     <message>
         <source>This folder can’t be synced. Choose a different folder.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>The local folder can’t be found. Move it back to its original location, or unlink the task and set it up again.</source>
-        <translation>Nie można znaleźć folderu lokalnego. Przenieś go z powrotem na miejsce albo odłącz zadanie i skonfiguruj je ponownie.</translation>
+        <translation>Nie można znaleźć folderu lokalnego. Przenieś go z powrotem do pierwotnego położenia albo odłącz zadanie i skonfiguruj je ponownie.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Aby synchronizować więcej folderów, w dowolnej chwili dodaj zadanie w programie Tarnwell.</translation>
+        <translation>Aby synchronizować więcej folderów, możesz w dowolnej chwili dodać zadanie w programie Tarnwell.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>Praca instalatora została anulowana</translation>
+        <translation>Praca instalatora została przerwana</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>Nowsza wersja programu Tarnwell jest już zainstalowana. Aby zainstalować tę wersję, odinstaluj najpierw nowszą.</translation>
+        <translation>Nowsza wersja programu Tarnwell jest już zainstalowana. Aby zainstalować tę wersję, usuń najpierw nowszą.</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>Choose each folder, the sync mode, and the filters yourself.</source>
-        <translation>Выберите каждую папку, режим синхронизации и фильтры самостоятельно.</translation>
+        <translation>Самостоятельно выберите папки, режим синхронизации и фильтры.</translation>
     </message>
     <message>
         <source>August</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Отвязать задание для %1? Файлы, которые уже есть на этом компьютере и на сервере, не будут удалены.</translation>
+        <translation>Отвязать задание для «%1»? Файлы, которые уже есть на этом компьютере и на сервере, не будут удалены.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Choose folders to back up</source>
-        <translation>Папки для резервного копирования</translation>
+        <translation>Выберите папки для резервного копирования</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>Файл %1 загружен.</translation>
+        <translation>Файл «%1» загружен.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Удалить папку %1 из списка? Сама папка не будет удалена.</translation>
+        <translation>Удалить папку «%1» из списка? Сама папка не будет удалена.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>Общая папка %1 готова к синхронизации.</translation>
+        <translation>Общая папка «%1» готова к синхронизации.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>Привязать другой сервер</translation>
+        <translation>Привязать еще один сервер</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Позвольте Tarnwell выбрать обычные настройки или задайте их самостоятельно.</translation>
+        <translation>Позвольте Tarnwell выбрать настройки за вас или задайте их самостоятельно.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>Не удалось создать папку %1. Проверьте свои права доступа или выберите другое место.</translation>
+        <translation>Не удалось создать папку «%1». Проверьте свои права доступа или выберите другое место.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>Вы отменили работу программы установки [ProductName] до ее завершения. На компьютере ничего не изменилось. Программу установки можно снова запустить в любое время.</translation>
+        <translation>Вы прервали работу программы установки [ProductName] до ее завершения. На компьютере ничего не изменилось. Программу установки можно снова запустить в любое время.</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
-        <translation>Резервное копирование и синхронизация компьютера с вашим собственным сервером.</translation>
+        <translation>Выполняйте резервное копирование компьютера и синхронизируйте его с собственным сервером.</translation>
     </message>
     <message>
         <source>Tarnwell is starting...</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>Не удалось удалить папку %1 из списка. Повторите попытку позже.</translation>
+        <translation>Не удалось удалить папку «%1» из списка. Повторите попытку позже.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>Загрузка файла %1</translation>
+        <translation>Загрузка: %1</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Чтобы синхронизировать другие папки, в любое время добавьте задание в Tarnwell.</translation>
+        <translation>Чтобы синхронизировать другие папки, можно в любое время добавить задание в Tarnwell.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Метки на значках показывают, что происходит с вашими файлами. Зеленая галочка означает, что файл синхронизирован.</translation>
+        <translation>Метки на значках показывают статус ваших файлов. Зеленая галочка означает, что файл синхронизирован.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>Работа программы установки отменена</translation>
+        <translation>Работа программы установки прервана</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>Не удалось загрузить файл %1. Проверьте подключение к серверу и повторите попытку.</translation>
+        <translation>Не удалось загрузить файл «%1». Проверьте подключение к серверу и повторите попытку.</translation>
     </message>
     <message>
         <source>Monday</source>
