@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Relay through OrvaneLink</source>
-        <translation>Közvetítés OrvaneLinken át</translation>
+        <translation>Közvetítés az OrvaneLinken keresztül</translation>
     </message>
     <message>
         <source>June</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>Leválasztja ezt a feladatot: %1? A számítógépen és a szerveren már meglévő fájlok nem törlődnek.</translation>
+        <translation>Leválasztja a(z) „%1” mappához tartozó feladatot? A számítógépen és a szerveren már meglévő fájlok nem törlődnek.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>A(z) %1 letöltése befejeződött.</translation>
+        <translation>A(z) „%1” letöltése befejeződött.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>Eltávolítja a listából a(z) %1 mappát? Maga a mappa nem törlődik.</translation>
+        <translation>Eltávolítja a listából a(z) „%1” mappát? Maga a mappa nem törlődik.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>The server couldn’t be found because of a system error. Try again or enter its address instead.</source>
-        <translation>Rendszerhiba miatt a szerver nem található. Próbálja újra, vagy adja meg inkább a címét.</translation>
+        <translation>Rendszerhiba miatt a szerver nem található. Próbálja újra, vagy adja meg inkább a szerver címét.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>A(z) %1 megosztott mappa készen áll a szinkronizálásra.</translation>
+        <translation>A(z) „%1” megosztott mappa készen áll a szinkronizálásra.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>A szokásos beállításokat a Tarnwellre bízhatja, de maga is megadhatja őket.</translation>
+        <translation>A beállításokat a Tarnwellre bízhatja, vagy maga is megadhatja őket.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>A(z) %1 mappát nem sikerült létrehozni. Ellenőrizze a jogosultságait, vagy válasszon másik helyet.</translation>
+        <translation>A(z) „%1” mappát nem sikerült létrehozni. Ellenőrizze a jogosultságait, vagy válasszon másik helyet.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Back up and sync your computer with your own server.</source>
-        <translation>A számítógép biztonsági mentése és szinkronizálása a saját szerverével.</translation>
+        <translation>Készítsen biztonsági mentést számítógépéről, és szinkronizálja saját szerverével.</translation>
     </message>
     <message>
         <source>Tarnwell is starting...</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They stay on the server.</source>
-        <translation>Azok a mappák, amelyeknek itt törli a jelölését, el lesznek távolítva erről a számítógépről. A szerveren megmaradnak.</translation>
+        <translation>Azokat a mappákat, amelyeknek itt törli a jelölését, a program eltávolítja erről a számítógépről. A szerveren megmaradnak.</translation>
     </message>
     <message>
         <source>The sync package on the server is too old.</source>
@@ -1033,7 +1033,7 @@
     </message>
     <message>
         <source>The download was canceled.</source>
-        <translation>A letöltés meg lett szakítva.</translation>
+        <translation>A letöltés megszakítva.</translation>
     </message>
     <message>
         <source>OrvaneLink couldn’t reach the server. Check your internet connection and try again.</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>A(z) %1 mappát nem sikerült eltávolítani a listából. Próbálja újra később.</translation>
+        <translation>A(z) „%1” mappát nem sikerült eltávolítani a listából. Próbálja újra később.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>No Orvane Station was found on your local network. Enter its address or its OrvaneLink ID instead.</source>
-        <translation>Nem található Orvane Station a helyi hálózaton. Adja meg inkább a címét vagy az OrvaneLink-azonosítóját.</translation>
+        <translation>Nem található Orvane Station a helyi hálózaton. Adja meg inkább az Orvane Station címét vagy OrvaneLink-azonosítóját.</translation>
     </message>
     <message>
         <source>Welcome to the [ProductName] installer</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>The installer was canceled</source>
-        <translation>A telepítő meg lett szakítva</translation>
+        <translation>A telepítő futtatása megszakítva</translation>
     </message>
     <message>
         <source>Enter a file name to exclude</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>A(z) %1 letöltése nem sikerült. Ellenőrizze a kapcsolatot a szerverrel, és próbálja újra.</translation>
+        <translation>A(z) „%1” letöltése nem sikerült. Ellenőrizze a kapcsolatot a szerverrel, és próbálja újra.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>Another task already syncs this folder. Choose a different folder.</source>
-        <translation>Ezt a mappát már egy másik feladat szinkronizálja. Válasszon egy másikat.</translation>
+        <translation>Ezt a mappát már egy másik feladat szinkronizálja. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Show sync status</source>

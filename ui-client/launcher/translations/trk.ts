@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Unlink the task for “%1”? The files already on this computer and on the server won’t be deleted.</source>
-        <translation>%1 görevinin eşlemesini kaldırmak istiyor musunuz? Bu bilgisayarda ve sunucuda bulunan dosyalar silinmez.</translation>
+        <translation>“%1” görevinin eşlemesini kaldırmak istiyor musunuz? Bu bilgisayarda ve sunucuda bulunan dosyalar silinmez.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>“%1” has been downloaded.</source>
-        <translation>%1 indirildi.</translation>
+        <translation>“%1” indirildi.</translation>
     </message>
     <message>
         <source>Proxy settings</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Remove “%1” from the list? The folder itself won’t be deleted.</source>
-        <translation>%1 klasörünü listeden kaldırmak istiyor musunuz? Klasörün kendisi silinmez.</translation>
+        <translation>“%1” klasörünü listeden kaldırmak istiyor musunuz? Klasörün kendisi silinmez.</translation>
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The shared folder “%1” is ready to be synced.</source>
-        <translation>%1 adlı paylaşılan klasör eşzamanlanmaya hazır.</translation>
+        <translation>“%1” adlı paylaşılan klasör eşzamanlanmaya hazır.</translation>
     </message>
     <message>
         <source>Open StationOS</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>Olağan ayarları Tarnwell’e bırakın veya ayarları kendiniz seçin.</translation>
+        <translation>Ayarların seçimini Tarnwell’e bırakın veya ayarları kendiniz seçin.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>The folder “%1” couldn’t be created. Check your permissions or choose another location.</source>
-        <translation>%1 klasörü oluşturulamadı. İzinlerinizi denetleyin veya başka bir konum seçin.</translation>
+        <translation>“%1” klasörü oluşturulamadı. İzinlerinizi denetleyin veya başka bir konum seçin.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be removed from the list. Try again later.</source>
-        <translation>%1 listeden kaldırılamadı. Daha sonra yeniden deneyin.</translation>
+        <translation>“%1” listeden kaldırılamadı. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
         <source>This version of Tarnwell is too old.</source>
@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>Choose another folder</source>
-        <translation>Başka klasör seç</translation>
+        <translation>Başka bir klasör seç</translation>
     </message>
     <message>
         <source>Never sync these files</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>Daha fazla klasör eşzamanlamak için Tarnwell’e istediğiniz zaman görev ekleyin.</translation>
+        <translation>Daha fazla klasör eşzamanlamak için Tarnwell’e istediğiniz zaman görev ekleyebilirsiniz.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>Choose a folder on the server and the local folder to sync it with.</source>
-        <translation>Sunucuda bir klasör ve onunla eşzamanlanacak yerel klasörü seçin.</translation>
+        <translation>Sunucudaki bir klasörü ve onunla eşzamanlanacak yerel klasörü seçin.</translation>
     </message>
     <message>
         <source>has been shared with you.</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>“%1” couldn’t be downloaded. Check the connection to the server and try again.</source>
-        <translation>%1 indirilemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
+        <translation>“%1” indirilemedi. Sunucu bağlantısını denetleyip yeniden deneyin.</translation>
     </message>
     <message>
         <source>Monday</source>
