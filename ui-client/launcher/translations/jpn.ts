@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>「%1」をバックアップ中</translation>
+        <translation>バックアップ中：%1</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Start Tarnwell upon user login</source>
-        <translation>ユーザのログイン時にTarnwellを起動</translation>
+        <translation>ログイン時にTarnwellを起動</translation>
     </message>
     <message>
         <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
@@ -293,11 +293,11 @@
     </message>
     <message>
         <source>[ProductName] installer</source>
-        <translation>[ProductName]インストーラ</translation>
+        <translation>[ProductName]のインストーラ</translation>
     </message>
     <message>
         <source>The [ProductName] installer has finished</source>
-        <translation>[ProductName]インストーラの処理が完了しました</translation>
+        <translation>[ProductName]のインストーラの処理が完了しました</translation>
     </message>
     <message>
         <source>Some files couldn’t be synced. Open Tarnwell to see the details.</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>一般的な設定をTarnwellに任せるか、自分で設定を選択してください。</translation>
+        <translation>設定をTarnwellに任せるか、自分で選択してください。</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>[ProductName]のインストーラは、完了する前にキャンセルされました。コンピュータは変更されていません。インストーラはいつでももう一度実行できます。</translation>
+        <translation>[ProductName]のインストーラは、完了する前にキャンセルされました。コンピュータは変更されていません。インストーラはいつでも再実行できます。</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>Linking to the server...</source>
-        <translation>サーバと連携中…</translation>
+        <translation>サーバとの連携を確立中…</translation>
     </message>
     <message>
         <source>Double-click the icon to see what Tarnwell is doing right now.</source>
@@ -1205,11 +1205,11 @@
     </message>
     <message>
         <source>Tarnwell is initializing...</source>
-        <translation>Tarnwellを初期化中…</translation>
+        <translation>Tarnwellを準備中…</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>共有フォルダなし</translation>
+        <translation>共有フォルダが見つかりません</translation>
     </message>
     <message>
         <source>Files in your local folder are now backed up to the server automatically.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>「%1」をダウンロード中</translation>
+        <translation>ダウンロード中：%1</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>ほかのフォルダも同期するには、いつでもTarnwellでタスクを追加してください。</translation>
+        <translation>ほかのフォルダも同期したい場合は、いつでもTarnwellでタスクを追加できます。</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>より新しいバージョンのTarnwellがすでにインストールされています。このバージョンをインストールするには、まず新しい方をアンインストールしてください。</translation>
+        <translation>より新しいバージョンのTarnwellがすでにインストールされています。このバージョンをインストールするには、まず新しい方を削除してください。</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

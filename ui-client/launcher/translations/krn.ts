@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>‘%1’ 백업 중</translation>
+        <translation>백업 중: %1</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Start Tarnwell upon user login</source>
-        <translation>사용자 로그인 시 Tarnwell 시작</translation>
+        <translation>로그인 시 Tarnwell 시작</translation>
     </message>
     <message>
         <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Merging combines the contents of both folders. Files that differ are handled as conflicts.</source>
-        <translation>병합하면 두 폴더의 내용이 하나로 합쳐집니다. 서로 다른 파일은 충돌로 처리됩니다.</translation>
+        <translation>병합하면 두 폴더의 내용이 하나로 합쳐집니다. 내용이 서로 다른 파일은 충돌로 처리됩니다.</translation>
     </message>
     <message>
         <source>Got it</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>일반적인 설정을 Tarnwell에 맡기거나 직접 선택하십시오.</translation>
+        <translation>설정을 Tarnwell에 맡기거나 직접 선택하십시오.</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>Linking to the server...</source>
-        <translation>서버와 연동 중…</translation>
+        <translation>서버와 연동하는 중…</translation>
     </message>
     <message>
         <source>Double-click the icon to see what Tarnwell is doing right now.</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>Tarnwell is initializing...</source>
-        <translation>Tarnwell 초기화 중…</translation>
+        <translation>Tarnwell 준비 중…</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>Your account has no quota left on this server. Ask your administrator for a larger quota before you set up this task.</source>
-        <translation>이 서버에서 계정의 할당량이 남아 있지 않습니다. 이 작업을 설정하기 전에 관리자에게 할당량을 늘려 달라고 요청하십시오.</translation>
+        <translation>이 서버의 계정에 남은 할당량이 없습니다. 이 작업을 설정하기 전에 관리자에게 할당량을 늘려 달라고 요청하십시오.</translation>
     </message>
     <message>
         <source>Click Remove to remove [ProductName] from your computer. Click Back to choose something else, or Cancel to exit the installer.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>‘%1’ 다운로드 중</translation>
+        <translation>다운로드 중: %1</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Close these programs and restart them afterward</source>
-        <translation>이 프로그램들을 닫고 나중에 다시 시작</translation>
+        <translation>이 프로그램들을 닫고 작업이 끝나면 다시 열기</translation>
     </message>
     <message>
         <source>Checking the password...</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>To sync more folders, you can add a task in Tarnwell at any time.</source>
-        <translation>더 많은 폴더를 동기화하려면 언제든지 Tarnwell에서 작업을 추가하십시오.</translation>
+        <translation>더 많은 폴더를 동기화하려면 언제든지 Tarnwell에서 작업을 추가하면 됩니다.</translation>
     </message>
     <message>
         <source>Created</source>
