@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>正在备份“%1”</translation>
+        <translation>正在备份 %1</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Start Tarnwell upon user login</source>
-        <translation>用户登录时启动 Tarnwell</translation>
+        <translation>登录时启动 Tarnwell</translation>
     </message>
     <message>
         <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
-        <translation>无法检查此用户名。请确保可以连接到服务器，然后重试。</translation>
+        <translation>无法验证此用户名。请确保可以连接到服务器，然后重试。</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>由 Tarnwell 采用常用设置，或由您自行选择设置。</translation>
+        <translation>让 Tarnwell 为您选择设置，或自行选择设置。</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Standby</source>
-        <translation>待机</translation>
+        <translation>待命</translation>
     </message>
     <message>
         <source>The backup couldn’t be completed. Check the connection to the server and try again.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>失败的尝试次数过多。请等待几分钟，然后重试。</translation>
+        <translation>尝试失败次数过多。请等待几分钟，然后重试。</translation>
     </message>
     <message>
         <source>History</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>正在下载“%1”</translation>
+        <translation>正在下载 %1</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>Checking the password...</source>
-        <translation>正在检查密码…</translation>
+        <translation>正在验证密码…</translation>
     </message>
     <message>
         <source>Manage tasks</source>
@@ -1353,7 +1353,7 @@
     </message>
     <message>
         <source>Unlink connection</source>
-        <translation>解除连接关联</translation>
+        <translation>解除服务器关联</translation>
     </message>
     <message>
         <source>Updating to version %1...</source>
@@ -1549,7 +1549,7 @@
     </message>
     <message>
         <source>Never sync these files</source>
-        <translation>始终不同步这些文件</translation>
+        <translation>永不同步这些文件</translation>
     </message>
     <message>
         <source>Quick setup</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>已安装较新版本的 Tarnwell。要安装此版本，请先卸载较新的版本。</translation>
+        <translation>已安装较新版本的 Tarnwell。要安装此版本，请先移除较新的版本。</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Backing up %1</source>
-        <translation>正在備份「%1」</translation>
+        <translation>正在備份 %1</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Start Tarnwell upon user login</source>
-        <translation>使用者登入時啟動 Tarnwell</translation>
+        <translation>登入時啟動 Tarnwell</translation>
     </message>
     <message>
         <source>Right-click the tray icon to pause a task, open its folder, or change its settings.</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>This username couldn’t be checked. Make sure that the server is reachable and try again.</source>
-        <translation>無法檢查此使用者名稱。請確定可以連線到伺服器，然後再試一次。</translation>
+        <translation>無法確認此使用者名稱。請確定可以連線到伺服器，然後再試一次。</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>Let Tarnwell choose the settings for you, or choose them yourself.</source>
-        <translation>讓 Tarnwell 採用一般設定，或由您自行選擇。</translation>
+        <translation>讓 Tarnwell 為您選擇設定，或由您自行選擇。</translation>
     </message>
     <message>
         <source>A link to this file can’t be created. Make sure that the file has been uploaded and that you have permission to share it.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>You canceled the [ProductName] installer before it finished. Your computer hasn’t been changed. You can run the installer again at any time.</source>
-        <translation>您在完成前取消了 [ProductName] 安裝程式。您的電腦未做任何變更。您可以隨時再次執行安裝程式。</translation>
+        <translation>您在完成前取消了 [ProductName] 安裝程式。未對您的電腦進行任何變更。您可以隨時再次執行安裝程式。</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation>正在下載「%1」</translation>
+        <translation>正在下載 %1</translation>
     </message>
     <message>
         <source>Custom range</source>
@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>Checking the password...</source>
-        <translation>正在檢查密碼…</translation>
+        <translation>正在驗證密碼…</translation>
     </message>
     <message>
         <source>Manage tasks</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>The [ProductName] installer was stopped by an error before it could finish. Your computer hasn’t been changed. To try again, restart the installer.</source>
-        <translation>[ProductName] 安裝程式因發生錯誤而在完成前停止。您的電腦未做任何變更。若要再試一次，請重新啟動安裝程式。</translation>
+        <translation>[ProductName] 安裝程式因發生錯誤而在完成前停止。未對您的電腦進行任何變更。若要再試一次，請重新啟動安裝程式。</translation>
     </message>
     <message>
         <source>The sync direction of this task doesn’t match your permission on the server. Choose another sync direction.</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>A newer version of Tarnwell is already installed. To install this version, remove the newer one first.</source>
-        <translation>已安裝較新版本的 Tarnwell。若要安裝此版本，請先解除安裝較新的版本。</translation>
+        <translation>已安裝較新版本的 Tarnwell。若要安裝此版本，請先移除較新的版本。</translation>
     </message>
     <message>
         <source>The earlier versions of this file can’t be shown. Check the connection to the server and try again.</source>
