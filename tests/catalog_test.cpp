@@ -164,6 +164,7 @@ TEST_P(CatalogTest, TranslatesEachTextOnce) {
 
 TEST_P(CatalogTest, KeepsWhatIsFilledInAndTheMarksAtTheEnd) {
     const QRegularExpression filled_in(QStringLiteral("%.|\\[\\w+\\]|StationOS|OrvaneLink"));
+    const QRegularExpression quoted(QStringLiteral("[“„”«「‘]\u00a0?%1\u00a0?[”“»」’]"));
     const auto all = [&](const QString& text) {
         std::multiset<QString> found;
         for (auto match = filled_in.globalMatch(text); match.hasNext();) {
@@ -180,11 +181,13 @@ TEST_P(CatalogTest, KeepsWhatIsFilledInAndTheMarksAtTheEnd) {
     for (const Message& message : messages_) {
         const std::string text = message.translation.toStdString();
         EXPECT_EQ(all(message.source), all(message.translation)) << text;
+        EXPECT_EQ(message.source.contains(quoted), message.translation.contains(quoted)) << text;
         EXPECT_EQ(message.translation.trimmed(), message.translation) << text;
         for (const char16_t mark : {u'.', u'…'}) {
             EXPECT_EQ(end(message.source) == mark, end(message.translation) == mark) << text;
         }
     }
+    expectNone(QStringLiteral("['\"]"), "a straight quotation mark or apostrophe");
     if (code_ != QLatin1String("enu")) {
         expectNone(QStringLiteral("\\.\\.\\.|  |\\\\"), "three dots, two blanks or a backslash");
     }
