@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>Freigegebener Ordner fehlt</translation>
+        <translation>Freigegebener Ordner nicht gefunden</translation>
     </message>
     <message>
         <source>Files in your local folder are now backed up to the server automatically.</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Statussymbole zeigen Ihnen, wie es um Ihre Dateien steht. Ein grünes Häkchen bedeutet, dass eine Datei aktuell ist.</translation>
+        <translation>Statussymbole zeigen den Status Ihrer Dateien. Ein grünes Häkchen bedeutet, dass eine Datei aktuell ist.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>

@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>Icon overlays show the status of your files. A green check mark means that a file is up to date.</source>
-        <translation>Az ikonjelzések mutatják, milyen állapotban vannak a fájlok. A zöld pipa azt jelenti, hogy a fájl naprakész.</translation>
+        <translation>Az ikonjelzések a fájlok állapotát mutatják. A zöld pipa azt jelenti, hogy a fájl naprakész.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>

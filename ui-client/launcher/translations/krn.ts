@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Welcome to Tarnwell. Let’s set up your first backup.</source>
-        <translation>Tarnwell에 오신 것을 환영합니다. 첫 번째 백업을 설정하십시오.</translation>
+        <translation>Tarnwell에 오신 것을 환영합니다. 이제 첫 번째 백업을 설정해 보십시오.</translation>
     </message>
     <message>
         <source>Stop syncing this shared folder? The files already on this computer will be kept.</source>

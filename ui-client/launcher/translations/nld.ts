@@ -1645,7 +1645,7 @@
     </message>
     <message>
         <source>Sync with another server</source>
-        <translation>Met andere server synchroniseren</translation>
+        <translation>Met een andere server synchroniseren</translation>
     </message>
     <message>
         <source>The disk of this computer is full. Free up some space and resume the task.</source>

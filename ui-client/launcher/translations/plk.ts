@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Wrong username or wrong password was entered.</source>
-        <translation>Nieprawidłowa nazwa użytkownika lub hasło.</translation>
+        <translation>Nieprawidłowa nazwa użytkownika lub nieprawidłowe hasło.</translation>
     </message>
     <message>
         <source>[ProductName] will be installed on your computer. Click Next to continue or Cancel to exit the installer.</source>

@@ -1585,7 +1585,7 @@
     </message>
     <message>
         <source>Update required</source>
-        <translation>Requer atualização</translation>
+        <translation>Atualização necessária</translation>
     </message>
     <message>
         <source>Thursday</source>

@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation>%1 av %2</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Go back in time</source>
