@@ -16,7 +16,9 @@ QFont DialogFont() {
 }  // namespace
 
 std::unique_ptr<ProcessingProgressDialog> ProcessingProgressDialog::Create() {
-    QApplication::setFont(DialogFont());
+    QFont font = QApplication::font();
+    font.setFamily(DialogFont().family());
+    QApplication::setFont(font);
     return std::make_unique<ProcessingProgressDialog>();
 }
 

@@ -12,8 +12,8 @@ class ProcessingProgressDialog : public QProgressDialog {
   public:
     ProcessingProgressDialog();
 
-    // Makes the dialog's font the application's, then the dialog: a dialog is laid out before it
-    // has its own font, and no second font is loaded when both are the same.
+    // Gives the application the family of the dialog's font, then creates the dialog. A dialog is
+    // laid out before it has its own font: when both have one family, no second font is loaded.
     static std::unique_ptr<ProcessingProgressDialog> Create();
 };
 
