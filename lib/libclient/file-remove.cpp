@@ -9,9 +9,15 @@
 #include "lib/libclient/walk.h"
 
 using file_op::Entry;
+using file_op::FolderChain;
 using file_op::Place;
 
 namespace {
+
+// Deletes an object, or finds it gone; false with errno set.
+bool RemoveAt(const Place& place, int flags) {
+    return unlinkat(place.folder, place.name, flags) == 0 || errno == ENOENT;
+}
 
 class RemoveWalk : private file_op::Walk {
   public:
@@ -27,7 +33,7 @@ class RemoveWalk : private file_op::Walk {
             chain_.enter(place);
             return true;
         }
-        return unlinkat(place.folder, place.name, 0) == 0 || errno == ENOENT;
+        return RemoveAt(place, 0);
     }
 
     // A folder of which a broken off listing has left something isn't empty and so isn't deleted.
@@ -40,6 +46,58 @@ class RemoveWalk : private file_op::Walk {
     }
 
     const Place root_;
+};
+
+// FSRemoveOwnTree of a folder. What can't be removed is left, and the walk goes on.
+class RemoveOwnWalk : private file_op::Walk {
+  public:
+    explicit RemoveOwnWalk(const ustring& path) : Walk(FolderChain::Own), root_(path) {}
+
+    bool remove() {
+        if (!chain_.enter(root_)) {
+            return RemoveAt(root_, AT_REMOVEDIR);
+        }
+        return run() && complete_;
+    }
+
+  private:
+    bool take(const Entry& entry) override {
+        const Place place = chain_.at(entry.name);
+        if (!dealWith(place, entry.type) &&
+            !(file_op::IsNoPermission() && chain_.unlock() && dealWith(place, entry.type))) {
+            complete_ = false;
+        }
+        return true;
+    }
+
+    // Enters or deletes an entry; false with errno set. Of the folders that can't be entered, an
+    // empty one of another user can be deleted.
+    bool dealWith(const Place& place, std::int32_t listed) {
+        switch (file_op::TypeAt(place, listed)) {
+            case FILE_TYPE_DIR:
+                return chain_.enter(place) || RemoveAt(place, AT_REMOVEDIR);
+            case FILE_TYPE_UNKNOWN:
+                return errno == ENOENT;
+            default:
+                return RemoveAt(place, 0);
+        }
+    }
+
+    bool finish(bool listed) override {
+        complete_ = complete_ && listed;
+        if (!chain_.leave()) {
+            return false;
+        }
+        const Place emptied = left(root_);
+        if (listed && !RemoveAt(emptied, AT_REMOVEDIR) &&
+            !(file_op::IsNoPermission() && chain_.unlock() && RemoveAt(emptied, AT_REMOVEDIR))) {
+            complete_ = false;
+        }
+        return true;
+    }
+
+    const Place root_;
+    bool complete_ = true;
 };
 
 }  // namespace
@@ -59,5 +117,17 @@ int FSRemove(const ustring& path, bool) {
 }
 
 int FSRemoveOwnTree(const ustring& path) {
-    return FSRemove(path, false);
+    ustring object(path);
+    object.rtrim("/");  // after a link it would stand for the link's target
+    _FILE_INFO_tag info;
+    if (object.empty() || GetFileInfo(object, info) != 0) {
+        return -1;
+    }
+    if (!info.exists) {
+        return 0;
+    }
+    const Place place(object);
+    const bool removed =
+        info.type == FILE_TYPE_DIR ? RemoveOwnWalk(object).remove() : RemoveAt(place, 0);
+    return removed ? 0 : -3;
 }

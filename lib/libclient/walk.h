@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "lib/platform/folder-rights.h"
 #include "lib/platform/handles.h"
 #include "ustring/ustring.h"
 
@@ -35,6 +36,8 @@ struct Place {
     std::string path() const { return folder_path ? *folder_path + "/" + name : name; }
 };
 
+bool IsNoPermission();  // whether errno says so
+
 // Reads the next entry of a stream: 1 and the entry, 0 at the end, -1 with errno set.
 int ReadEntry(DIR* stream, const dirent*& entry);
 
@@ -58,15 +61,35 @@ class FolderChain {
         Pass  // objects in the folders are named, which takes no right to read them
     };
 
-    explicit FolderChain(Use use = List);
+    // Whose the folders are. In a tree of this user, one that its owner may not open is unlocked,
+    // and one on another volume than the first isn't entered (EXDEV).
+    enum Rights {
+        Anyones,
+        Own,
+        OwnRestored  // and a folder that is left gets its mode back
+    };
+
+    explicit FolderChain(Use use = List, Rights rights = Anyones) : use_(use), rights_(rights) {}
 
     // Makes the folder at place the current one; a link isn't followed. On failure, with errno set,
     // the current folder stays.
     bool enter(const Place& place);
 
-    // Back to the folder that holds the current one, or out of the walk; false, with errno set,
-    // when it can't be opened again.
+    // Back to the folder that holds the current one, or out of the walk. Returns false, with errno
+    // set, when that folder can't be opened again or the one left doesn't get its mode back.
     bool leave();
+
+    // Gives the owner of the current folder all rights to it. Returns whether that has changed
+    // anything; nothing is changed in a tree that may be anyone's.
+    bool unlock();
+
+    // The permissions of the current folder as it was entered, or as they were set for lock() and
+    // leave() to give back.
+    mode_t mode() const { return levels_.back().mode; }
+    void setMode(mode_t mode) { levels_.back().mode = mode; }
+
+    // Gives the folder that holds the current one its mode back; false with errno set.
+    bool lockHolder();
 
     // The next entry of the current folder, without "." and "..": 1 and the entry, 0 at the end, -1
     // with errno set when the listing has broken off. The first call reads the whole listing, so
@@ -84,6 +107,8 @@ class FolderChain {
         platform::DirStream stream;       // from then on
         dev_t device = 0;
         ino_t inode = 0;
+        mode_t mode = 0;            // the permissions to give back
+        mode_t mode_now = 0;        // those it has
         std::string name;           // in the folder that holds it
         std::size_t path_size = 0;  // of that folder's path
 
@@ -93,13 +118,20 @@ class FolderChain {
         int error = 0;              // what broke the listing off
 
         int fd() const { return stream != nullptr ? dirfd(stream.get()) : folder.get(); }
+        bool change(mode_t new_mode);
+        bool unlock();
         void close();
         void list();
     };
 
     bool open(const Place& place, int flags, Level& level) const;
+    bool openLocked(const Place& place, Level& level) const;
+    bool isOnVolume(const Level& level);
+    bool reopenHolder(Level& left);
 
-    int access_;
+    const Use use_;
+    const Rights rights_;
+    platform::MountId volume_ = 0;  // of the first folder
     std::vector<Level> levels_;
     std::string path_;  // of the current folder, for messages
     std::string name_left_;
@@ -108,7 +140,8 @@ class FolderChain {
 // The one loop of all walks. A walk enters its root in its own way before run().
 class Walk {
   public:
-    Walk() = default;
+    explicit Walk(FolderChain::Rights rights = FolderChain::Anyones)
+        : chain_(FolderChain::List, rights) {}
     virtual ~Walk() = default;
     Walk(const Walk&) = delete;
     Walk& operator=(const Walk&) = delete;

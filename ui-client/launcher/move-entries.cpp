@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "lib/libclient/walk.h"
+#include "lib/platform/folder-rights.h"
 
 using file_op::Entry;
 using file_op::FolderChain;
@@ -23,40 +24,105 @@ bool IsFolder(const Place& place) {
 
 bool MakeFolderLike(const Place& folder, const Place& copy) {
     struct stat status;
-    return fstatat(folder.folder, folder.name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISDIR(status.st_mode) && mkdirat(copy.folder, copy.name, 0700) == 0 &&
-           fchmodat(copy.folder, copy.name, status.st_mode & 07777, 0) == 0;
+    if (fstatat(folder.folder, folder.name, &status, AT_SYMLINK_NOFOLLOW) != 0 ||
+        !S_ISDIR(status.st_mode)) {
+        return false;
+    }
+    return mkdirat(copy.folder, copy.name, S_IRWXU) == 0 &&
+           platform::SetFolderMode(copy.folder, copy.name, nullptr, status.st_mode & 07777) == 0;
 }
 
-// The two chains are at the same level between the steps.
+bool IsEmptyFolder(const Place& place) {
+    FolderChain chain;
+    Entry entry;
+    return chain.enter(place) && chain.read(entry) == 0;
+}
+
+// The two chains are at the same level between the steps. Both halves of a folder are unlocked
+// together only while its own entries are moved; the new half gets its permissions back before the
+// next folder is entered, so that they can be read from it after a kill.
 class EntryMove : private file_op::Walk {
   public:
-    EntryMove(const ustring& from, const ustring& to) : from_(from), dst_(to) {}
+    EntryMove(const ustring& from, const ustring& to)
+        : Walk(FolderChain::OwnRestored), from_(from), dst_(to) {}
 
-    bool move() { return enter(from_, dst_) && run(); }
+    bool move() {
+        const bool moved = enter(from_, dst_) && run();
+        while (!chain_.empty()) {
+            chain_.leave();
+        }
+        while (!to_.empty()) {
+            to_.leave();
+        }
+        return moved;
+    }
 
   private:
     bool enter(const Place& src, const Place& dst) {
-        if (!chain_.enter(src)) {
-            file_op::FailOpenDir(src.path().c_str());
+        if (!to_.enter(dst)) {
             return false;
         }
-        return to_.enter(dst);
+        if (!to_.lockHolder() || !enterSource(src)) {
+            const int error = errno;
+            to_.leave();
+            errno = error;
+            return false;
+        }
+        const mode_t mode = mergedMode();
+        chain_.setMode(mode);
+        to_.setMode(mode);
+        return true;
+    }
+
+    // The permissions of a folder of which a move that was cut off has left a half on each side.
+    // One half can have been unlocked for its owner. The newer one, empty at first, can lack what
+    // the umask took from others when it was made.
+    mode_t mergedMode() const {
+        const mode_t others = ~mode_t{S_IRWXU};
+        const mode_t mode = to_.mode() & (chain_.mode() | others);
+        const mode_t missing = chain_.mode() & ~to_.mode() & others;
+        return missing != 0 && IsEmptyFolder(to_.at(".")) ? mode | missing : mode;
+    }
+
+    bool enterSource(const Place& src) {
+        if (chain_.enter(src) ||
+            (file_op::IsNoPermission() && chain_.unlock() && chain_.enter(src))) {
+            return true;
+        }
+        file_op::FailOpenDir(src.path().c_str());
+        return false;
     }
 
     bool take(const Entry& entry) override {
         const Place src = chain_.at(entry.name);
         const Place dst = to_.at(entry.name);
-        const bool is_folder = IsFolder(src);
+        return take(src, dst) || (file_op::IsNoPermission() && unlock() && take(src, dst));
+    }
+
+    bool take(const Place& src, const Place& dst) {
+        struct stat status;
+        if (fstatat(src.folder, src.name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+            return false;
+        }
+        const bool is_folder = S_ISDIR(status.st_mode);
         if (!is_folder || !IsFolder(dst)) {
             if (renameat(src.folder, src.name, dst.folder, dst.name) == 0) {
                 return true;
             }
-            if (!is_folder || errno != EXDEV || !MakeFolderLike(src, dst)) {
+            // To rename a folder changes its "..", for which its owner needs the right to write.
+            const bool must_stay =
+                errno == EXDEV || (errno == EACCES && (status.st_mode & S_IWUSR) == 0);
+            if (!is_folder || !must_stay || !MakeFolderLike(src, dst)) {
                 return false;
             }
         }
         return enter(src, dst);
+    }
+
+    bool unlock() {
+        const bool source = chain_.unlock();
+        const bool destination = to_.unlock();
+        return source || destination;
     }
 
     bool finish(bool listed) override {
@@ -67,13 +133,18 @@ class EntryMove : private file_op::Walk {
         if (!chain_.leave() || !to_.leave()) {
             return false;
         }
+        return chain_.empty() || removeLeft() ||
+               (file_op::IsNoPermission() && chain_.unlock() && removeLeft());
+    }
+
+    bool removeLeft() const {
         const Place emptied = left(from_);
-        return chain_.empty() || unlinkat(emptied.folder, emptied.name, AT_REMOVEDIR) == 0;
+        return unlinkat(emptied.folder, emptied.name, AT_REMOVEDIR) == 0;
     }
 
     const Place from_;
     const Place dst_;
-    FolderChain to_{FolderChain::Pass};
+    FolderChain to_{FolderChain::Pass, FolderChain::OwnRestored};
 };
 
 }  // namespace

@@ -1,0 +1,48 @@
+#include "lib/platform/folder-rights.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <string>
+
+#include "lib/platform/handles.h"
+
+namespace platform {
+
+int MountOf(int fd, MountId& mount) {
+    struct statx status;
+    if (statx(fd, "", AT_EMPTY_PATH, STATX_MNT_ID, &status) != 0) {
+        return -1;
+    }
+    if ((status.stx_mask & STATX_MNT_ID) == 0) {
+        errno = ENOSYS;  // a kernel that doesn't number its mounts
+        return -1;
+    }
+    mount = status.stx_mnt_id;
+    return 0;
+}
+
+// fchmod refuses a descriptor that is open only to be passed.
+int SetFolderMode(int folder, mode_t mode) {
+    return chmod(("/proc/self/fd/" + std::to_string(folder)).c_str(), mode);
+}
+
+// What was opened is what is looked at and changed, whatever happens to the name meanwhile.
+int SetFolderMode(int parent, const char* name, const MountId* within, mode_t mode) {
+    const Descriptor folder(openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (folder.get() < 0) {
+        return -1;
+    }
+    MountId mount = 0;
+    if (within != nullptr && MountOf(folder.get(), mount) != 0) {
+        return -1;
+    }
+    if (within != nullptr && mount != *within) {
+        errno = EXDEV;
+        return -1;
+    }
+    return SetFolderMode(folder.get(), mode);
+}
+
+}  // namespace platform

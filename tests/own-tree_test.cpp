@@ -1,0 +1,321 @@
+// Trees of this user with folders that their owner may not read, search or write.
+
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "lib/libclient/file-op.h"
+#include "tests/support/scenario.h"
+#include "tests/support/traced-run.h"
+#include "ui-client/launcher/move-entries.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+int reads_until_failure = 0;  // of folders; 0: none fails
+
+mode_t ModeOf(const std::string& path) {
+    struct stat status;
+    return lstat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+// The permissions of a folder and of those below it.
+std::map<std::string, mode_t> ModesIn(const std::string& path) {
+    std::map<std::string, mode_t> modes{{".", ModeOf(path)}};
+    for (const auto& [name, description] : Tree(path)) {
+        if (description == "folder") {
+            modes[name] = ModeOf(path + "/" + name);
+        }
+    }
+    return modes;
+}
+
+class OwnTreeTest : public testing::Test {
+  protected:
+    OwnTreeTest() {
+        umask(022);
+        EXPECT_EQ(chmod(folder_.path().c_str(), 0777), 0);
+        EXPECT_EQ(chdir(folder_.path().c_str()), 0);
+    }
+
+    // A tree of the user that AsNobody makes of this process.
+    static void makeClosedTree(const std::string& path, mode_t top = 0755) {
+        const AsNobody nobody;
+        const std::pair<const char*, mode_t> folders[] = {{"read-only/in read-only/in both", 0555},
+                                                          {"read-only/in read-only/empty", 0777},
+                                                          {"read-only/in read-only", 0555},
+                                                          {"read-only/closed/open", 0755},
+                                                          {"read-only/closed", 0},
+                                                          {"read-only", 0555},
+                                                          {"read-only/shared", 0575},
+                                                          {"unsearchable/closed", 0},
+                                                          {"unsearchable", 0444},
+                                                          {"unreadable/unsearchable", 0660},
+                                                          {"unreadable", 0333},
+                                                          {"empty", 0},
+                                                          {"open/group", 0775},
+                                                          {"open", 01755},
+                                                          {"", top}};
+        for (const auto& [name, mode] : folders) {
+            MakeFile(path + "/" + name + "/file", name);
+        }
+        unlink((path + "/empty/file").c_str());
+        MakeLink("read-only/file", path + "/read-only/link");
+        for (const auto& [name, mode] : folders) {
+            ASSERT_EQ(chmod((path + "/" + name).c_str(), mode), 0);
+        }
+    }
+
+    // Whether this process can also see what it arranges for the other user.
+    static bool isRoot() { return geteuid() == 0; }
+
+    Folder folder_{"/dev/shm"};  // in memory, where making folders is fast
+};
+
+TEST_F(OwnTreeTest, RemovesWhatItsOwnerMayNotChange) {
+    MakeFile("outside/file");
+    chmod("outside", 0);
+    for (const mode_t top : {0755u, 0555u, 0444u, 0333u, 0u}) {
+        makeClosedTree("tree", top);
+        const AsNobody nobody;
+        FSRemove("tree", false);
+        EXPECT_TRUE(Exists("tree"));
+        EXPECT_EQ(FSRemoveOwnTree("tree"), 0) << top;
+        EXPECT_FALSE(Exists("tree")) << top;
+    }
+    makeClosedTree("tree");
+    const AsNobody nobody;
+    MakeLink("../outside", "tree/link to folder");
+    MakeLink("../tree/open", "way");
+    EXPECT_EQ(FSRemoveOwnTree("way/"), 0);
+    EXPECT_TRUE(!Exists("way") && Exists("tree/open"));
+    EXPECT_EQ(FSRemoveOwnTree("tree//"), 0);
+    EXPECT_FALSE(Exists("tree"));
+    EXPECT_EQ(ModeOf("outside"), 0u);
+}
+
+TEST_F(OwnTreeTest, RemovesOneObject) {
+    MakeFile("kept");
+    MakeFile("fixed/file");
+    MakeLink("kept", "link");
+    chmod("fixed", 0555);
+    const struct {
+        const char* path;
+        int result;
+        const char* gone;
+    } cases[] = {{"", -1, ""},
+                 {"missing", 0, "missing"},
+                 {"kept/below", -1, ""},
+                 {"fixed/file", -3, ""},
+                 {"link", 0, "link"}};
+    for (const auto& row : cases) {
+        const AsNobody nobody;
+        EXPECT_EQ(FSRemoveOwnTree(row.path), row.result) << row.path;
+        EXPECT_FALSE(Exists(row.gone)) << row.path;
+    }
+    EXPECT_TRUE(Exists("kept") && Exists("fixed/file"));
+    EXPECT_EQ(ModeOf("fixed"), 0555u) << "the folder that holds the tree";
+}
+
+TEST_F(OwnTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
+    MakeFile("elsewhere/file");
+    if (!isRoot()) {
+        GTEST_SKIP() << "only root can make another user's folders";
+    }
+    const SmallDisk disk("tree/closed/disk", "64k");
+    MakeFolder("tree/closed/bound");
+    if (!disk.mounted() ||
+        mount("elsewhere", "tree/closed/bound", nullptr, MS_BIND, nullptr) != 0) {
+        GTEST_SKIP() << "this user may not mount a small disk";
+    }
+    MakeFile("tree/closed/disk/file");
+    MakeFile("tree/closed/removed/file");
+    MakeFile("tree/removed");
+    for (const char* const path :
+         {"tree", "tree/closed", "tree/closed/removed", "elsewhere", "tree/closed/disk"}) {
+        EXPECT_EQ(chown(path, 65534, 65534), 0);
+        chmod(path, 0);
+    }
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
+        EXPECT_EQ(ModeOf("tree/closed/bound") + ModeOf("tree/closed/disk"), 0u);
+    }
+    EXPECT_EQ(FSRemoveOwnTree("tree"), -3) << "as root, who needs no permissions";
+    EXPECT_EQ(Tree("tree"), (FileTree{{"closed", "folder"},
+                                      {"closed/bound", "folder"},
+                                      {"closed/bound/file", "file 0644: "},
+                                      {"closed/disk", "folder"},
+                                      {"closed/disk/file", "file 0644: "}}));
+    umount("tree/closed/bound");
+}
+
+TEST_F(OwnTreeTest, GoesOnAfterWhatCannotBeRemoved) {
+    if (!isRoot()) {
+        GTEST_SKIP() << "only root can make another user's folders";
+    }
+    makeClosedTree("tree");
+    MakeFile("tree/open/another's/file");
+    MakeFolder("tree/open/another's empty");
+    chmod("tree/open/another's empty", 0700);
+    const AsNobody nobody;
+    EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
+    EXPECT_EQ(Tree("tree"), (FileTree{{"open", "folder"},
+                                      {"open/another's", "folder"},
+                                      {"open/another's/file", "file 0644: "}}));
+}
+
+TEST_F(OwnTreeTest, ABrokenListingIsNotItsEnd) {
+    for (const int failing : {1, 2, 5}) {
+        SCOPED_TRACE(failing);
+        MakeFile("tree/a/file");
+        MakeFile("tree/b/file");
+        MakeFolder("moved");
+        reads_until_failure = failing;
+        const std::string log = CaptureStderr([] { EXPECT_FALSE(MoveEntries("tree", "moved")); });
+        reads_until_failure = 0;
+        EXPECT_TRUE(HasOneLine(log, "Failed to read directory 'tree'. Input/output error")) << log;
+        EXPECT_TRUE(MoveEntries("tree", "moved"));
+        EXPECT_EQ(Tree("moved").size(), 4u);
+        reads_until_failure = failing;
+        EXPECT_EQ(FSRemoveOwnTree("moved"), -3);
+        reads_until_failure = 0;
+        EXPECT_TRUE(Exists("moved"));
+        EXPECT_EQ(FSRemoveOwnTree("moved"), 0);
+    }
+}
+
+TEST_F(OwnTreeTest, NeitherDepthNorWidthHasALimit) {
+    const AsNobody nobody;
+    const FewDescriptors few;
+    for (const mode_t mode : {0555u, 0u}) {
+        MakeDeepTree("tree", 1000);
+        int fd = open("tree", O_RDONLY | O_DIRECTORY);
+        for (int level = 0; level < 1000; ++level) {
+            const int next = openat(fd, "d", O_RDONLY | O_DIRECTORY);
+            fchmod(fd, mode);
+            close(fd);
+            fd = next;
+        }
+        close(fd);
+        EXPECT_TRUE(MakeFolderLike("tree", "to") && MoveEntries("tree", "to"));
+        EXPECT_EQ(ModeOf("to"), mode);
+        EXPECT_TRUE(MoveEntries("to", "tree"));
+        EXPECT_EQ(ModeOf("tree"), mode);
+        EXPECT_EQ(FSRemoveOwnTree("tree") + FSRemoveOwnTree("to"), 0);
+    }
+}
+
+TEST_F(OwnTreeTest, MovesThereAndBackWithAllPermissions) {
+    if (!isRoot()) {
+        GTEST_SKIP() << "only root can see into closed folders";
+    }
+    for (const mode_t top : {0755u, 0555u, 0u}) {
+        makeClosedTree("from", top);
+        const FileTree tree = Tree("from");
+        const auto modes = ModesIn("from");
+        {
+            const AsNobody nobody;
+            ASSERT_TRUE(MakeFolderLike("from", "to"));
+            EXPECT_FALSE(MakeFolderLike("from", "to"));
+            EXPECT_TRUE(MoveEntries("from", "to"));
+        }
+        EXPECT_EQ(Tree("to"), tree);
+        EXPECT_EQ(ModesIn("to"), modes);
+        EXPECT_EQ(Tree("from").size(), 0u);
+        EXPECT_EQ(ModeOf("from"), top);
+        {
+            const AsNobody nobody;
+            EXPECT_TRUE(MoveEntries("to", "from"));
+        }
+        EXPECT_EQ(Tree("from"), tree);
+        EXPECT_EQ(ModesIn("from"), modes);
+        fs::remove_all("from");
+        fs::remove_all("to");
+    }
+}
+
+TEST_F(OwnTreeTest, AMergeKeepsWhatOthersMayDo) {
+    MakeFile("from/a/file");
+    MakeFile("to/a/private");
+    MakeFile("from/fixed/file");
+    chmod("to/a", 0700);
+    chmod("from/fixed", 0555);
+    EXPECT_TRUE(MoveEntries("from", "to"));
+    EXPECT_EQ(ModeOf("to/a"), 0700u);
+    EXPECT_EQ(ModeOf("to/fixed"), 0555u);
+    MakeFile("from/file");
+    MakeFile("to/file/in its way");
+    EXPECT_FALSE(MoveEntries("from", "to"));
+    EXPECT_TRUE(Exists("from/file"));
+}
+
+// Kills a move at each of its changes, and then goes on with it, or moves back.
+TEST_F(OwnTreeTest, AMoveCanBeKilledAnywhere) {
+    if (!isRoot()) {
+        GTEST_SKIP() << "only root can see into closed folders";
+    }
+    int end = 1000 + SIGKILL;
+    for (int k = 1; end == 1000 + SIGKILL; ++k) {
+        for (const bool back : {false, true}) {
+            makeClosedTree("from", 0555);
+            const FileTree tree = Tree("from");
+            const auto modes = ModesIn("from");
+            const pid_t pid = fork();
+            if (pid == 0) {
+                BeTraced();
+                _exit(setresuid(65534, 65534, 65534) == 0 && MakeFolderLike("from", "to") &&
+                              MoveEntries("from", "to")
+                          ? 0
+                          : 1);
+            }
+            TracedRun run;
+            run.fault_at = k;
+            run.follow(pid);
+            end = run.end;
+            SCOPED_TRACE("killed at " + std::to_string(k) + (back ? ", back" : ", on"));
+            {
+                const AsNobody nobody;
+                EXPECT_TRUE(Exists("to") || MakeFolderLike("from", "to"));
+                EXPECT_TRUE(back ? MoveEntries("to", "from") : MoveEntries("from", "to"));
+            }
+            const std::string there = back ? "from" : "to";
+            EXPECT_EQ(Tree(there), tree);
+            const std::string emptied = back ? "to" : "from";
+            EXPECT_EQ(Tree(emptied).size(), 0u);
+            EXPECT_EQ(ModeOf(emptied), ModeOf(there));
+            int unlocked = 0;
+            for (const auto& [name, mode] : ModesIn(there)) {
+                if (mode != modes.at(name)) {
+                    EXPECT_EQ(mode, modes.at(name) | 0700u) << name;
+                    EXPECT_EQ(++unlocked, 1) << name;
+                }
+            }
+            fs::remove_all("from");
+            fs::remove_all("to");
+        }
+    }
+    EXPECT_EQ(end, 0);
+}
+
+}  // namespace
+
+// Stands before the C library's, and fails when it is told to.
+extern "C" dirent* readdir(DIR* stream) {
+    static const auto next = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir"));
+    if (reads_until_failure > 0 && --reads_until_failure == 0) {
+        errno = EIO;
+        return nullptr;
+    }
+    return next(stream);
+}
