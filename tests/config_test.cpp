@@ -1,5 +1,7 @@
 #include "lib/config/config.h"
 
+#include <sys/stat.h>
+
 #include <climits>
 
 #include "tests/support/scenario.h"
@@ -70,6 +72,32 @@ TEST_F(ConfigTest, ReadsALongLineInPieces) {
     EXPECT_EQ(read(piece + "x=1\n"), 0);
     EXPECT_EQ(config_.entries["x"], "1");
     EXPECT_EQ(read(piece + "/\n"), -1);
+}
+
+TEST_F(ConfigTest, ANulEndsALineAndAFailingDiskTheFile) {
+    EXPECT_EQ(read(std::string("a=1\0b=2\nc=3\n", 12)), 0);
+    EXPECT_EQ(config_.read("/proc/self/mem"), 0) << "a regular file whose beginning can't be read";
+    EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"c", "3"}}));
+}
+
+TEST_F(ConfigTest, OpensNothingButASmallRegularFileInside) {
+    const std::string large = "a=1\n" + std::string(1024 * 1024 - 4, '\n');
+    const std::string inside = folder_ / "inside";
+    MakeFile(folder_ / "outside", "a=1\n");
+    MakeFile(inside + "/file", "b=2\n");
+    MakeLink("../outside", inside + "/link out");
+    MakeLink("file", inside + "/link");
+    MakeLink("/dev/zero", folder_ / "device");
+    ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0644), 0);
+    for (const char* const refused : {"pipe", "device", "inside", "outside", "inside/link out"}) {
+        EXPECT_EQ(config_.read((folder_ / refused).c_str(), inside.c_str()), -1) << refused;
+    }
+    EXPECT_EQ(config_.read((folder_ / "pipe").c_str()), -1);
+    EXPECT_EQ(read(large + "\n"), -1);
+    EXPECT_TRUE(config_.entries.empty());
+    EXPECT_EQ(config_.read((inside + "/link").c_str(), inside.c_str()), 0);
+    EXPECT_EQ(read(large), 0);
+    EXPECT_EQ(config_.entries.size(), 2u);
 }
 
 TEST_F(ConfigTest, ReadsIntegers) {

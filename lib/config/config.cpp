@@ -1,18 +1,14 @@
 #include "lib/config/config.h"
 
-#include <cstdio>
-#include <memory>
 #include <sstream>
-#include <string_view>
+#include <string>
+
+#include "lib/platform/regular-file.h"
 
 namespace {
 
-const int kLineSize = 8192;  // a longer line counts as several
-
-struct FileCloser {
-    // Nothing was written, so the result says nothing.
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-};
+const std::size_t kMaxSize = std::size_t{1024} * 1024;  // bytes of a file
+const std::size_t kMaxLine = 8191;                      // bytes; a longer line counts as several
 
 bool IsBlank(char byte) {
     return byte == ' ' || (byte >= '\t' && byte <= '\r');
@@ -92,20 +88,30 @@ bool ParseLine(const char* line, std::map<ustring, ustring>& entries) {
 
 }  // namespace
 
-int Config::read(const ustring& path) {
-    if (path.empty()) {
+int Config::read(const ustring& path, const char* inside) {
+    platform::Descriptor file(-1);
+    if (path.empty() ||
+        platform::OpenRegularFile(path.c_str(), file, inside) != platform::Reading::Done) {
         return -1;
     }
-    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "re"));
-    if (file == nullptr) {
-        return -1;
+    std::string text;
+    if (!platform::ReadUpTo(file.get(), kMaxSize, text)) {
+        // What could be read counts, except for the line that the failure has cut off.
+        const std::size_t last_line = text.rfind('\n') + 1;
+        text.resize(text.size() - (text.size() - last_line) % kMaxLine);
     }
-    char line[kLineSize];
-    while (std::fgets(line, kLineSize, file.get()) != nullptr) {
-        if (!ParseLine(line, entries)) {
+    return text.size() <= kMaxSize ? parse(text) : -1;
+}
+
+int Config::parse(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t end = text.substr(0, kMaxLine).find('\n');
+        const std::string line(text.substr(0, end == text.npos ? kMaxLine : end + 1));
+        if (!ParseLine(line.c_str(), entries)) {
             entries.clear();
             return -1;
         }
+        text.remove_prefix(line.size());
     }
     return 0;
 }

@@ -153,16 +153,14 @@ int FSMKDirP(const ustring& path, char** end_out, bool force, std::uint16_t mode
 // changes nothing.
 // Returns -1 for an empty path and for one that can't be examined, -3 for any other failure.
 int FSRemove(const ustring& path, bool flag);
-int FSRemoveOwnTree(const ustring& path);
 
 // Deletes whatever is at path, as FSRemove does, of a tree that belongs to this user:
 // - A folder in it that its owner may not read, search or write is made accessible to its owner
 //   first, when that turns out to be needed. Nothing outside the tree is changed.
 // - Other volumes that are mounted in it are not entered, on Linux other mounts of the same volume
 //   too. Links are deleted and not followed; a "/" at the end of path changes nothing.
-// - An entry that can't be removed is left, and all others are removed. So is a folder whose
-// listing
-//   breaks off.
+// - An entry that can't be removed is left, as is a folder whose listing breaks off; all others
+//   are removed.
 // Not atomic. Depth and size of a tree are not limited; at most 16 of its folders are open.
 // Returns 0 when nothing is left at path or nothing was there, -1 for an empty path, "/" and one
 // that can't be examined, -3 for any other failure.
