@@ -47,6 +47,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Whatever the file names, this bundle has no executable.
     WriteFile(contents + "/Info.plist", file);
-    REQUIRE(!platform::OpenBundle(QString::fromStdString(scratch / "bundle.app")));
+    REQUIRE(!platform::OpenBundle(scratch / "bundle.app"));
     return 0;
 }

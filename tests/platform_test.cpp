@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <QString>
+#include <ctime>
 #include <filesystem>
 
 #include "lib/platform/core-services.h"
@@ -18,6 +19,8 @@
 #include "lib/platform/process-info.h"
 #include "tests/support/installation.h"
 #include "tests/support/scenario.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -129,7 +132,7 @@ class OpenBundleTest : public testing::Test {
   protected:
     OpenBundleTest() { setenv("HOME", folder_.path().c_str(), 1); }
 
-    bool open() const { return platform::OpenBundle(QString::fromStdString(folder_ / "My.app")); }
+    bool open() const { return platform::OpenBundle(folder_ / "My.app"); }
     void makeProgram(const std::string& name, mode_t mode = 0755) const {
         MakeFile(folder_ / "My.app/Contents/MacOS/" + name,
                  "#!/bin/sh\necho \"$(pwd) $# $0\" >there && mv there started\n", mode);
@@ -163,6 +166,48 @@ TEST_F(OpenBundleTest, SaysWhenThereIsNothingToStart) {
     rmdir((folder_ / "My.app/Contents/MacOS/My").c_str());
     makeProgram("My", 0644);
     EXPECT_FALSE(open());
+    makeProgram("outside");
+    fs::rename(folder_ / "My.app/Contents/MacOS/outside", folder_ / "outside");
+    fs::remove(folder_ / "My.app/Contents/MacOS/My");
+    MakeLink("../../../outside", folder_ / "My.app/Contents/MacOS/My");
+    EXPECT_FALSE(open());
+}
+
+TEST_F(OpenBundleTest, ReadsNoInfoPlistThatMayBeATrap) {
+    const std::string plist = folder_ / "My.app/Contents/Info.plist";
+    makeProgram("My");
+    MakeFile(folder_ / "outside",
+             "<plist><dict><key>CFBundleExecutable</key><string>none</string></dict></plist>");
+    const std::function<void()> cases[] = {[&] { mkfifo(plist.c_str(), 0644); },
+                                           [&] { MakeLink("/dev/zero", plist); },
+                                           [&] { MakeLink("../../outside", plist); }};
+    for (const auto& make : cases) {
+        make();
+        EXPECT_TRUE(open());
+        EXPECT_NE(started(), "");
+        fs::remove(plist);
+        fs::remove(folder_ / "started");
+    }
+}
+
+// Nothing of ours but the environment.
+TEST_F(OpenBundleTest, TheProgramStartsAfresh) {
+    // Two signals of its own are ignored by the C library; they are beyond the last seven digits.
+    MakeFile(folder_ / "My.app/Contents/MacOS/My",
+             "#!/bin/sh\n(grep -cE 'Sig(Blk|Ign):.*0000000$' /proc/self/status; ls /proc/$$/fd) "
+             ">there\nmv there started\n",
+             0755);
+    sigset_t all;
+    sigset_t saved;
+    sigfillset(&all);
+    sigprocmask(SIG_BLOCK, &all, &saved);
+    const auto action = signal(SIGPIPE, SIG_IGN);
+    const int descriptor = dup(STDERR_FILENO);  // which a new program would inherit
+    EXPECT_TRUE(open());
+    close(descriptor);
+    signal(SIGPIPE, action);
+    sigprocmask(SIG_SETMASK, &saved, nullptr);
+    EXPECT_EQ(started(), "2\n0\n1\n10\n2\n") << "10 is the shell's script";
 }
 
 class InstanceLockTest : public testing::Test {
@@ -230,16 +275,22 @@ TEST_F(InstanceLockTest, AnotherUsersLockedFileDoesNotBlock) {
 
 TEST(ProcessInfo, NamesTheExecutableAlsoWhenItIsGone) {
     const Folder folder;
-    std::filesystem::copy("/bin/sleep", folder / "client");
-    const Client client(folder / "client");
-    platform::ProcessInfo info;
-    const auto is_named = [&] {
-        return platform::DescribeProcess(client.pid(), info) &&
-               info.executable == folder / "client";
-    };
-    EXPECT_TRUE(WaitFor(is_named));
-    ASSERT_EQ(unlink((folder / "client").c_str()), 0);
-    EXPECT_TRUE(is_named()) << info.executable;
+    const std::string program = folder / "client";
+    Client::copyTo(program);
+    const Client client({program, Client::kEndsAtOnce});
+    struct stat status;
+    ASSERT_EQ(stat(program.c_str(), &status), 0);
+    for (const bool gone : {false, true}) {
+        const platform::ProcessInfo info = platform::DescribeProcess(client.pid());
+        EXPECT_EQ(info.executable, program);
+        EXPECT_EQ(info.executable_gone, gone);
+        EXPECT_EQ(info.inode, status.st_ino);
+        EXPECT_EQ(info.arguments, (std::vector<std::string>{program, Client::kEndsAtOnce}));
+        EXPECT_EQ(info.folder, fs::current_path());
+        EXPECT_NEAR(double(info.started), double(std::time(nullptr)), 3);
+        unlink(program.c_str());
+    }
+    EXPECT_EQ(platform::DescribeProcess(1 << 30).started, 0) << "no process has such an id";
 }
 
 }  // namespace

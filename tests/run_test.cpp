@@ -88,7 +88,7 @@ TEST_F(RunTest, InstallsForANewUser) {
 
 TEST_F(RunTest, WritesOnlyErrorsUnlessToldOtherwise) {
     EXPECT_EQ(installation_.run().log, "");
-    fs::remove(installation_.app("Contents/MacOS/tarnwell-ui"));
+    fs::remove(installation_.client());
     fs::remove(installation_.package());
     const std::string log = installation_.run().log;
     EXPECT_NE(log, "");
@@ -107,8 +107,8 @@ TEST_F(RunTest, DecidesByTheBuildNumbers) {
     installation_.logEverything();
     for (const auto& row : cases) {
         SCOPED_TRACE(std::string(row.source) + " to " + row.target);
-        const Client client(Client::EndsAtOnce);
         startFrom(row.source);
+        const Client client({installation_.client(), Client::kEndsAtOnce});
         installation_.setClientPid(client.pid());
         installation_.setBuild(row.target);
         const Installation::Result result = installation_.run();
@@ -130,16 +130,16 @@ TEST_F(RunTest, AnInstallationWithoutVersionOrClientIsReplaced) {
 
 TEST_F(RunTest, StopsARunningClient) {
     const struct {
-        Client::Behaviour behaviour;
+        const char* behaviour;
         int end;
         int least_seconds;
-    } cases[] = {{Client::EndsAtOnce, 1000 + SIGTERM, 0},
-                 {Client::EndsAfterTwoSeconds, 0, 2},
-                 {Client::IgnoresSigterm, 1000 + SIGKILL, 5}};
+    } cases[] = {{Client::kEndsAtOnce, 1000 + SIGTERM, 0},
+                 {Client::kEndsAfterTwoSeconds, 0, 2},
+                 {Client::kIgnoresSigterm, 1000 + SIGKILL, 5}};
     for (const auto& row : cases) {
         SCOPED_TRACE(row.least_seconds);
-        Client client(row.behaviour);
         startFrom("99");
+        Client client({installation_.client(), row.behaviour});
         installation_.setClientPid(client.pid());
         const auto begin = std::chrono::steady_clock::now();
         installation_.run();
@@ -153,7 +153,8 @@ TEST_F(RunTest, StopsARunningClient) {
 }
 
 TEST_F(RunTest, SignalsNobodyForAPidFileThatNamesNoClient) {
-    const pid_t gone = Client(Client::EndsAtOnce).pid();
+    installation_.install("99");
+    const pid_t gone = Client({installation_.client(), Client::kEndsAtOnce}).pid();
     const std::pair<std::string, std::string> cases[] = {
         {"pid=" + std::to_string(gone), "[DEBUG] mac/mac-service(154): local appdata exist"},
         {"pid=0\n", "names no client: pid '0'"},
@@ -184,8 +185,8 @@ TEST_F(RunTest, AClientThatMayNotBeSignalledIsWaitedFor) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can start another user's client";
     }
-    const Client client(Client::EndsAtOnce);
     installation_.install("99");
+    const Client client({installation_.client(), Client::kEndsAtOnce});
     installation_.setClientPid(client.pid());
     installation_.runAsNobody();
     const Installation::Result result = installation_.run();
@@ -195,36 +196,105 @@ TEST_F(RunTest, AClientThatMayNotBeSignalledIsWaitedFor) {
     expectBuild("100");
 }
 
-TEST_F(RunTest, AProcessThatTookTheClientsIdIsLeftAlone) {
-    const auto write_pid_file_long_before = [this](const Client& client) {
-        installation_.setClientPid(client.pid());
-        fs::last_write_time(installation_.user("ui.pid"),
-                            fs::file_time_type::clock::now() - std::chrono::hours(1));
+TEST_F(RunTest, WhatAProcessRunsDecidesWhetherItIsTheClient) {
+    using Command = std::vector<std::string>;
+    const std::string client = installation_.client();
+    const std::string other = installation_.home() + "/other";
+    const std::string loop = "\necho ready\nwhile :; do sleep 1; done\n";
+    const auto script = [&](const std::string& path, const char* first_line) {
+        MakeFile(path, first_line + loop, 0755);
+        return Command{path};
     };
-    installation_.install("99");
-    const Client another(Client::EndsAtOnce);
-    write_pid_file_long_before(another);
-    installation_.run();
-    EXPECT_TRUE(another.running());
-    expectBuild("100");
+    const auto start = [](const std::string& path) { return Command{path, Client::kEndsAtOnce}; };
+    const auto nothing = [] {};
+    const struct {
+        const char* what;
+        std::function<Command()> make;
+        std::function<void()> then;
+        int written_hours_ago;
+        bool is_client;
+    } cases[] = {{"another program", [&] { return start(other); }, nothing, 0, false},
+                 {"another program, the file is from the future", [&] { return start(other); },
+                  nothing, -9, false},
+                 {"another program of that name", [&] { return start(other + "/tarnwell-ui"); },
+                  nothing, 0, false},
+                 {"the clock was set", [&] { return start(client); }, nothing, 9, true},
+                 {"replaced", [&] { return start(client); },
+                  [&] {
+                      fs::remove(client);
+                      Client::copyTo(client);
+                  },
+                  0, true},
+                 {"moved", [&] { return start(client); },
+                  [&] {
+                      fs::rename(installation_.app(), installation_.user("Tarnwell.app_tmp3"));
+                      installation_.install("99");
+                  },
+                  0, true},
+                 {"not a backup", [&] { return start(client); },
+                  [&] {
+                      fs::rename(installation_.app(), installation_.user("Tarnwell.apps"));
+                      installation_.install("99");
+                  },
+                  0, false},
+                 {"a script", [&] { return script(client, "#!/bin/sh"); }, nothing, 0, true},
+                 {"a script and an option", [&] { return script(client, "#!/bin/sh -e"); }, nothing,
+                  0, true},
+                 {"a script by a relative path",
+                  [&] {
+                      script(client, "#!/bin/sh");
+                      return Command{"/bin/sh", "-c",
+                                     "cd " + installation_.app() +
+                                         "/Contents; exec /bin/sh MacOS/tarnwell-ui"};
+                  },
+                  nothing, 0, true},
+                 {"another script",
+                  [&] {
+                      script(client, "#!/bin/sh");
+                      return script(other, "#!/bin/sh");
+                  },
+                  nothing, 0, false},
+                 {"another program that was given the client",
+                  [&] {
+                      return Command{other, client};
+                  },
+                  nothing, 0, false}};
+    installation_.logEverything();
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        startFrom("99");
+        fs::remove_all(other);
+        const Command command = row.make();
+        if (command[0].compare(0, other.size(), other) == 0 && !Exists(command[0])) {
+            Client::copyTo(command[0]);
+        }
+        const Client process(command);
+        row.then();
+        installation_.setClientPid(process.pid());
+        fs::last_write_time(
+            installation_.user("ui.pid"),
+            fs::file_time_type::clock::now() - std::chrono::hours(row.written_hours_ago));
+        const Installation::Result result = installation_.run();
+        EXPECT_EQ(process.running(), !row.is_client);
+        EXPECT_EQ(Logged(result, "is not terminated: it runs '"), !row.is_client) << result.log;
+        expectBuild("100");
+    }
+}
 
+TEST_F(RunTest, AnotherUsersYoungerProcessIsNotTheClient) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can start another user's process";
+    }
+    installation_.logEverything();
     installation_.install("99");
-    fs::copy("/bin/sleep", installation_.app("Contents/MacOS/tarnwell-ui"),
-             fs::copy_options::overwrite_existing);
-    Client client(installation_.app("Contents/MacOS/tarnwell-ui"));
-    WaitFor([&] {
-        return fs::read_symlink("/proc/" + std::to_string(client.pid()) + "/exe").filename() ==
-               "tarnwell-ui";
-    });
-    write_pid_file_long_before(client);
-    installation_.run();
-    EXPECT_EQ(client.wait(), 1000 + SIGTERM) << "the clock may have been set; it is the client";
-
-    installation_.install("99");
-    installation_.runAsNobody();  // so that the other process is another user's, too
-    write_pid_file_long_before(another);
-    EXPECT_FALSE(Logged(installation_.run(), "kill:"));
-    EXPECT_TRUE(another.running());
+    const Client another({installation_.client(), Client::kEndsAtOnce});
+    installation_.setClientPid(another.pid());
+    fs::last_write_time(installation_.user("ui.pid"),
+                        fs::file_time_type::clock::now() - std::chrono::seconds(4));
+    installation_.runAsNobody();
+    const Installation::Result result = installation_.run();
+    EXPECT_TRUE(Logged(result, "it was started after the pid file was written")) << result.log;
+    EXPECT_FALSE(Logged(result, "kill:"));
     expectBuild("100");
 }
 

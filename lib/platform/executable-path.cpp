@@ -7,8 +7,7 @@
 namespace platform {
 
 QString ExecutablePath() {
-    ProcessInfo self;
-    return DescribeProcess(getpid(), self) ? QString::fromStdString(self.executable) : QString();
+    return QString::fromStdString(DescribeProcess(getpid()).executable);
 }
 
 }  // namespace platform

@@ -1,25 +1,27 @@
 #include <fcntl.h>
+#include <signal.h>
 #include <spawn.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include <cstdlib>
+#include <filesystem>
 #include <vector>
 
+#include "lib/install-layout.h"
 #include "lib/platform/open-bundle.h"
+#include "lib/platform/regular-file.h"
 #include "lib/platform/time-zone.h"
 
 namespace {
 
-const qint64 kMaxPlistSize = qint64{1024} * 1024;  // bytes; a real one has a few thousand
+const std::size_t kMaxPlistSize = std::size_t{1024} * 1024;  // bytes; a real one has a few thousand
 
-QString ReadExecutableName(const QString& bundle) {
-    QFile file(bundle + QStringLiteral("/Contents/Info.plist"));
-    const QString name = file.open(QIODevice::ReadOnly)
-                             ? platform::BundleExecutable(file.read(kMaxPlistSize))
-                             : QString();
-    return name.isEmpty() ? QFileInfo(bundle).completeBaseName() : name;
+std::string ExecutableName(const std::string& bundle) {
+    const std::string plist = bundle + "/" + install_layout::kInfoPlist;
+    std::string text;  // stays empty, and names nothing, when the file isn't read
+    platform::ReadRegularFile(plist.c_str(), kMaxPlistSize, text, bundle.c_str());
+    const QByteArray name = platform::BundleExecutable(QByteArray::fromStdString(text)).toUtf8();
+    return name.isEmpty() ? std::filesystem::path(bundle).stem().string() : name.toStdString();
 }
 
 // The actions and attributes of a program that is about to be started.
@@ -51,21 +53,34 @@ std::vector<char*> EnvironmentToPassOn() {
     return entries;
 }
 
+// Every signal has its default action and none is blocked, as programs expect it at their start.
+void ResetSignals(posix_spawnattr_t& attributes) {
+    sigset_t signals;
+    sigemptyset(&signals);
+    posix_spawnattr_setsigmask(&attributes, &signals);
+    sigfillset(&signals);
+    posix_spawnattr_setsigdefault(&attributes, &signals);
+}
+
 // Starts a program that outlives us: in a session of its own, in the home folder, without a hold on
-// a terminal or pipe of ours. A copy of this process, however short its life, would cost more than
-// the start itself.
-bool StartDetached(const QByteArray& program) {
+// a terminal, pipe or file of ours. A copy of this process, however short its life, would cost more
+// than the start itself.
+bool StartDetached(const std::string& program) {
     Start start;
-    posix_spawnattr_setflags(&start.attributes, POSIX_SPAWN_SETSID);
-    const QByteArray home = QFile::encodeName(QDir::homePath());
-    posix_spawn_file_actions_addchdir_np(&start.actions, home.constData());
+    ResetSignals(start.attributes);
+    posix_spawnattr_setflags(&start.attributes,
+                             POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+    const char* const home = std::getenv("HOME");
+    posix_spawn_file_actions_addchdir_np(&start.actions,
+                                         home != nullptr && *home != 0 ? home : "/");
     posix_spawn_file_actions_addopen(&start.actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&start.actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&start.actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    QByteArray name = program;
+    posix_spawn_file_actions_addclosefrom_np(&start.actions, STDERR_FILENO + 1);
+    std::string name = program;
     char* const arguments[] = {name.data(), nullptr};
     pid_t pid = 0;
-    return posix_spawn(&pid, program.constData(), &start.actions, &start.attributes, arguments,
+    return posix_spawn(&pid, program.c_str(), &start.actions, &start.attributes, arguments,
                        EnvironmentToPassOn().data()) == 0;
 }
 
@@ -73,10 +88,11 @@ bool StartDetached(const QByteArray& program) {
 
 namespace platform {
 
-bool OpenBundle(const QString& path) {
-    const QString program = path + QStringLiteral("/Contents/MacOS/") + ReadExecutableName(path);
-    const QFileInfo info(program);
-    return info.isFile() && info.isExecutable() && StartDetached(QFile::encodeName(program));
+bool OpenBundle(const std::string& path) {
+    const std::string program = path + "/Contents/MacOS/" + ExecutableName(path);
+    struct stat status;
+    return FindRegularFile(program.c_str(), status, path.c_str()) == Reading::Done &&
+           access(program.c_str(), X_OK) == 0 && StartDetached(program);
 }
 
 }  // namespace platform

@@ -5,17 +5,26 @@
 
 #include <ctime>
 #include <string>
+#include <vector>
 
 namespace platform {
 
+// What the system lets us know of a running process; the rest is empty or 0. Paths are bytes.
 struct ProcessInfo {
-    std::time_t started;     // seconds since the epoch, exact to a second or so
-    std::string executable;  // its path, UTF-8, links followed; empty for another user's
+    std::time_t started = 0;  // seconds since the epoch, one more or less
+
+    // The file that it runs, links followed. The system hides those of other users.
+    std::string executable;
+    bool executable_gone = false;  // removed or replaced since; then executable is where it was
+    dev_t device = 0;
+    ino_t inode = 0;
+
+    std::vector<std::string> arguments;  // the first three or more, its name among them
+    std::string folder;                  // its current one
 };
 
-// Describes a running process. Returns false when there is none of that id, or when the system
-// doesn't tell when it was started. Threads: any.
-bool DescribeProcess(pid_t pid, ProcessInfo& info);
+// Describes the process of that id. Nothing is known of one that doesn't exist. Threads: any.
+ProcessInfo DescribeProcess(pid_t pid);
 
 }  // namespace platform
 

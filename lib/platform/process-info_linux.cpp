@@ -1,11 +1,14 @@
 #include "lib/platform/process-info.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <climits>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+
+#include "lib/platform/regular-file.h"
 
 namespace {
 
@@ -39,29 +42,60 @@ long StartTicks(const std::string& folder) {
     return fields >> ticks ? ticks : -1;
 }
 
-std::string Executable(const std::string& folder) {
+std::time_t StartTime(const std::string& folder) {
+    const long boot = BootTime();
+    const long ticks = StartTicks(folder);
+    return boot > 0 && ticks >= 0 ? boot + ticks / sysconf(_SC_CLK_TCK) : 0;
+}
+
+std::string LinkTarget(const std::string& link) {
     char path[PATH_MAX];
-    const ssize_t size = readlink((folder + "/exe").c_str(), path, sizeof path);
-    std::string executable(path, size > 0 ? static_cast<std::size_t>(size) : 0);
-    const std::string replaced = " (deleted)";
-    if (executable.size() > replaced.size() &&
-        executable.compare(executable.size() - replaced.size(), replaced.size(), replaced) == 0) {
-        executable.resize(executable.size() - replaced.size());
+    const ssize_t size = readlink(link.c_str(), path, sizeof path);
+    return std::string(path, size > 0 ? static_cast<std::size_t>(size) : 0);
+}
+
+void DescribeExecutable(const std::string& link, platform::ProcessInfo& info) {
+    struct stat status;
+    if (stat(link.c_str(), &status) != 0) {
+        return;
     }
-    return executable;
+    info.device = status.st_dev;
+    info.inode = status.st_ino;
+    info.executable = LinkTarget(link);
+    const std::string mark = " (deleted)";
+    const std::size_t size = info.executable.size();
+    if (size > mark.size() && info.executable.compare(size - mark.size(), size, mark) == 0) {
+        info.executable.resize(size - mark.size());
+        info.executable_gone = true;
+    }
+}
+
+std::vector<std::string> Arguments(const std::string& file) {
+    platform::Descriptor opened(-1);
+    std::string text;
+    if (platform::OpenRegularFile(file.c_str(), opened) == platform::Reading::Done) {
+        platform::ReadUpTo(opened.get(), std::size_t{3} * PATH_MAX, text);
+    }
+    std::vector<std::string> arguments;
+    std::istringstream stream(text);
+    for (std::string argument; std::getline(stream, argument, '\0');) {
+        arguments.push_back(argument);
+    }
+    return arguments;
 }
 
 }  // namespace
 
 namespace platform {
 
-bool DescribeProcess(pid_t pid, ProcessInfo& info) {
-    const std::string folder = "/proc/" + std::to_string(pid);
-    const long boot = BootTime();
-    const long ticks = StartTicks(folder);
-    info.executable = Executable(folder);
-    info.started = boot + ticks / sysconf(_SC_CLK_TCK);
-    return boot > 0 && ticks >= 0;
+ProcessInfo DescribeProcess(pid_t pid) {
+    const std::string process = "/proc/" + std::to_string(pid);
+    ProcessInfo info;
+    info.started = StartTime(process);
+    DescribeExecutable(process + "/exe", info);
+    info.arguments = Arguments(process + "/cmdline");
+    info.folder = LinkTarget(process + "/cwd");
+    return info;
 }
 
 }  // namespace platform

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <thread>
 
 namespace fs = std::filesystem;
@@ -27,11 +28,6 @@ int WaitStatus(pid_t pid) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
 }
 
-void EndAfterTwoSeconds(int) {
-    sleep(2);
-    _exit(0);
-}
-
 std::vector<Entry> PackageEntries(const std::string& number) {
     return {{"Contents/"},
             {"Contents/Info.plist", kInfoPlist},
@@ -48,30 +44,32 @@ std::vector<Entry> PackageEntries(const std::string& number) {
 
 }  // namespace
 
-Client::Client(Behaviour behaviour) : pid_(fork()) {
-    if (pid_ == 0) {
-        signal(SIGTERM, behaviour == EndsAtOnce       ? SIG_DFL
-                        : behaviour == IgnoresSigterm ? SIG_IGN
-                                                      : EndAfterTwoSeconds);
-        for (;;) {
-            pause();
-        }
+Client::Client(std::vector<std::string> command) {
+    std::vector<char*> arguments;
+    for (std::string& argument : command) {
+        arguments.push_back(argument.data());
     }
-    waitInBackground();
-}
-
-Client::Client(const std::string& program) : pid_(fork()) {
+    arguments.push_back(nullptr);
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) {
+        throw std::runtime_error("can't make a pipe");
+    }
+    pid_ = fork();
     if (pid_ == 0) {
-        execl(program.c_str(), program.c_str(), "60", nullptr);
+        dup2(ends[1], STDOUT_FILENO);
+        execv(arguments[0], arguments.data());
         _exit(127);
     }
-    waitInBackground();
-}
-
-void Client::waitInBackground() {
+    close(ends[1]);
+    char byte = 0;
+    const bool ready = read(ends[0], &byte, 1) == 1;
+    close(ends[0]);
     std::packaged_task<int()> task([pid = pid_] { return WaitStatus(pid); });
     end_ = task.get_future().share();
     std::thread(std::move(task)).detach();
+    if (!ready) {
+        throw std::runtime_error("can't start " + command[0]);
+    }
 }
 
 Client::~Client() {
@@ -79,6 +77,11 @@ Client::~Client() {
         kill(pid_, SIGKILL);
         wait();
     }
+}
+
+void Client::copyTo(const std::string& path) {
+    MakeFolder(fs::path(path).parent_path());
+    fs::copy_file(CLIENT, path, fs::copy_options::overwrite_existing);
 }
 
 bool Client::running() const {
@@ -123,6 +126,10 @@ std::string Installation::package() const {
     return bundle("Contents/Resources/package/tarnwell.opk");
 }
 
+std::string Installation::client() const {
+    return app("Contents/MacOS/tarnwell-ui");
+}
+
 void Installation::setBuild(const std::string& number, const std::string& format) {
     MakeFile(bundle("Contents/Resources/INFO"),
              "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + number +
@@ -133,7 +140,7 @@ void Installation::setBuild(const std::string& number, const std::string& format
 
 void Installation::install(const std::string& number) {
     MakeFile(app("Contents/Resources/INFO"), "[Version]\nbuild_version=" + number + "\n");
-    MakeFile(app("Contents/MacOS/tarnwell-ui"), kClient, 0755);
+    Client::copyTo(client());
     MakeFile(app("Contents/Info.plist"), kInfoPlist);
     MakeFile(app("old"), "of build " + number);
 }

@@ -4,26 +4,30 @@
 #include <future>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "tests/support/scenario.h"
 
-// A process that stands for a running client. It is waited for in the background, so that it
-// vanishes when it ends, as it would on a user's machine.
+// A running client: a process that executes a command, of which the constructor awaits the first
+// line. It is waited for in the background, so that it vanishes when it ends, as it would on a
+// user's machine.
 class Client {
   public:
-    enum Behaviour { EndsAtOnce, EndsAfterTwoSeconds, IgnoresSigterm };
+    // What the stand-in for the client takes as its argument.
+    static constexpr char kEndsAtOnce[] = "ends at once";
+    static constexpr char kEndsAfterTwoSeconds[] = "ends after two seconds";
+    static constexpr char kIgnoresSigterm[] = "ignores SIGTERM";
 
-    explicit Client(Behaviour behaviour);
-    explicit Client(const std::string& program);  // which gets "60" as its argument
+    explicit Client(std::vector<std::string> command);
     ~Client();
+
+    static void copyTo(const std::string& path);  // the stand-in's executable
 
     pid_t pid() const { return pid_; }
     bool running() const;
     int wait();  // how it ended: its exit code, or 1000 plus the signal
 
   private:
-    void waitInBackground();
-
     pid_t pid_;
     std::shared_future<int> end_;
 };
@@ -39,6 +43,7 @@ class Installation {
     std::string app(const std::string& name = "") const;   // below the per-user application
     std::string bundle(const std::string& name) const;     // below the launcher's bundle
     std::string package() const;
+    std::string client() const;  // the installed one's executable
 
     // Gives the bundle this build number and a package of a client with it.
     void setBuild(const std::string& number, const std::string& format = "zip");

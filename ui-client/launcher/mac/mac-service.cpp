@@ -3,30 +3,34 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <QDir>
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <limits>
 
 #include "lib/config/config.h"
 #include "lib/install-layout.h"
-#include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/open-bundle.h"
 #include "lib/platform/process-info.h"
+#include "lib/platform/regular-file.h"
 #include "ui-client/launcher/app-replacement.h"
 #include "ui-client/launcher/client-file.h"
+#include "ui-client/launcher/running-client.h"
 
 #define LOG_SOURCE "mac/mac-service"
 
 namespace {
 
+using platform::Reading;
+
 const ustring log_component("service_debug");
 
 const int kTimeout = 10000;
-const int kProbes = 5;              // one a second, before SIGKILL
-const std::time_t kStartGrace = 5;  // seconds by which the clocks of files and processes may differ
+const int kProbes = 5;                // one a second, before SIGKILL
+const std::time_t kStartInexact = 1;  // seconds; see ProcessInfo::started
 
 int BuildNumber(const VerInfo& version) {
     return static_cast<int>(std::strtol(version.build_version.c_str(), nullptr, 10));
@@ -45,24 +49,34 @@ pid_t ClientPid(const std::map<ustring, ustring>& entries, const ustring& pid_fi
     return static_cast<pid_t>(pid);
 }
 
-// Whether the process can't be the one that wrote the pid file: it was started after that, and it
-// isn't the client. Its id was given to it when the client's was free again. In doubt it may be;
-// but one whose executable isn't told is another user's.
-bool IsAnother(pid_t pid, const ustring& pid_file, ustring client) {
-    platform::ProcessInfo process;
-    _FILE_INFO_tag file;
-    if (!platform::DescribeProcess(pid, process) || GetFileInfo(pid_file, file) != 0 ||
-        FSGetRealPath(client) != 0) {
+// Whether the process is the client of this application folder that wrote the pid file at that
+// time, and not one that was given the client's id after its end. What the process runs decides
+// where that can be read, and otherwise when it was started. In doubt it is the client: one that
+// can't be looked at is most often another user's, who can't be signalled.
+bool IsClient(pid_t pid, std::time_t written, const ustring& app) {
+    const platform::ProcessInfo process = platform::DescribeProcess(pid);
+    if (!process.executable.empty()) {
+        if (RunsClient(process, app.c_str())) {
+            return true;
+        }
+        LOG_MSG(DEBUG, "process %d is not terminated: it runs '%s', not the client\n", +pid,
+                process.executable.c_str());
         return false;
     }
-    return process.started > file.mtime + kStartGrace && process.executable != client.c_str();
+    if (process.started <= std::min(written, std::time(nullptr)) + kStartInexact) {
+        return true;
+    }
+    LOG_MSG(DEBUG, "process %d is not terminated: it was started after the pid file was written\n",
+            +pid);
+    return false;
 }
 
 bool IsGone(pid_t pid) {
     return kill(pid, 0) != 0 && errno == ESRCH;
 }
 
-void EndProcess(pid_t pid) {
+// Ends the client, whose id can be given to another process meanwhile.
+void EndClient(pid_t pid, std::time_t written, const ustring& app) {
     if (kill(pid, SIGTERM) != 0) {
         if (errno == ESRCH) {
             return;
@@ -77,7 +91,9 @@ void EndProcess(pid_t pid) {
             // a signal may end the sleep too early
         }
     }
-    static_cast<void>(kill(pid, SIGKILL));  // it may have ended meanwhile
+    if (IsClient(pid, written, app)) {
+        static_cast<void>(kill(pid, SIGKILL));  // it may have ended meanwhile
+    }
 }
 
 }  // namespace
@@ -124,20 +140,23 @@ int MacService::HandlePackageUpgrade() {
 }
 
 void MacService::StopService() {
-    const ustring pid_file = Service::GetUserTarnwellInstallPath() + "/ui.pid";
-    if (!IsFileExist(pid_file, false)) {
+    const ustring folder = Service::GetUserTarnwellInstallPath();
+    const ustring pid_file = folder + "/" + install_layout::kPidFile;
+    struct stat status;
+    const Reading found = platform::FindRegularFile(pid_file.c_str(), status, folder.c_str());
+    if (found == Reading::Missing) {
         LOG_MSG_AT(92, DEBUG, "pid file '%s' does not exist, no need to terminate\n",
                    pid_file.c_str());
         return;
     }
     Config config;
-    if (config.read(pid_file) < 0) {
+    if (found != Reading::Done || config.read(pid_file, folder.c_str()) < 0) {
         LOG_MSG_AT(97, NOTE, "Failed to read pid file '%s', not exist ?\n", pid_file.c_str());
         return;
     }
     const pid_t pid = ClientPid(config.entries, pid_file);
-    if (pid > 0 && !IsAnother(pid, pid_file, user_app_path + "/" + install_layout::kClient)) {
-        EndProcess(pid);
+    if (pid > 0 && IsClient(pid, status.st_mtime, user_app_path)) {
+        EndClient(pid, status.st_mtime, user_app_path);
     }
 }
 
@@ -154,8 +173,7 @@ bool MacService::PerUserBinPathExist() {
 }
 
 int MacService::LaunchPerUserBin() {
-    const QString path = QDir::homePath() + QStringLiteral("/.Tarnwell/Tarnwell.app");
-    return platform::OpenBundle(path) ? 0 : -1;
+    return platform::OpenBundle(Service::GetUserTarnwellAppInstallPath().c_str()) ? 0 : -1;
 }
 
 void MacService::LoadSourceVerInfo() {
