@@ -7,6 +7,9 @@ namespace install_layout {
 
 constexpr char kUserFolder[] = ".Tarnwell";  // in the home folder
 
+// Outside the home folder, for locks; see platform::PrivateFolder.
+constexpr char kPrivateFolder[] = "tarnwell-launcher";
+
 // In the user folder.
 constexpr char kApp[] = "Tarnwell.app";
 constexpr char kOldLayoutApp[] = "app";  // where earlier versions kept the application

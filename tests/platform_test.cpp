@@ -16,7 +16,9 @@
 #include "lib/platform/file-system-type.h"
 #include "lib/platform/instance-lock.h"
 #include "lib/platform/open-bundle.h"
+#include "lib/platform/private-folder.h"
 #include "lib/platform/process-info.h"
+#include "lib/platform/single-instance.h"
 #include "tests/support/installation.h"
 #include "tests/support/scenario.h"
 
@@ -271,6 +273,103 @@ TEST_F(InstanceLockTest, AnotherUsersLockedFileDoesNotBlock) {
         EXPECT_TRUE(heldForAnotherProcess());
     }
     close(fd);
+}
+
+class SingleInstanceTest : public testing::Test {
+  protected:
+    // Whether this executable runs already for another process of the user that this one is.
+    bool runsForAnotherProcess(const std::string& executable) const {
+        const pid_t pid = fork();
+        if (pid == 0) {
+            _exit(platform::SingleInstance(folder_, executable).runsElsewhere() ? 1 : 0);
+        }
+        int status = 0;
+        waitpid(pid, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status));
+        return WEXITSTATUS(status) != 0;
+    }
+
+    Folder parent_;
+    const std::string folder_ = parent_ / "user/folder";
+};
+
+TEST_F(SingleInstanceTest, EachCopyRunsOnceWhereverTheLockIs) {
+    const std::function<void()> cases[] = {
+        [] {},
+        [&] {  // where its lock would be there is a folder
+            const platform::SingleInstance instance(folder_, "/copy");
+            const std::string lock = fs::directory_iterator(folder_)->path();
+            fs::remove(lock);
+            MakeFile(lock + "/file");
+        },
+        [&] { fs::permissions(folder_, fs::perms{0555}); },
+        [&] {
+            fs::remove_all(folder_);
+            MakeFile(folder_);
+        }};
+    for (const auto& arrange : cases) {
+        arrange();
+        const AsNobody nobody;
+        {
+            const platform::SingleInstance instance(folder_, "/copy");
+            EXPECT_FALSE(instance.runsElsewhere());
+            EXPECT_TRUE(runsForAnotherProcess("/copy"));
+            EXPECT_FALSE(runsForAnotherProcess("/another copy"));
+        }
+        EXPECT_FALSE(runsForAnotherProcess("/copy"));
+    }
+}
+
+TEST_F(SingleInstanceTest, LocksThatAreHeldByNobodyAreRemoved) {
+    const std::string left = folder_ + "/.launcher-0123456789abcdef.lock";
+    const std::string held = folder_ + "/.launcher-fedcba9876543210.lock";
+    MakeFile(folder_ + "/other.lock");
+    MakeFile(left, "", 0600);
+    const platform::InstanceLock lock(held);
+    {
+        const platform::SingleInstance instance(folder_, "/copy");
+        EXPECT_FALSE(Exists(left));
+        EXPECT_TRUE(Exists(held));
+    }
+    EXPECT_EQ(Tree(folder_).size(), 2u);
+}
+
+// What somebody else may have put there before us.
+TEST(PrivateFolder, BelongsToNobodyElse) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make another user's folder";
+    }
+    const std::string name = "tarnwell-test-" + std::to_string(getpid());
+    const std::string first = "/tmp/" + name + "-65534";
+    const std::string second = first + ".1";
+    const std::function<void()> squatters[] = {
+        [&] { MakeFolder(first), fs::permissions(first, fs::perms::all); },
+        [&] { MakeFile(first); }, [&] { MakeLink("/tmp", first); }, [&] { MakeLink("x", first); }};
+    for (const auto& make : squatters) {
+        make();
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            const AsNobody nobody;
+            EXPECT_EQ(platform::PrivateFolder(name.c_str(), 1), "");
+            EXPECT_EQ(platform::PrivateFolder(name.c_str(), 2), second);
+            EXPECT_EQ(fs::status(second).permissions(), fs::perms::owner_all);
+            fs::permissions(second, fs::perms::all);
+        }
+        fs::remove(first);
+        fs::remove(second);
+    }
+    const std::string session = "/run/user/65534";
+    for (const int mode : {0700, 0770}) {
+        ASSERT_FALSE(Exists(session));
+        MakeFolder(session);
+        chmod(session.c_str(), static_cast<mode_t>(mode));
+        ASSERT_EQ(chown(session.c_str(), 65534, 65534), 0);
+        {
+            const AsNobody nobody;
+            EXPECT_EQ(platform::PrivateFolder(name.c_str(), 0),
+                      mode == 0700 ? session + "/" + name : "");
+        }
+        fs::remove_all(session);
+    }
 }
 
 TEST(ProcessInfo, NamesTheExecutableAlsoWhenItIsGone) {

@@ -8,9 +8,11 @@
 
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <regex>
 #include <set>
 
+#include "lib/platform/single-instance.h"
 #include "tests/support/installation.h"
 
 namespace fs = std::filesystem;
@@ -448,6 +450,116 @@ TEST_F(RunTest, AReadOnlyHomeStillStartsTheClient) {
     EXPECT_TRUE(Exists(installation_.app("old")));
 }
 
+TEST_F(RunTest, WhereTheHomeIsReadOnlyThereIsAGuardAllTheSame) {
+    installation_.install("99");
+    installation_.runAsNobody();
+    fs::permissions(installation_.user(), fs::perms{0555});
+    {
+        std::unique_ptr<platform::SingleInstance> another;
+        {
+            const AsNobody nobody;
+            another = std::make_unique<platform::SingleInstance>(
+                installation_.user(), installation_.bundle("Contents/MacOS/tarnwell-launcher"));
+        }
+        installation_.run();
+        EXPECT_FALSE(Exists(installation_.home() + "/started"));
+    }
+    installation_.run();
+    EXPECT_TRUE(installation_.clientStarted());
+    fs::permissions(installation_.user(), fs::perms{0755});
+}
+
+TEST_F(RunTest, WhatItWasStartedWithEndsNoRun) {
+    installation_.logEverything();
+    void (*const cases[])() = {
+        [] {  // nobody reads what it writes
+            int ends[2];
+            if (pipe(ends) == 0 && close(ends[0]) == 0) {
+                dup2(ends[1], STDOUT_FILENO);
+                dup2(ends[1], STDERR_FILENO);
+            }
+            signal(SIGPIPE, SIG_DFL);
+        },
+        [] {
+            for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+                close(fd);
+            }
+        }};
+    installation_.environment["QT_LOGGING_RULES"] = "*=true";  // Qt says much on standard error
+    for (const auto& before_exec : cases) {
+        startFrom("99");
+        EXPECT_EQ(Installation::wait(installation_.start(before_exec)), 0);
+        EXPECT_TRUE(installation_.clientStarted());
+        expectBuild("100");
+        const std::string log = ReadFile(installation_.user("log/launcher.log"));
+        EXPECT_EQ(LinesWith(log, "").size(), LinesWith(log, "): ").size()) << log;
+        EXPECT_EQ(LinesWith(log, "").size(), LinesWith(log, " [").size()) << log;
+    }
+}
+
+TEST_F(RunTest, WhatItReadsAndWritesMayBeATrap) {
+    const std::string outside = installation_.home() + "/outside";
+    const std::function<void(const std::string& path)> traps[] = {
+        [](const std::string& path) { mkfifo(path.c_str(), 0644); },
+        [](const std::string& path) { MakeLink("/dev/zero", path); },
+        [&](const std::string& path) { MakeLink(outside, path); }, MakeFolder};
+    const std::pair<std::string, std::string> cases[] = {
+        {installation_.user("ui.pid"), "[NOTE] mac/mac-service(97): Failed to read pid file"},
+        {installation_.user("log/launcher.log"), "is not a regular file, the log is not written"},
+        {installation_.bundle("log/launcher.debug"), ""}};
+    for (const auto& [path, message] : cases) {
+        for (const auto& make : traps) {
+            SCOPED_TRACE(path);
+            startFrom("99");
+            const Client client({installation_.client(), Client::kEndsAtOnce});
+            const std::string text = "pid=" + std::to_string(client.pid()) + "\n";
+            MakeFile(outside, text);
+            installation_.logEverything();
+            fs::remove(path);
+            MakeFolder(fs::path(path).parent_path());
+            make(path);
+            const Installation::Result result = installation_.run();
+            EXPECT_NE((result.log + result.err).find(message), std::string::npos) << result.err;
+            EXPECT_TRUE(installation_.clientStarted());
+            EXPECT_TRUE(client.running());
+            EXPECT_EQ(ReadFile(outside), text);
+            expectBuild("100");
+            fs::remove(path);
+        }
+    }
+}
+
+// Qt would decode the name to that of another folder.
+TEST_F(RunTest, AHomeThatIsNotNamedInUtf8IsLeftAlone) {
+    const std::string home = installation_.home() + "/\xFF";
+    installation_.install("99");
+    MakeFolder(home);
+    fs::rename(installation_.user(), home + "/.Tarnwell");
+    const FileTree before = Tree(installation_.home());
+    installation_.environment["HOME"] = home;
+    EXPECT_TRUE(HasOneLine(installation_.run().err, "is not named in UTF-8"));
+    EXPECT_TRUE(WaitFor([&] { return fs::remove(home + "/started"); }));
+    EXPECT_EQ(Tree(installation_.home()), before);
+    fs::remove_all(home + "/.Tarnwell");
+    EXPECT_TRUE(HasOneLine(installation_.run().err, "there is no client in '" + home));
+}
+
+// "e" and an accent in two characters: another name than its composed form.
+TEST_F(RunTest, ADecomposedHomeIsUsedAsItIs) {
+    const std::string home = installation_.home() + "/e\xCC\x81";
+    installation_.install("99");
+    MakeFolder(home);
+    fs::rename(installation_.user(), home + "/.Tarnwell");
+    installation_.environment["HOME"] = home;
+    const Client client(
+        {home + "/.Tarnwell/Tarnwell.app/Contents/MacOS/tarnwell-ui", Client::kEndsAtOnce});
+    MakeFile(home + "/.Tarnwell/ui.pid", "pid=" + std::to_string(client.pid()));
+    installation_.run();
+    EXPECT_FALSE(client.running());
+    EXPECT_TRUE(WaitFor([&] { return fs::remove(home + "/started"); }));
+    EXPECT_EQ(Tree(installation_.home()).count("\xC3\xA9"), 0u);
+}
+
 TEST_F(RunTest, EndsWellWithoutAUsableHome) {
     installation_.runAsNobody();
     installation_.environment.erase("HOME");
@@ -662,17 +774,6 @@ TEST_F(RunTest, ACopiedHomeKeepsTheOldApplication) {
         expectBuild("100");
         expectNoRests();
     }
-}
-
-TEST_F(RunTest, AHomeInDecomposedUnicodeIsFound) {
-    const std::string home = installation_.home() + "/e\xCC\x81te\xCC\x81";
-    MakeFolder(home);
-    installation_.environment["HOME"] = home;
-    installation_.logEverything();
-    installation_.run();
-    EXPECT_EQ(Tree(home + "/.Tarnwell/Tarnwell.app"), installation_.expectedApp("100"));
-    installation_.run();
-    EXPECT_TRUE(HasOneLine(ReadFile(home + "/.Tarnwell/log/launcher.log"), "no need to upgrade"));
 }
 
 // Folders that their owner can't write, list or enter: nothing may pile up for an ordinary user.

@@ -21,7 +21,7 @@ class InstanceLock {
     InstanceLock& operator=(const InstanceLock&) = delete;
 
     // True when another process held the lock. False when this one holds it, and also when no lock
-    // could be made (a read-only folder, another user's file): that must keep nobody from working.
+    // could be made (a read-only folder, another user's file, a folder in its place).
     bool heldElsewhere() const { return held_elsewhere_; }
 
     // True when this process holds the lock, or when the volume knows no locks.

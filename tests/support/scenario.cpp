@@ -72,7 +72,9 @@ void MakeDeepTree(const std::string& path, int depth) {
 
 std::string ReadFile(const std::string& path) {
     std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
+    if (fs::is_regular_file(path)) {
+        text << std::ifstream(path, std::ios::binary).rdbuf();
+    }
     return text.str();
 }
 

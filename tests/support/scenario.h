@@ -35,7 +35,7 @@ void MakeLink(const std::string& target, const std::string& path);
 // Makes a chain of folders named "d", longer than a path may be, with a file at its end.
 void MakeDeepTree(const std::string& path, int depth);
 
-std::string ReadFile(const std::string& path);  // empty when there is none
+std::string ReadFile(const std::string& path);  // empty when there is no regular one
 bool Exists(const std::string& path);           // a dangling link does
 
 // A folder's content by relative path: "folder", "file 0644: content" or "link: target". Content

@@ -1,4 +1,5 @@
 #include <langinfo.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -7,11 +8,15 @@
 #include <clocale>
 #include <cstdio>
 #include <cstring>
+#include <string>
 
+#include "lib/install-layout.h"
 #include "lib/liblogger/log.h"
 #include "lib/platform/QtSingleApplication.h"
 #include "lib/platform/executable-path.h"
+#include "lib/platform/open-bundle.h"
 #include "lib/platform/quit-on-signal.h"
+#include "lib/platform/standard-streams.h"
 #include "lib/platform/time-zone.h"
 #include "libcommon/OrvLocale.h"
 #include "ui-client/launcher/launcher.h"
@@ -79,22 +84,56 @@ class PlatformPluginPath {
     const bool needed_;
 };
 
+// Anything else in the log file's place could hold us up, or be somebody else's.
+bool MayOpenLog(const ustring& path) {
+    struct stat status;
+    return lstat(path.c_str(), &status) != 0 || S_ISREG(status.st_mode);
+}
+
+// Without a log file the messages go to standard error.
 void InitializeLog() {
     const ustring level_file = Service::GetRootTarnwellInstallPath() + "/log/launcher.debug";
-    const ustring folder = Service::GetUserTarnwellInstallPath() + "/log";
-    if (QDir().mkpath(QString::fromUtf8(folder.c_str()))) {
-        // Without a log file the messages go to standard error.
-        Logger::Initialize(Logger::TYPE_FILE, folder + "/launcher.log", level_file, kRotateCount);
+    const ustring folder = Service::GetUserTarnwellInstallPath() + "/" + install_layout::kLogFolder;
+    const ustring log_file = folder + "/launcher.log";
+    if (!QDir().mkpath(QString::fromUtf8(folder.c_str()))) {
+        return;
+    }
+    if (MayOpenLog(log_file)) {
+        Logger::Initialize(Logger::TYPE_FILE, log_file, level_file, kRotateCount);
+        return;
+    }
+    Logger::Initialize(Logger::TYPE_STDERR, "", level_file, kRotateCount);
+    LOG_MSG(WARNING, "'%s' is not a regular file, the log is not written to it\n",
+            log_file.c_str());
+}
+
+bool IsUtf8(const QByteArray& bytes) {
+    return QString::fromUtf8(bytes).toUtf8() == bytes;
+}
+
+// Qt would take another folder for a home that isn't named in UTF-8.
+void OnlyStartClient(const QByteArray& home) {
+    LOG_MSG(ERROR, "home folder '%s' is not named in UTF-8, the client is not upgraded\n",
+            home.constData());
+    const std::string user_folder = home.toStdString() + "/" + install_layout::kUserFolder;
+    if (!platform::OpenBundle(user_folder + "/" + install_layout::kApp)) {
+        LOG_MSG(ERROR, "there is no client in '%s'\n", user_folder.c_str());
     }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    platform::SecureStandardStreams();
     static_cast<void>(setlocale(LC_ALL, ""));
     platform::NameTimeZone();
     qInitResources_texts();
     UseUtf8InQt();
+    const QByteArray home = qgetenv("HOME");
+    if (!IsUtf8(home)) {
+        OnlyStartClient(home);
+        return 0;
+    }
     const PlatformPluginPath plugin_path(SetLibraryPath(argc > 0 ? argv[0] : ""));
     QtSingleApplication app(argc, argv, true);
     plugin_path.release();

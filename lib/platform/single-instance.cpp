@@ -1,0 +1,103 @@
+#include "lib/platform/single-instance.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <vector>
+
+#include "lib/install-layout.h"
+#include "lib/platform/handles.h"
+#include "lib/platform/private-folder.h"
+
+namespace platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const int kMaxWaits = 100;  // of a millisecond each
+const std::string kPrefix = ".launcher-";
+const std::string kSuffix = ".lock";
+
+std::string LockName(const std::string& executable) {
+    const QByteArray hash =
+        QCryptographicHash::hash(QByteArray::fromStdString(executable), QCryptographicHash::Sha1);
+    return kPrefix + hash.toHex().left(16).toStdString() + kSuffix;
+}
+
+bool IsLockName(const std::string& name) {
+    return name.size() > kPrefix.size() + kSuffix.size() &&
+           name.compare(0, kPrefix.size(), kPrefix) == 0 &&
+           name.compare(name.size() - kSuffix.size(), kSuffix.size(), kSuffix) == 0;
+}
+
+// To find out whether a left-over lock file is held is to hold it, and a copy that is started at
+// that moment must not take this for a running one. So whoever is about to take a lock shares the
+// gate, a lock on the folder itself, and whoever cleans up has it alone.
+class Gate {
+  public:
+    explicit Gate(const std::string& folder)
+        : folder_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        for (int i = 0; i < kMaxWaits && isBusy(LOCK_SH); ++i) {
+            usleep(1000);
+        }
+    }
+    bool closeForOthers() {
+        return folder_.get() >= 0 && flock(folder_.get(), LOCK_EX | LOCK_NB) == 0;
+    }
+
+  private:
+    bool isBusy(int lock) const {
+        return folder_.get() >= 0 && flock(folder_.get(), lock | LOCK_NB) != 0 &&
+               errno == EWOULDBLOCK;
+    }
+
+    const Descriptor folder_;
+};
+
+void RemoveLeftLocks(const fs::path& folder, const std::string& own_name) {
+    std::vector<fs::path> left;
+    std::error_code error;  // what can't be listed is looked at by the next start
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename();
+        if (IsLockName(name) && name != own_name) {
+            left.push_back(entry->path());
+        }
+    }
+    for (const fs::path& path : left) {
+        const InstanceLock lock(path);  // removes the file in the end, if nobody holds it
+    }
+}
+
+std::unique_ptr<InstanceLock> LockIn(const std::string& folder, const std::string& name) {
+    Gate gate(folder);
+    auto lock = std::make_unique<InstanceLock>(folder + "/" + name);
+    if (lock->held() && gate.closeForOthers()) {
+        RemoveLeftLocks(folder, name);
+    }
+    return lock;
+}
+
+}  // namespace
+
+SingleInstance::SingleInstance(const std::string& folder, const std::string& executable) {
+    const std::string name = LockName(executable);
+    std::error_code ignored;  // without the folder no lock can be made in it
+    fs::create_directories(folder, ignored);
+    lock_ = LockIn(folder, name);
+    for (int n = 0; n < kPrivateFolders && !lock_->held() && !lock_->heldElsewhere(); ++n) {
+        const std::string other = PrivateFolder(install_layout::kPrivateFolder, n);
+        if (!other.empty()) {
+            lock_ = LockIn(other, name);
+        }
+    }
+}
+
+}  // namespace platform

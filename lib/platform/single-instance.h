@@ -1,0 +1,33 @@
+#ifndef LIB_PLATFORM_SINGLE_INSTANCE_H
+#define LIB_PLATFORM_SINGLE_INSTANCE_H
+
+#include <memory>
+#include <string>
+
+#include "lib/platform/instance-lock.h"
+
+namespace platform {
+
+// Keeps a program from running more than once for each user and installed copy. The guard is a lock
+// file in a folder of the user's, or, where none can be made there, in a folder outside that nobody
+// else can write to (see PrivateFolder). The first to hold it also removes lock files that other
+// copies have left behind in that folder.
+//
+// Threads: an object belongs to one thread.
+class SingleInstance {
+  public:
+    // folder is made if needed, with those above it. executable is the path of this copy. Both are
+    // bytes.
+    SingleInstance(const std::string& folder, const std::string& executable);
+
+    // Whether another process of this user runs the same copy. False as well when no lock could be
+    // made anywhere: that must keep nobody from working.
+    bool runsElsewhere() const { return lock_->heldElsewhere(); }
+
+  private:
+    std::unique_ptr<InstanceLock> lock_;
+};
+
+}  // namespace platform
+
+#endif
