@@ -410,19 +410,6 @@ TEST_F(RunTest, TakesEveryFormat) {
     }
 }
 
-TEST_F(RunTest, UnpacksWithoutTheFasterDecompression) {
-    const Folder libraries;
-    MakeFile(libraries / "libisal.so.2", "no library");
-    installation_.environment["LD_LIBRARY_PATH"] = libraries.path();
-    for (const char* const format : {"zip", "tar.gz"}) {
-        SCOPED_TRACE(format);
-        fs::remove_all(installation_.user());
-        installation_.setBuild("100", format);
-        installation_.run();
-        expectBuild("100");
-    }
-}
-
 TEST_F(RunTest, AFileInThePlaceOfTheApplicationFolderIsMovedAside) {
     MakeFile(installation_.app(), "not a folder");
     installation_.run();
