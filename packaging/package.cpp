@@ -1,7 +1,5 @@
 #include "packaging/package.h"
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -10,7 +8,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -19,6 +16,7 @@
 #include "lib/platform/durability.h"
 #include "lib/platform/handles.h"
 #include "packaging/app-tree.h"
+#include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/notify-adapter.h"
 
@@ -85,13 +83,6 @@ class TemporaryFolder {
 
 // == Writing
 
-struct ArchiveFreer {
-    void operator()(archive* object) const { archive_free(object); }
-};
-struct EntryFreer {
-    void operator()(archive_entry* entry) const { archive_entry_free(entry); }
-};
-
 class ZipWriter {
   public:
     ZipWriter(std::string out, int fd, const Progress& progress, std::int64_t total)
@@ -107,7 +98,7 @@ class ZipWriter {
     }
 
     void add(const std::string& app, const std::string& name, const AppTree::Node& node) {
-        const std::unique_ptr<archive_entry, EntryFreer> entry(archive_entry_new());
+        const EntryHandle entry(archive_entry_new());
         archive_entry_set_pathname(entry.get(), name.c_str());
         archive_entry_set_filetype(entry.get(), node.mode & AE_IFMT);
         // Those of a link differ between systems and mean nothing.
@@ -188,7 +179,7 @@ class ZipWriter {
     const Progress& progress_;
     std::int64_t done_ = 0;
     const std::int64_t total_;
-    const std::unique_ptr<archive, ArchiveFreer> zip_;  // writes as long as it exists
+    const ArchiveHandle zip_;  // writes as long as it exists
 };
 
 // Where the package will be: its folder with links followed. It must not lie in the application.
@@ -247,7 +238,7 @@ void Extract(const std::string& file, const std::string& folder, const std::stri
 }
 
 std::string LastEntry(const std::string& file) {
-    const std::unique_ptr<archive, ArchiveFreer> reader(archive_read_new());
+    const ArchiveHandle reader(archive_read_new());
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
     archive_entry* entry = nullptr;
