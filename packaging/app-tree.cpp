@@ -12,6 +12,7 @@
 #include <limits>
 #include <set>
 
+#include "lib/liblogger/printable.h"
 #include "lib/platform/open-bundle.h"
 #include "lib/install-layout.h"
 
@@ -34,23 +35,6 @@ QString ToQt(const std::string& text) {
 
 bool IsUtf8(const std::string& text) {
     return ToQt(text).toUtf8().toStdString() == text;
-}
-
-// The text on one line, every byte of it to be seen.
-std::string Printable(const std::string& text) {
-    const bool utf8 = IsUtf8(text);
-    std::string printable;
-    for (const char byte : text) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (code < 32 || code == 127 || (code > 127 && !utf8)) {
-            char escaped[5];
-            static_cast<void>(std::snprintf(escaped, sizeof escaped, "\\x%02X", +code));
-            printable += escaped;
-        } else {
-            printable += byte;
-        }
-    }
-    return printable;
 }
 
 std::string FolderOf(const std::string& name) {

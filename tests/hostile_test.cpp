@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <random>
 #include <sstream>
 
@@ -99,7 +101,13 @@ class HostileTest : public testing::Test {
         extractor.archive_path = (folder_ / "package").c_str();
         const FileTree before = sentinel();
         int result = 0;
-        log_ = CaptureStderr([&] { result = extractor.Extract(); });
+        log_ = CaptureStderr([&] {
+            std::optional<AsNobody> nobody;
+            if (nobody_) {
+                nobody.emplace();
+            }
+            result = extractor.Extract();
+        });
         EXPECT_EQ(sentinel(), before) << log_;
         EXPECT_EQ(result == -1, !LinesWith(log_, "[ERROR] extractor(").empty()) << log_;
         return result;
@@ -133,6 +141,7 @@ class HostileTest : public testing::Test {
     Folder folder_;
     const std::string dest_ = folder_ / "dest";
     std::string log_;
+    bool nobody_ = false;  // unpacks as a user who isn't root
 };
 
 const std::string kEnd(1024, '\0');  // of every whole tar
@@ -312,6 +321,50 @@ TEST_P(CutTest, FailsOrIsWhole) {
     }
 }
 INSTANTIATE_TEST_SUITE_P(Formats, CutTest, testing::Values("tar", "tar.gz", "zip"));
+
+TEST_F(HostileTest, NamesDoNotForgeLines) {
+    const std::string name = "a\n[ERROR] extractor(1): forged\r\x1B[2J\x7F\xC3\xA9";
+    const std::string shown = "a\\x0A[ERROR] extractor(1): forged\\x0D\\x1B[2J\\x7F\xC3\xA9'";
+    for (const std::string& entry : {Node(name, kPipe), Hard("b", name)}) {
+        EXPECT_EQ(extract(entry + kEnd), -1);
+        EXPECT_EQ(LinesWith(log_, "").size(), 1u) << log_;
+        EXPECT_TRUE(HasOneLine(log_, shown)) << log_;
+    }
+    EXPECT_EQ(extract(Node("\xFF", kPipe) + kEnd), -1);
+    EXPECT_TRUE(HasOneLine(log_, "'\\xFF'")) << log_;
+}
+
+// The permissions of folders wait until all entries are in.
+TEST_F(HostileTest, AnOrdinaryUserGetsWhatIsInClosedFolders) {
+    ASSERT_TRUE(getuid() != 0 || chown(dest_.c_str(), 65534, 65534) == 0);
+    nobody_ = true;
+    EXPECT_EQ(extract(Dir("a", 0555) + Dir("a/b", 0) + Dir("a/b/c", 0311) + File("a/b/c/d/file") +
+                      File("a/x", "text", 0400) + Hard("a/b/hard", "a/x") + Link("a/b/l", "hard") +
+                      File("a/x2") + File("a/x2", "again") + Dir("last", 0) + kEnd),
+              0)
+        << log_;
+    std::map<std::string, unsigned> modes;
+    for (const char* const folder : {"a", "a/b", "a/b/c", "a/b/c/d", "last"}) {
+        struct stat status = {};
+        lstat((dest_ + "/" + folder).c_str(), &status);
+        modes[folder] = status.st_mode;
+    }
+    EXPECT_EQ(modes, (std::map<std::string, unsigned>{{"a", 040555},
+                                                      {"a/b", 040000},
+                                                      {"a/b/c", 040311},
+                                                      {"a/b/c/d", 040755},
+                                                      {"last", 040000}}));
+    EXPECT_EQ(Tree(dest_), (FileTree{{"a", "folder"},
+                                     {"a/b", "folder"},
+                                     {"a/b/c", "folder"},
+                                     {"a/b/c/d", "folder"},
+                                     {"a/b/c/d/file", kEvil},
+                                     {"a/b/hard", "file 0400: text"},
+                                     {"a/b/l", "link: hard"},
+                                     {"a/x", "file 0400: text"},
+                                     {"a/x2", "file 0755: again"},
+                                     {"last", "folder"}}));
+}
 
 TEST_F(HostileTest, ABombFillsASmallDiskOnly) {
     const SmallDisk disk(dest_, "1m");

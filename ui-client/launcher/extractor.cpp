@@ -3,9 +3,11 @@
 #include <archive_entry.h>
 
 #include <cstdio>
+#include <string>
 #include <utility>
 
 #include "lib/liblogger/log.h"
+#include "lib/liblogger/printable.h"
 #include "lib/platform/durability.h"
 #include "ui-client/launcher/archive-handles.h"
 #include "ui-client/launcher/entry-guard.h"
@@ -31,13 +33,16 @@ int Open(archive* reader, const ustring& path) {
     return archive_read_open_filename(reader, path.c_str_utf8(), kBlockSize);
 }
 
-// The message of the object that failed; for a failed extraction it can be either's.
-const char* ErrorText(archive* failed, archive* other = nullptr) {
-    const char* text = archive_error_string(failed);
-    if (text == nullptr && other != nullptr) {
-        text = archive_error_string(other);
+// The message of the object that failed; for a failed extraction it can be either's. It may quote
+// a name.
+std::string ErrorText(archive* failed, archive* other = nullptr) {
+    for (archive* const object : {failed, other}) {
+        const char* const text = object != nullptr ? archive_error_string(object) : nullptr;
+        if (text != nullptr) {
+            return Printable(text);
+        }
     }
-    return text != nullptr ? text : "";
+    return "";
 }
 
 // Opens the archive for reading its entries' headers; null after a failure, which is logged.
@@ -52,7 +57,8 @@ ArchiveHandle OpenForListing(const Extractor& extractor) {
         return nullptr;
     }
     if (Open(reader.get(), extractor.archive_path) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
+        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n",
+                ErrorText(reader.get()).c_str());
         return nullptr;
     }
     return reader;
@@ -65,16 +71,17 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGu
         return -1;
     }
     if (const char* const reason = guard.admit(entry)) {
-        LOG_MSG(ERROR, "refused entry '%s': %s\n", archive_entry_pathname(entry), reason);
+        LOG_MSG(ERROR, "refused entry '%s': %s\n", Printable(archive_entry_pathname(entry)).c_str(),
+                reason);
         return -1;
     }
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader));
+        LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader).c_str());
         return -1;
     }
     Notify_Adapter::GetInstance()->UpdateProgress(total, number);
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
+        LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer).c_str());
         return -1;
     }
     if (archive_entry_size(entry) >= kLargeFile && archive_entry_filetype(entry) == AE_IFREG) {
@@ -124,7 +131,8 @@ int ExtractEntries(const Extractor& extractor, ArchiveHandle reader, archive* wr
             return -1;
         }
         if (result != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", ErrorText(reader.get()));
+            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n",
+                    ErrorText(reader.get()).c_str());
             return -1;
         }
         if (ExtractEntry(reader.get(), entry, writer, guard, total, number) != 0) {
@@ -157,7 +165,7 @@ int Extractor::Extract() {
     archive_write_disk_set_options(writer.get(), kWriteOptions);
     if (Open(reader.get(), archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "Failed to read file '%s' ('%s')\n", archive_path.c_str(),
-                ErrorText(reader.get()));
+                ErrorText(reader.get()).c_str());
         return -1;
     }
     if (ExtractEntries(*this, std::move(reader), writer.get(), total) != 0) {
@@ -165,7 +173,7 @@ int Extractor::Extract() {
     }
     // Closing applies what was put off until now: the permissions of folders.
     if (archive_write_close(writer.get()) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_write_close failed: '%s'\n", ErrorText(writer.get()));
+        LOG_MSG(ERROR, "archive_write_close failed: '%s'\n", ErrorText(writer.get()).c_str());
         return -1;
     }
     return 0;
@@ -214,11 +222,11 @@ int Extractor::copy_data(archive* in, archive* out) {
             return 0;
         }
         if (read != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_read_data_block failed: '%s'\n", ErrorText(in));
+            LOG_MSG(ERROR, "archive_read_data_block failed: '%s'\n", ErrorText(in).c_str());
             return -1;
         }
         if (archive_write_data_block(out, buffer, size, offset) != ARCHIVE_OK) {
-            LOG_MSG(ERROR, "archive_write_data_block failed: '%s'\n", ErrorText(out));
+            LOG_MSG(ERROR, "archive_write_data_block failed: '%s'\n", ErrorText(out).c_str());
             return -1;
         }
     }
