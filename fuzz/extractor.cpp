@@ -2,7 +2,6 @@
 
 #include "ui-client/launcher/extractor.h"
 
-#include <archive_entry.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -19,6 +18,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "ui-client/launcher/notify-adapter.h"
+#include "ui-client/launcher/package-reader.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 namespace {
@@ -76,24 +76,20 @@ void LimitFileSize(rlim_t limit) {
 
 // Copies the data of every entry into one and the same file.
 void CopyAllData(Extractor& extractor) {
-    archive* const in = archive_read_new();
-    archive_read_support_filter_all(in);
-    archive_read_support_format_all(in);
+    PackageReader package;
     archive_entry* entry = nullptr;
-    if (archive_read_open_filename(in, extractor.archive_path.c_str(), 10240) == ARCHIVE_OK) {
-        while (archive_read_next_header(in, &entry) == ARCHIVE_OK) {
-            archive_entry* const copy = archive_entry_new();
-            archive_entry_set_pathname(copy, (World() / "dest/copy").c_str());
-            archive_entry_set_mode(copy, AE_IFREG | 0600);
-            archive* const out = archive_write_disk_new();
-            REQUIRE(archive_write_header(out, copy) == ARCHIVE_OK);
-            const int result = extractor.copy_data(in, out);
-            REQUIRE(result == 0 || result == -1);
-            archive_write_free(out);
-            archive_entry_free(copy);
-        }
+    if (package.open(extractor.archive_path.c_str()) != ARCHIVE_OK) {
+        return;
     }
-    archive_read_free(in);
+    while (package.next(entry) == ARCHIVE_OK) {
+        const EntryHandle copy(archive_entry_new());
+        archive_entry_set_pathname(copy.get(), (World() / "dest/copy").c_str());
+        archive_entry_set_mode(copy.get(), AE_IFREG | 0600);
+        const ArchiveHandle out(archive_write_disk_new());
+        REQUIRE(archive_write_header(out.get(), copy.get()) == ARCHIVE_OK);
+        const int result = extractor.copy_data(package.get(), out.get());
+        REQUIRE(result == 0 || result == -1);
+    }
 }
 
 // Puts the checksum of a tar header right, without which libarchive takes it for none.

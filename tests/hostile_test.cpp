@@ -322,6 +322,23 @@ TEST_P(CutTest, FailsOrIsWhole) {
 }
 INSTANTIATE_TEST_SUITE_P(Formats, CutTest, testing::Values("tar", "tar.gz", "zip"));
 
+// libarchive would leave these compressions to programs.
+TEST_F(HostileTest, NoProgramIsEverRun) {
+    const std::string path = getenv("PATH");
+    for (const char* const name : {"lrzip", "lzop", "grzip"}) {
+        MakeFile(folder_ / "bin/" + name, "#!/bin/sh\n: >'" + (folder_ / "mark") + "'\n", 0755);
+    }
+    setenv("PATH", (folder_ / "bin:" + path).c_str(), 1);
+    const std::string magics[] = {
+        std::string("LRZI\0\6", 6), {"\x89LZO\0\r\n\x1A\n", 9}, {"GRZipII\0\2\4:)", 12}};
+    for (const std::string& magic : magics) {
+        EXPECT_EQ(extract(magic + std::string(1000, 'x')), -1);
+        EXPECT_TRUE(HasOneLine(log_, "'Unrecognized archive format'")) << log_;
+        EXPECT_FALSE(Exists(folder_ / "mark")) << magic;
+    }
+    setenv("PATH", path.c_str(), 1);
+}
+
 TEST_F(HostileTest, NamesDoNotForgeLines) {
     const std::string name = "a\n[ERROR] extractor(1): forged\r\x1B[2J\x7F\xC3\xA9";
     const std::string shown = "a\\x0A[ERROR] extractor(1): forged\\x0D\\x1B[2J\\x7F\xC3\xA9'";

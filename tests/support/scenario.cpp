@@ -181,10 +181,12 @@ void MakeArchive(const std::string& path, const std::string& format,
     setlocale(LC_CTYPE, "C.UTF-8");  // names are UTF-8
     archive* const out = archive_write_new();
     const std::map<std::string, std::pair<const char*, const char*>> formats = {
-        {"zip", {"zip", nullptr}},      {"7z", {"7zip", nullptr}},
-        {"cpio", {"newc", nullptr}},    {"tar", {"gnutar", nullptr}},
-        {"tar.gz", {"gnutar", "gzip"}}, {"tar.xz", {"gnutar", "xz"}},
-        {"tar.zst", {"gnutar", "zstd"}}};
+        {"zip", {"zip", nullptr}},       {"7z", {"7zip", nullptr}},
+        {"cpio", {"newc", nullptr}},     {"tar", {"gnutar", nullptr}},
+        {"tar.gz", {"gnutar", "gzip"}},  {"tar.xz", {"gnutar", "xz"}},
+        {"tar.zst", {"gnutar", "zstd"}}, {"tar.bz2", {"gnutar", "bzip2"}},
+        {"tar.lz4", {"gnutar", "lz4"}},  {"tar.lz", {"gnutar", "lzip"}},
+        {"xar", {"xar", nullptr}}};
     const auto& [container, filter] = formats.at(format);
     Check(archive_write_set_format_by_name(out, container) == ARCHIVE_OK &&
               (filter == nullptr || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&

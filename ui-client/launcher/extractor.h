@@ -5,17 +5,19 @@
 
 #include "ustring/ustring.h"
 
-// Unpacks a package archive, in any format and compression that libarchive knows, into a folder.
-// Set both members, then call one operation; nothing is kept between calls. Paths are UTF-8.
+// Unpacks a package archive, in any format and compression that libarchive decodes itself, into a
+// folder. Set both members, then call one operation; nothing is kept between calls. Paths are
+// UTF-8.
 //
 // All return -1 on failure, after logging it. Threads: one object belongs to one thread; the
 // process-wide progress notifier is called from the thread that calls Extract.
 class Extractor {
   public:
     // Writes every entry below dest_dir, whatever folder its name begins with, and reports the
-    // progress after each. What stands in the way of an entry is unlinked first. 0 when every entry
-    // was written; an archive without entries is a failure, and so are a warning of libarchive and
-    // a tar or zip whose end is missing. A failure leaves the entries before it.
+    // progress after each. What is in the way of an entry is unlinked first. 0 when every entry was
+    // written; an archive without entries is a failure, and so are a warning of libarchive, a tar
+    // or zip whose end is missing, and content that a checksum in the archive doesn't fit. A
+    // failure leaves the entries before it.
     //
     // The archive is not trusted: nothing outside dest_dir is created, changed or read. Symbolic
     // links are unpacked as they are, but an entry that leads through one fails, and so does a

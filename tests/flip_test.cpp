@@ -1,0 +1,135 @@
+// Packages with one flipped bit: what is installed has the packed bytes, or nothing is installed.
+
+#include <zstd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <random>
+
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/translations/str-table.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// How many packages are tried of each format; a thorough run has 1,000.
+int Runs() {
+    const char* const runs = std::getenv("FLIPPED_BITS");
+    return runs != nullptr ? std::atoi(runs) : 40;
+}
+
+std::string Noise(std::size_t size) {
+    std::string noise(size, 0);
+    std::generate(noise.begin(), noise.end(), std::minstd_rand());
+    return noise;
+}
+
+std::vector<Entry> Application(bool small, bool client_last) {
+    const Entry client = {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\nexit 0\n", 0755};
+    std::vector<Entry> entries = {{"Contents/Info.plist", "<plist/>"},
+                                  {"Contents/Resources/INFO", "[Version]\nbuild_version=100\n"}};
+    if (!small) {
+        entries.insert(entries.begin(), {{"Contents/"}, {"Contents/MacOS/", "", 0755}});
+        entries.push_back({"Contents/Resources/noise", Noise(50000), 0640});
+        entries.push_back({"Contents/Resources/text", std::string(100000, 't')});
+        entries.push_back({"Contents/Resources/empty"});
+        entries.push_back({"Contents/Resources/link", "", 0777, "text"});
+    }
+    entries.insert(client_last ? entries.end() : entries.begin(), client);
+    return entries;
+}
+
+std::string WithChecksum(const std::string& tar) {
+    std::string packed(ZSTD_compressBound(tar.size()), 0);
+    ZSTD_CCtx* const context = ZSTD_createCCtx();
+    ZSTD_CCtx_setParameter(context, ZSTD_c_checksumFlag, 1);
+    packed.resize(ZSTD_compress2(context, packed.data(), packed.size(), tar.data(), tar.size()));
+    ZSTD_freeCCtx(context);
+    return packed;
+}
+
+class FlipTest : public testing::TestWithParam<const char*> {
+  protected:
+    FlipTest() { StrTable::InitStrTable(); }
+
+    std::string pack(const std::vector<Entry>& entries) const {
+        const bool zstd = format_ == "tar.zst";
+        MakeArchive(folder_ / "package", zstd ? "tar" : format_, entries);
+        if (zstd) {
+            MakeFile(folder_ / "package", WithChecksum(ReadFile(folder_ / "package")));
+        }
+        return ReadFile(folder_ / "package");
+    }
+
+    // What is installed of the package; false when that failed.
+    bool extract(const std::string& bytes, FileTree& tree) const {
+        fs::remove_all(folder_ / "dest");
+        MakeFolder(folder_ / "dest");
+        MakeFile(folder_ / "package", bytes);
+        Extractor extractor;
+        extractor.dest_dir = (folder_ / "dest").c_str();
+        extractor.archive_path = (folder_ / "package").c_str();
+        int result = 0;
+        CaptureStderr([&] { result = extractor.Extract(); });
+        if (result == 0) {
+            tree = Tree(folder_ / "dest");
+        }
+        return result == 0;
+    }
+
+    const std::string format_ = GetParam();
+    const Folder folder_;
+};
+
+std::string ContentOf(const std::string& description) {
+    return description.substr(std::min(description.find(": "), description.size()));
+}
+
+TEST_P(FlipTest, NeverInstallsOtherBytes) {
+    std::vector<std::pair<std::string, FileTree>> packages;
+    for (const auto& [small, last] :
+         {std::pair(true, true), {true, false}, {false, true}, {false, false}}) {
+        packages.push_back({pack(Application(small, last)), {}});
+        ASSERT_TRUE(extract(packages.back().first, packages.back().second));
+    }
+    std::minstd_rand random(1);
+    int installed = 0;
+    int renamed = 0;
+    for (int run = 0; run < Runs(); ++run) {
+        auto [bytes, expected] = packages[static_cast<std::size_t>(run) % packages.size()];
+        const std::size_t bit = random() % (bytes.size() * 8);
+        bytes[bit / 8] = static_cast<char>(bytes[bit / 8] ^ 1 << bit % 8);
+        FileTree tree;
+        if (!extract(bytes, tree)) {
+            continue;
+        }
+        ++installed;
+        renamed += tree != expected ? 1 : 0;
+        for (const auto& [name, description] : expected) {
+            const auto found = tree.find(name);
+            EXPECT_TRUE(found == tree.end() || found->second[0] != description[0] ||
+                        ContentOf(found->second) == ContentOf(description))
+                << name << " differs after bit " << bit << " of " << bytes.size() << " bytes";
+        }
+        // A zip has its names and modes without a checksum.
+        EXPECT_TRUE(format_ == "zip" || tree == expected) << "bit " << bit;
+    }
+    std::cout << "of " << Runs() << " packages " << installed << " were installed, " << renamed
+              << " with other names or modes\n";
+}
+
+std::string NameOf(const testing::TestParamInfo<const char*>& info) {
+    std::string name = info.param;
+    std::replace(name.begin(), name.end(), '.', '_');
+    return name;
+}
+INSTANTIATE_TEST_SUITE_P(Formats, FlipTest,
+                         testing::Values("zip", "7z", "tar.gz", "tar.bz2", "tar.xz", "tar.zst",
+                                         "tar.lz4", "tar.lz", "xar"),
+                         NameOf);
+
+}  // namespace

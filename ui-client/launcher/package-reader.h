@@ -1,0 +1,73 @@
+#ifndef UI_CLIENT_LAUNCHER_PACKAGE_READER_H
+#define UI_CLIENT_LAUNCHER_PACKAGE_READER_H
+
+#include <zlib.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ui-client/launcher/archive-handles.h"
+
+// Reads the entries of a package in any format and compression that libarchive decodes itself; no
+// other program is run for one that it doesn't. The checksums that the package carries over its
+// content are verified: those of single entries (zip, 7z) when the entry's data is read to its end,
+// that of a compressed stream at the latest by finish().
+//
+// The operations return libarchive's results; after a failure, get() knows the reason. Threads: one
+// object belongs to one thread.
+class PackageReader {
+  public:
+    PackageReader();
+    ~PackageReader() = default;
+    PackageReader(const PackageReader&) = delete;
+    PackageReader& operator=(const PackageReader&) = delete;
+
+    // false when there is no memory; then nothing else may be called.
+    bool allocated() const { return entries_ != nullptr; }
+
+    // Opens the file at path (UTF-8). To be called once, before everything below.
+    int open(const char* path);
+
+    // The reader of the current entry's data; owned by this object. null when memory ran out, and
+    // at the end of a zip.
+    archive* get() const { return entries_.get(); }
+
+    // Goes to the next entry, which is owned by this object and valid until the next call.
+    // ARCHIVE_EOF after the last one.
+    int next(archive_entry*& entry);
+
+    // Whether what marks the end of a tar or zip is there: a file that was cut off between two
+    // entries has none. To be called once, after ARCHIVE_EOF; no entry can be read afterwards.
+    bool endIsThere();
+
+    // Reads what follows the entries in a compressed stream, the checksum at its end included. To
+    // be called after ARCHIVE_EOF.
+    int finish();
+
+    // How the file as a whole is compressed: one of libarchive's ARCHIVE_FILTER_ codes. Of several
+    // compressions, the one that was applied last.
+    int compression() const { return compression_; }
+
+  private:
+    struct GzipCloser {
+        void operator()(gzFile file) const { gzclose_r(file); }
+    };
+
+    int openCompressed();
+    static la_ssize_t readFile(archive* stream, void* self, const void** block);
+    static la_ssize_t readStream(archive* entries, void* self, const void** block);
+
+    std::string path_;
+    int compression_ = ARCHIVE_FILTER_NONE;
+    la_int64_t position_ = 0;  // in the archive, where the last entry ended
+
+    // Of a compressed file; each reads from the one before.
+    std::unique_ptr<gzFile_s, GzipCloser> file_;  // its bytes, decompressed if they are gzip's
+    std::vector<unsigned char> block_;            // those that were read last
+    ArchiveHandle stream_;                        // decompresses whatever else they are
+
+    ArchiveHandle entries_;  // reads from the stream, or from a file that isn't compressed
+};
+
+#endif
