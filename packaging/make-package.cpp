@@ -14,6 +14,7 @@
 #include <ctime>
 #include <exception>
 
+#include "lib/liblogger/printable.h"
 #include "packaging/package.h"
 #include "ui-client/launcher/translations/str-table.h"
 
@@ -72,6 +73,12 @@ int Run(const char* first, const char* second) {
             return interrupted == 0;
         };
         summary = check ? CheckPackage(second, progress) : MakePackage(first, second, progress);
+    }
+    if (!summary.has_checksum) {
+        static_cast<void>(std::fprintf(stderr,
+                                       "make-package: %s: has no checksum over its content, so "
+                                       "damage can go unnoticed; make it with make-package\n",
+                                       Printable(second).c_str()));
     }
     std::printf("%s: %sbuild %d, %zu entries\n", second, check ? "the launcher takes it: " : "",
                 summary.build_number, summary.entries);

@@ -17,8 +17,10 @@
 #include "lib/platform/handles.h"
 #include "packaging/app-tree.h"
 #include "ui-client/launcher/archive-handles.h"
+#include "ui-client/launcher/content-checksum.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/notify-adapter.h"
+#include "ui-client/launcher/package-reader.h"
 
 namespace fs = std::filesystem;
 
@@ -238,13 +240,11 @@ void Extract(const std::string& file, const std::string& folder, const std::stri
 }
 
 std::string LastEntry(const std::string& file) {
-    const ArchiveHandle reader(archive_read_new());
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
+    PackageReader package;
     archive_entry* entry = nullptr;
     fs::path last;
-    if (archive_read_open_filename(reader.get(), file.c_str(), kBlockSize) == ARCHIVE_OK) {
-        while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    if (package.allocated() && package.open(file.c_str()) == ARCHIVE_OK) {
+        while (package.next(entry) == ARCHIVE_OK) {
             const char* const name = archive_entry_pathname(entry);
             last = name != nullptr ? name : "";
         }
@@ -290,7 +290,7 @@ PackageSummary MakePackage(const std::string& app, const std::string& out,
         throw PackageError(app, "was changed while it was read; pack when nothing writes to it");
     }
     file.commit();
-    return {tree.nodes.size(), tree.build_number};
+    return {tree.nodes.size(), tree.build_number, true};
 }
 
 PackageSummary CheckPackage(const std::string& file, const Progress& progress) {
@@ -307,5 +307,5 @@ PackageSummary CheckPackage(const std::string& file, const Progress& progress) {
                                      "for complete; make it with make-package");
     }
     CheckBundle(file, tree.build_number);
-    return {tree.nodes.size(), tree.build_number};
+    return {tree.nodes.size(), tree.build_number, HasContentChecksum(file.c_str())};
 }

@@ -13,6 +13,7 @@
 struct PackageSummary {
     std::size_t entries;
     int build_number;
+    bool has_checksum;  // over its content: damage is found before anything damaged is installed
 };
 
 // Told how much of the work is done; returns whether to go on.

@@ -9,6 +9,7 @@
 #include <random>
 
 #include "tests/support/scenario.h"
+#include "ui-client/launcher/content-checksum.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/translations/str-table.h"
 
@@ -94,6 +95,7 @@ TEST_P(FlipTest, NeverInstallsOtherBytes) {
     for (const auto& [small, last] :
          {std::pair(true, true), {true, false}, {false, true}, {false, false}}) {
         packages.push_back({pack(Application(small, last)), {}});
+        EXPECT_TRUE(HasContentChecksum((folder_ / "package").c_str()));
         ASSERT_TRUE(extract(packages.back().first, packages.back().second));
     }
     std::minstd_rand random(1);
@@ -120,6 +122,15 @@ TEST_P(FlipTest, NeverInstallsOtherBytes) {
     }
     std::cout << "of " << Runs() << " packages " << installed << " were installed, " << renamed
               << " with other names or modes\n";
+}
+
+TEST(ContentChecksumTest, IsMissedWhereThereIsNone) {
+    const Folder folder;
+    for (const char* const format : {"tar", "cpio", "tar.zst"}) {  // libarchive's has none
+        MakeArchive(folder / "package", format, Application(true, true));
+        EXPECT_FALSE(HasContentChecksum((folder / "package").c_str())) << format;
+    }
+    EXPECT_FALSE(HasContentChecksum((folder / "missing").c_str()));
 }
 
 std::string NameOf(const testing::TestParamInfo<const char*>& info) {

@@ -211,6 +211,11 @@ TEST_F(PackageTest, ChecksWhetherTheLauncherTakesAPackage) {
     const Entry client = {"./" + kClient, kScript, 0755};
     MakeArchive(out_, "tar.gz", {rest[0], rest[1], client});
     EXPECT_EQ(check().out, out_ + ": the launcher takes it: build 7, 6 entries\n");
+    EXPECT_EQ(check().err, "");
+    MakeArchive(out_, "tar", {rest[0], rest[1], client});
+    EXPECT_TRUE(HasOneLine(check().err, out_ + ": has no checksum over its content"))
+        << check().err;
+    EXPECT_EQ(check().code, 0);
     MakeArchive(out_, "zip", {rest[0], {"../x", "evil"}, rest[1], client});
     expectRefusal(check(), out_ + ": the launcher can't unpack it: archive_read_extract2 failed");
     MakeArchive(out_, "zip", {client, rest[0], rest[1]});
