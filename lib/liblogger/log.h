@@ -64,8 +64,8 @@ class Logger {
     static int log_size;  // bytes written since the file was opened or rotated; -1: not tracked
     static int rotate_cnt;
     static ustring log_path;
-    // Components and their thresholds. There are few, and most differ in their length already, so
-    // that to look at one after the other is the fastest.
+    // Components and their thresholds, in no order. An ordered map would give the same answers; to
+    // compare with the few names one after the other is faster, as most differ in their length.
     static std::vector<std::pair<ustring, int>> log_level;
     static pthread_mutex_t log_lock;
 };
