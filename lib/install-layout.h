@@ -15,6 +15,7 @@ constexpr char kApp[] = "Tarnwell.app";
 constexpr char kOldLayoutApp[] = "app";  // where earlier versions kept the application
 constexpr char kData[] = "data";
 constexpr char kLogFolder[] = "log";
+constexpr char kLogFile[] = "log/launcher.log";
 constexpr char kPidFile[] = "ui.pid";
 
 // In an application folder or a bundle.
@@ -22,6 +23,9 @@ constexpr char kResources[] = "Contents/Resources";
 constexpr char kInfo[] = "Contents/Resources/INFO";
 constexpr char kInfoPlist[] = "Contents/Info.plist";
 constexpr char kClient[] = "Contents/MacOS/tarnwell-ui";
+
+// In the launcher's bundle.
+constexpr char kLevelFile[] = "log/launcher.debug";
 
 // In the resources of the launcher's bundle.
 constexpr char kPackage[] = "package/tarnwell.opk";

@@ -12,9 +12,9 @@
 #include <limits>
 #include <set>
 
+#include "lib/install-layout.h"
 #include "lib/liblogger/printable.h"
 #include "lib/platform/open-bundle.h"
-#include "lib/install-layout.h"
 
 namespace fs = std::filesystem;
 
@@ -22,12 +22,12 @@ namespace {
 
 using Node = AppTree::Node;
 using Nodes = std::map<std::string, Node>;
+using install_layout::kInfo;
+using install_layout::kInfoPlist;
 
 // A Mac takes paths of 1023 bytes; this leaves 223 for the home folder and .Tarnwell/Tarnwell.app.
 const std::size_t kMaxPath = 800;
 const int kMaxLinks = 32;  // on the way of one path; a Mac follows no more
-const char kInfo[] = "Contents/Resources/INFO";
-const char kInfoPlist[] = "Contents/Info.plist";
 
 QString ToQt(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));

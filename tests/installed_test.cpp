@@ -123,6 +123,7 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
         EXPECT_EQ(load(version), Reading::Failed);
         EXPECT_EQ(errno, EMFILE);
     }
+    EXPECT_EQ(LoadVersion("/proc/self/mem", version), Reading::Failed) << "reading it fails";
     EXPECT_EQ(version.build_version, "");
     ASSERT_EQ(chmod((app_ + "/Contents").c_str(), 0), 0);
     {

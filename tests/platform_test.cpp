@@ -296,7 +296,7 @@ class SingleInstanceTest : public testing::Test {
 TEST_F(SingleInstanceTest, EachCopyRunsOnceWhereverTheLockIs) {
     const std::function<void()> cases[] = {
         [] {},
-        [&] {  // where its lock would be there is a folder
+        [&] {  // in the lock's place there is a folder
             const platform::SingleInstance instance(folder_, "/copy");
             const std::string lock = fs::directory_iterator(folder_)->path();
             fs::remove(lock);
@@ -304,12 +304,14 @@ TEST_F(SingleInstanceTest, EachCopyRunsOnceWhereverTheLockIs) {
         },
         [&] { fs::permissions(folder_, fs::perms{0555}); },
         [&] {
+            fs::permissions(folder_, fs::perms::owner_all);
             fs::remove_all(folder_);
             MakeFile(folder_);
         }};
+    ASSERT_EQ(chmod(parent_.path().c_str(), 0777), 0);
+    const AsNobody nobody;
     for (const auto& arrange : cases) {
         arrange();
-        const AsNobody nobody;
         {
             const platform::SingleInstance instance(folder_, "/copy");
             EXPECT_FALSE(instance.runsElsewhere());

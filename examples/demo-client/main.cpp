@@ -16,6 +16,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "lib/install-layout.h"
 #include "lib/platform/quit-on-signal.h"
 
 namespace {
@@ -24,7 +25,9 @@ namespace {
 // process, keeps a second client from running beside the first.
 class PidFile {
   public:
-    PidFile() : path_(QFile::encodeName(QDir::homePath() + QStringLiteral("/.Tarnwell/ui.pid"))) {
+    PidFile()
+        : path_(QFile::encodeName(QDir::homePath()) + '/' + install_layout::kUserFolder + '/' +
+                install_layout::kPidFile) {
         do {
             if (fd_ >= 0) {
                 close(fd_);
@@ -77,10 +80,14 @@ class PidFile {
     bool running_elsewhere_ = false;
 };
 
+// The path of what has this name in the application.
+QString InApplication(const char* name) {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../../") +
+           QString::fromLatin1(name);
+}
+
 QString VersionText() {
-    const QSettings info(
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/INFO"),
-        QSettings::IniFormat);
+    const QSettings info(InApplication(install_layout::kInfo), QSettings::IniFormat);
     return QStringLiteral("Version %1.%2, build %3")
         .arg(info.value(QStringLiteral("Version/major_version")).toString(),
              info.value(QStringLiteral("Version/minor_version")).toString(),
@@ -100,8 +107,8 @@ int main(int argc, char** argv) {
     QWidget window;
     window.setWindowTitle(QStringLiteral("Orvane Tarnwell"));
     QLabel icon;
-    icon.setPixmap(QPixmap(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../Resources/images/ico_72_tarnwell.png")));
+    icon.setPixmap(QPixmap(InApplication(install_layout::kResources) + QLatin1Char('/') +
+                           QString::fromLatin1(install_layout::kIcon)));
     icon.setAlignment(Qt::AlignCenter);
     QLabel version(VersionText());
     version.setAlignment(Qt::AlignCenter);

@@ -106,7 +106,7 @@ int Config::read(const ustring& path, const char* inside) {
 int Config::parse(std::string_view text) {
     while (!text.empty()) {
         const std::size_t end = text.substr(0, kMaxLine).find('\n');
-        const std::string line(text.substr(0, end == text.npos ? kMaxLine : end + 1));
+        const std::string line(text.substr(0, end == std::string_view::npos ? kMaxLine : end + 1));
         if (!ParseLine(line.c_str(), entries)) {
             entries.clear();
             return -1;

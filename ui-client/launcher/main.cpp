@@ -92,9 +92,11 @@ bool MayOpenLog(const ustring& path) {
 
 // Without a log file the messages go to standard error.
 void InitializeLog() {
-    const ustring level_file = Service::GetRootTarnwellInstallPath() + "/log/launcher.debug";
-    const ustring folder = Service::GetUserTarnwellInstallPath() + "/" + install_layout::kLogFolder;
-    const ustring log_file = folder + "/launcher.log";
+    const ustring level_file =
+        Service::GetRootTarnwellInstallPath() + "/" + install_layout::kLevelFile;
+    const ustring user_folder = Service::GetUserTarnwellInstallPath();
+    const ustring folder = user_folder + "/" + install_layout::kLogFolder;
+    const ustring log_file = user_folder + "/" + install_layout::kLogFile;
     if (!QDir().mkpath(QString::fromUtf8(folder.c_str()))) {
         return;
     }
