@@ -346,6 +346,7 @@ TEST(PrivateFolder, BelongsToNobodyElse) {
     const std::string second = first + ".1";
     const std::function<void()> squatters[] = {
         [&] { MakeFolder(first), fs::permissions(first, fs::perms::all); },
+        [&] { MakeFolder(first), fs::permissions(first, fs::perms::owner_all); },
         [&] { MakeFile(first); }, [&] { MakeLink("/tmp", first); }, [&] { MakeLink("x", first); }};
     for (const auto& make : squatters) {
         make();
