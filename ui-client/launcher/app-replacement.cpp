@@ -136,10 +136,11 @@ AppReplacement::Condition AppReplacement::RecoverInstalled() {
 
 AppReplacement::Condition AppReplacement::RecoverReplacing() {
     std::uint64_t object = 0;
+    std::uint64_t aside_object = 0;
     const Presence in_place = LookAt(app_, &object);
     const Presence part = LookAt(part_);
     const bool has_backup = record_.backup != UpgradeJournal::kNone;
-    const Presence aside = has_backup ? LookAt(backup()) : Presence::NotThere;
+    const Presence aside = has_backup ? LookAt(backup(), &aside_object) : Presence::NotThere;
     if (in_place == Presence::CantTell || part == Presence::CantTell ||
         aside == Presence::CantTell) {
         return Condition::Blocked;
@@ -149,8 +150,11 @@ AppReplacement::Condition AppReplacement::RecoverReplacing() {
     if (aside == Presence::There || part == Presence::There) {
         LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
                 aside == Presence::There ? backup().c_str() : part_.c_str());
+        const bool may_remove =
+            IsComplete(backup()) || (aside_object == record_.object &&
+                                     FindStartableClient(app_.c_str()) == Presence::NotThere);
         const bool restored =
-            aside == Presence::There ? RestoreBackup(IsComplete(backup())) : RestoreEntries();
+            aside == Presence::There ? RestoreBackup(may_remove) : RestoreEntries();
         return restored ? Settle() : Condition::Blocked;
     }
     if (in_place == Presence::NotThere) {
@@ -299,10 +303,7 @@ bool AppReplacement::RestoreEntries() {
         platform::SyncVolume(app_.c_str()) != 0 || LookAt(app_, &object) != Presence::There) {
         return false;
     }
-    if (record_.object != 0) {
-        record_.object = object;
-    }
-    return journal_.write(record_) == 0 && rmdir(part_.c_str()) == 0;
+    return Identify(object) && rmdir(part_.c_str()) == 0;
 }
 
 // == The two ends
@@ -345,11 +346,12 @@ void AppReplacement::RollBack() {
 // removed if it may be, or else set aside.
 bool AppReplacement::RestoreBackup(bool may_remove) {
     for (int attempt = 0; attempt < kRestoreAttempts; ++attempt) {
-        const Presence aside = LookAt(backup());
+        std::uint64_t object = 0;
+        const Presence aside = LookAt(backup(), &object);
         if (aside == Presence::NotThere) {
             break;
         }
-        if (aside == Presence::CantTell) {
+        if (aside == Presence::CantTell || !Identify(object)) {
             continue;
         }
         if (may_remove) {
@@ -361,6 +363,15 @@ bool AppReplacement::RestoreBackup(bool may_remove) {
         static_cast<void>(std::rename(backup().c_str(), app_.c_str()));  // the next look tells
     }
     return Is(Presence::NotThere, backup()) && Is(Presence::There, app_);
+}
+
+// Makes the record know the old application by its present inode: moving it can have changed that.
+bool AppReplacement::Identify(std::uint64_t object) {
+    if (record_.object == 0 || record_.object == object) {
+        return true;
+    }
+    record_.object = object;
+    return journal_.write(record_) == 0;
 }
 
 // Takes what is in the application's place away, to a free backup name that the record names from

@@ -17,8 +17,9 @@
 //
 //   1. Looking at a path says "there", "not there" or "can't tell". "Can't tell" never leads to
 //      removing something, unpacking over it, or dropping the record: everything stays as it is.
-//   2. A tree is removed only when this run has created it, or has seen a complete application
-//      elsewhere. What could be the only application is set aside under a free backup name instead.
+//   2. A tree is removed only when this run has created it or has seen a complete application
+//      elsewhere, or when it is no application and the old one is recognised by its inode. What
+//      could be the only application is set aside under a free backup name instead.
 //   3. Nothing is unpacked without a durable record, a first installation included. What is in the
 //      application's place under such a record is never taken for installed.
 //   4. The record changes atomically.
@@ -78,6 +79,7 @@ class AppReplacement {
     bool MoveByEntry();
     bool RestoreEntries();
     bool RestoreBackup(bool may_remove);
+    bool Identify(std::uint64_t object);
     bool SetAside();
     Condition Settle();
     std::uint32_t Removable() const;
