@@ -281,8 +281,7 @@ TEST_F(OwnTreeTest, AMoveCanBeKilledAnywhere) {
             }
             TracedRun run;
             run.fault_at = k;
-            run.follow(pid);
-            end = run.end;
+            end = run.follow(pid);
             SCOPED_TRACE("killed at " + std::to_string(k) + (back ? ", back" : ", on"));
             {
                 const AsNobody nobody;

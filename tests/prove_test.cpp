@@ -1,459 +1,346 @@
-// That no upgrade can be cut off or fail so that the user is left without an application. Each
-// sweep counts the file-changing system calls N of a run and breaks every one of them in turn, or
-// every PROVE_STRIDE-th (10 unless the environment says otherwise). scripts/prove breaks all.
+// That no upgrade can be cut off or fail so that the user is left without an application, or with a
+// mixture of two. Each row has a fault, a scene and a user; it counts the system calls N of an
+// undisturbed run, and strikes at each of them in turn. The environment says how often: PROVE_CASES
+// in a row (12; 0: no limit), PROVE_STRIDE every n-th case only, PROVE_ONLY the case of this number
+// only. scripts/prove strikes everywhere.
 
 #include <fcntl.h>
 #include <signal.h>
-#include <sys/mount.h>
-#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <random>
-#include <utility>
 
-#include "tests/support/installation.h"
-#include "tests/support/traced-run.h"
+#include "tests/support/disk-model.h"
+#include "tests/support/upgrade-trial.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-int Stride() {
-    const char* const stride = getenv("PROVE_STRIDE");
-    return stride != nullptr ? std::max(1, atoi(stride)) : 10;
-}
+const int kErrors[] = {EIO, EINTR, EMFILE, ENOMEM, ENOSPC, EACCES, EXDEV};
+const int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
+const int kKills = 25;  // in a row
 
-// What would be found below a folder after a power cut. Only what was put on the disk is certain;
-// the rest is lost, or is there without its content.
-class Disk {
-  public:
-    explicit Disk(std::string root) : root_(std::move(root)) { syncAll(); }
+// The package and how it is damaged, whether there is an old application, which, and what else.
+const Scene kScenes[] = {
+    {0, Shape::Plain, Scene::Whole, true, Shape::Plain, Scene::Nothing},
+    {1, Shape::Plain, Scene::Whole, false, Shape::Plain, Scene::Nothing},
+    {1, Shape::ClientFirst, Scene::CutAfter, true, Shape::Plain, Scene::Nothing},
+    {1, Shape::Modes, Scene::Whole, true, Shape::Modes, Scene::Nothing},
+    {1, Shape::Modes, Scene::CutAfter, true, Shape::Modes, Scene::Nothing},
+    {2, Shape::Single, Scene::Whole, true, Shape::NoClient, Scene::Nothing},
+    {2, Shape::Links, Scene::Whole, true, Shape::Links, Scene::Nothing},
+    {2, Shape::ClientFirst, Scene::Whole, true, Shape::Plain, Scene::Leftover},
+    {2, Shape::Plain, Scene::Whole, true, Shape::Links, Scene::OnOverlay},
+    {2, Shape::Plain, Scene::CutBefore, true, Shape::Links, Scene::OnOverlay},
+    {3, Shape::Modes, Scene::Whole, false, Shape::Plain, Scene::Nothing},
+    {3, Shape::ClientFirst, Scene::CutAfter, false, Shape::Plain, Scene::Nothing},
+    {3, Shape::Links, Scene::Whole, true, Shape::Plain, Scene::Nothing},
+    {3, Shape::Many, Scene::Whole, true, Shape::Plain, Scene::Nothing},
+    {3, Shape::Plain, Scene::CutBefore, true, Shape::Plain, Scene::Nothing},
+    {3, Shape::NoClient, Scene::CutAfter, true, Shape::Plain, Scene::Nothing},
+    {3, Shape::Plain, Scene::CutBefore, true, Shape::NoClient, Scene::Nothing},
+    {3, Shape::ClientFirst, Scene::CutAfter, true, Shape::Plain, Scene::Leftover},
+    {3, Shape::Plain, Scene::CutBefore, true, Shape::Modes, Scene::OnOverlay}};
 
-    void sync(const std::string& path) {
-        struct stat status;
-        if (path.empty()) {
-            syncAll();
-        } else if (lstat(path.c_str(), &status) == 0) {
-            syncObject(path, status);
-        }
-    }
+// A case of a row: what happens at which of its calls. Those that count are those that change
+// files; or all, on the user's files, on the bundle's as well, or on any after the first of the
+// user's.
+struct Case {
+    enum Scope { Changes, OnUsers, OnOwn, OnAny };
 
-    // Replaces the folder by what is on the disk alone.
-    void loseTheRest() {
-        const std::string found = root_ + ".found";
-        fs::create_directory(found);
-        struct stat status;
-        lstat(root_.c_str(), &status);
-        restore(status.st_ino, found);
-        adopt(found);
-    }
+    UpgradeTrial& trial;
+    const Scope scope;
+    int calls = 1;    // N
+    int number = 0;   // of the case
+    int variant = 0;  // of what happens
 
-    // Replaces the folder by one in which whatever isn't on the disk is there, but empty.
-    void emptyTheRest() {
-        for (const auto& entry : fs::recursive_directory_iterator(root_)) {
-            struct stat status;
-            lstat(entry.path().c_str(), &status);
-            if (!S_ISREG(status.st_mode)) {
-                continue;
-            }
-            const auto known = files_.find(status.st_ino);
-            MakeFile(entry.path(), known != files_.end() ? known->second.content : "",
-                     status.st_mode & 07777);
-        }
-    }
-
-  private:
-    struct File {
-        std::string content;
-        mode_t mode;
-    };
-    struct Entry {
-        ino_t object;
-        mode_t type;
-        std::string target;  // of a link
-    };
-
-    void syncObject(const std::string& path, const struct stat& status) {
-        if (S_ISREG(status.st_mode)) {
-            files_[status.st_ino] = {ReadFile(path), status.st_mode & 07777};
-        } else if (S_ISDIR(status.st_mode)) {
-            std::map<std::string, Entry>& entries = folders_[status.st_ino];
-            entries.clear();
-            for (const auto& entry : fs::directory_iterator(path)) {
-                struct stat child;
-                lstat(entry.path().c_str(), &child);
-                entries[entry.path().filename()] = {
-                    child.st_ino, child.st_mode,
-                    entry.is_symlink() ? fs::read_symlink(entry.path()).string() : ""};
-            }
-        }
-    }
-
-    void syncAll() {
-        sync(root_);
-        for (const auto& entry : fs::recursive_directory_iterator(root_)) {
-            sync(entry.path());
-        }
-    }
-
-    void restore(ino_t folder, const std::string& to) {
-        for (const auto& [name, entry] : folders_[folder]) {
-            const std::string path = to + "/" + name;
-            if (S_ISLNK(entry.type)) {
-                fs::create_symlink(entry.target, path);
-            } else if (S_ISDIR(entry.type)) {
-                fs::create_directory(path);
-                restored_[entry.object] = name;
-                restore(entry.object, path);
-            } else if (files_.count(entry.object) != 0) {
-                MakeFile(path, files_[entry.object].content, files_[entry.object].mode);
-            }
-        }
-    }
-
-    // Restoring has given the folders new inodes; the journal must go on naming the same ones.
-    void adopt(const std::string& found) {
-        fs::remove_all(root_);
-        fs::rename(found, root_);
-        std::string journal = ReadFile(root_ + "/upgrade.journal");
-        const std::string key = "object=";
-        const std::size_t begin = journal.find(key);
-        if (begin == std::string::npos) {
-            return;
-        }
-        const auto name =
-            restored_.find(strtoul(journal.c_str() + begin + key.size(), nullptr, 10));
-        struct stat status;
-        if (name != restored_.end() && lstat((root_ + "/" + name->second).c_str(), &status) == 0) {
-            journal.erase(begin + key.size());
-            MakeFile(root_ + "/upgrade.journal", journal + std::to_string(status.st_ino) + "\n");
-        }
-    }
-
-    const std::string root_;
-    std::map<ino_t, File> files_;
-    std::map<ino_t, std::map<std::string, Entry>> folders_;
-    std::map<ino_t, std::string> restored_;
-};
-
-class ProveTest : public testing::Test {
-  protected:
-    enum Start { Upgrade, Install, Rollback };
-
-    ~ProveTest() override {
-        std::printf("N = %d file-changing system calls, %d runs broken, %d bad ends\n", calls_,
-                    broken_, bad_ends_);
-    }
-
-    // The state before each run: an old application or none, and a good package or a damaged one.
-    virtual void arrange(Start start) {
-        fs::remove_all(installation_.user());
-        MakeFolder(installation_.user("log"));
-        if (start != Install) {
-            installation_.install("99");
-            MakeFile(installation_.app("tool"), "#!/bin/sh\n", 0755);
-            MakeLink("tool", installation_.app("link"));
-            old_ = Tree(installation_.app());
-        }
-    }
-    void damagePackage() {
-        installation_.setBuild("100", "tar");
-        const std::string package = ReadFile(installation_.package());
-        fs::resize_file(installation_.package(), package.find("Contents/MacOS/tarnwell-ui") + 100);
-    }
-
-    TracedRun traced(int fault_at = 0, int error = 0, Disk* disk = nullptr,
-                     const std::function<void(pid_t)>& interfere = nullptr) {
+    TracedRun at(int call) const {
         TracedRun run;
-        run.fault_at = fault_at;
-        run.error = error;
-        run.interfere = interfere;
-        if (disk != nullptr) {
-            run.on_sync = [this, disk](const std::string& path) {
-                if (path.empty() ||
-                    path.compare(0, installation_.user().size(), installation_.user()) == 0) {
-                    disk->sync(path);
-                }
-            };
+        run.fault_at = call;
+        run.changes_only = scope == Changes;
+        if (scope == OnUsers) {
+            run.within = {trial.in.user()};
+        } else if (scope == OnOwn) {
+            run.within = {trial.in.home(), trial.in.bundle("log"),
+                          trial.in.bundle("Contents/Resources")};
+        } else if (scope == OnAny) {
+            run.since = trial.in.home();
         }
-        run.follow(installation_.start(BeTraced));
         return run;
     }
-    // Counts the calls of an undisturbed run, and does something at each of them in turn.
-    void sweep(Start start, const std::function<void(int k, const std::string& where)>& strike) {
-        arrange(start);
-        const TracedRun run = traced();
-        EXPECT_EQ(run.end, 0);
-        EXPECT_GT(run.calls, 20);
-        calls_ = run.calls;
-        for (int k = 1; k <= calls_; k += Stride()) {
-            arrange(start);
-            strike(k, " at call " + std::to_string(k));
-        }
-    }
-
-    bool isNew() const { return isApp(installation_.app(), installation_.expectedApp("100")); }
-    bool isOld() const { return isApp(installation_.app(), old_); }
-    static bool isApp(const std::string& path, const FileTree& tree) {
-        return Exists(path) && Tree(path) == tree;
-    }
-    // Whether the next run finds the old application, where it was or aside, or the new one.
-    bool isSafe() const {
-        bool safe = isNew() || isOld();
-        for (const char* const aside : {"Tarnwell.app_tmp", "Tarnwell.app_tmp1"}) {
-            safe |= isApp(installation_.user(aside), old_);
-        }
-        return safe;
-    }
-
-    void check(bool good, const std::string& what) {
-        bad_ends_ += good ? 0 : 1;
-        EXPECT_TRUE(good) << what << "\n" << ReadFile(installation_.user("log/launcher.log"));
-    }
-    // After a cut: nothing is lost, and the next run comes to the right end.
-    void checkRecovery(Start start, const std::string& what) {
-        ++broken_;
-        check(start == Install || isSafe(), what + ": nothing whole is left");
-        installation_.run();
-        check(start == Rollback ? isOld() : isNew(), what + ": wrong end");
-        check(!Exists(installation_.user("upgrade.journal")), what + ": the record is left");
-    }
-
-    void sweepKills(Start start) {
-        sweep(start, [&](int k, const std::string& where) {
-            check(traced(k).end == 1000 + SIGKILL, "not killed");
-            checkRecovery(start, "killed" + where);
-        });
-    }
-
-    void sweepPowerCuts(Start start) {
-        for (const bool lost : {true, false}) {
-            sweep(start, [&](int k, const std::string& where) {
-                Disk disk(installation_.user());
-                traced(k, 0, &disk);
-                lost ? disk.loseTheRest() : disk.emptyTheRest();
-                checkRecovery(start, (lost ? "lost" : "emptied") + where);
-            });
-        }
-    }
-
-    Installation installation_;
-    FileTree old_;
-    int calls_ = 0;
-    int broken_ = 0;
-    int bad_ends_ = 0;
+    TracedRun run() const { return at(1 + number % calls); }
 };
 
-TEST_F(ProveTest, AKilledUpgrade) {
-    sweepKills(Upgrade);
+void Kill(Case& c) {
+    TracedRun run = c.run();
+    c.trial.check(c.trial.follow(run) == 1000 + SIGKILL, "not killed");
+    c.trial.recover();
 }
 
-TEST_F(ProveTest, AKilledInstallation) {
-    sweepKills(Install);
+void KillTwice(Case& c) {
+    TracedRun run = c.run();
+    c.trial.follow(run);
+    TracedRun next = c.at(1 + 7 * c.variant + c.number % 7);
+    c.trial.follow(next);
+    c.trial.recover();
 }
 
-TEST_F(ProveTest, AKilledRollback) {
-    damagePackage();
-    sweepKills(Rollback);
+// With versions that rise, or rise and fall.
+void KillInARow(Case& c) {
+    std::mt19937 random(static_cast<unsigned>(c.number));
+    std::vector<FileTree> whole = {c.trial.old_app};
+    for (int i = 0; i < kKills; ++i) {
+        c.trial.setPackage(100 + (c.number % 2 == 0 ? i : static_cast<int>(random() % kKills)));
+        TracedRun run = c.at(1 + static_cast<int>(random() % static_cast<unsigned>(c.calls)));
+        c.trial.follow(run);
+        whole.push_back(c.trial.new_app);
+        whole.erase(std::remove_if(whole.begin(), whole.end(),
+                                   [&](const FileTree& app) { return !c.trial.isWhole(app); }),
+                    whole.end());
+        c.trial.check(!whole.empty() || !c.trial.scene.has_old, "nothing whole is left");
+        c.trial.doing.clear();
+    }
+    c.trial.setPackage(1000);
+    c.trial.runUndisturbed();
+    c.trial.checkEnd(true);
 }
 
-TEST_F(ProveTest, AnUpgradeKilledTwice) {
-    sweep(Upgrade, [this](int k, const std::string& where) {
-        traced(k);
-        for (int again = 1; traced(again).end != 0; again += Stride()) {
-            checkRecovery(Upgrade, "killed" + where + " and then at " + std::to_string(again));
-            arrange(Upgrade);
-            traced(k);
+// What is copied has other inodes.
+void KillAndCopy(Case& c) {
+    TracedRun run = c.run();
+    c.trial.follow(run);
+    const std::string user = c.trial.in.user();
+    CopyTree(user, user + ".copy");
+    RemoveTree(user);
+    fs::rename(user + ".copy", user);
+    c.trial.recover();
+}
+
+// At each call everything is lost that wasn't on the disk, or there, but empty; then by chance.
+void CutPower(Case& c) {
+    Disk disk(c.trial.in.user());
+    TracedRun run = c.run();
+    run.on_sync = [&](const std::string& path) { disk.sync(path); };
+    c.trial.follow(run);
+    disk.cut(static_cast<unsigned>(c.variant < 2 ? c.variant : c.number));
+    if (c.trial.as_user) {
+        c.trial.in.runAsNobody();
+    }
+    c.trial.recover();
+}
+
+void Fail(Case& c) {
+    TracedRun run = c.run();
+    run.error = kErrors[c.variant];
+    c.trial.doing += std::string(" ") + strerror(run.error);
+    c.trial.check(c.trial.follow(run) == 0, "exit code");
+    // What was looked at in vain may be put right by the next run only.
+    if (run.struck_a_change && c.trial.scene.around != Scene::OnOverlay) {
+        c.trial.checkInPlace();
+    }
+    c.trial.recover();
+}
+
+void KeepFailing(Case& c) {
+    TracedRun run = c.run();
+    run.error = kErrors[c.variant];
+    run.lasting = true;
+    c.trial.doing += std::string(" ") + strerror(run.error) + " from there on,";
+    c.trial.check(c.trial.follow(run) == 0, "exit code");
+    c.trial.recover();
+}
+
+void FailTenTimes(Case& c) {
+    for (int i = 0; i < 10; ++i) {
+        c.trial.check(c.trial.runUndisturbed() == 0, "exit code");
+        c.trial.checkEnd(false);
+    }
+    c.trial.setPackage(100);
+    c.trial.runUndisturbed();
+    c.trial.checkEnd(true);
+}
+
+// Another copy of the launcher begins while this one is stopped, and both go on, one with a newer
+// package and one with an older one.
+void StartAnother(Case& c) {
+    Installation other;
+    other.environment["HOME"] = c.trial.in.home();
+    other.setBuild(c.variant == 0 ? "101" : "100", "tar.zst", c.trial.scene.package);
+    if (c.trial.as_user) {
+        other.runAsNobody();
+    }
+    c.trial.setPackage(c.variant == 0 ? 100 : 101);
+    c.trial.new_app = other.expectedApp("101", c.trial.scene.package, true);
+    pid_t pid = 0;
+    TracedRun run = c.run();
+    run.interfere = [&](pid_t) {
+        pid = other.start();
+        siginfo_t end{};
+        for (int i = 0; i < 100 && end.si_pid == 0; ++i) {  // unless it waits for this one
+            usleep(2000);
+            waitid(P_PID, static_cast<id_t>(pid), &end, WEXITED | WNOHANG | WNOWAIT);
         }
-        check(isNew(), "undisturbed second run");
-    });
+    };
+    c.trial.check(c.trial.follow(run) == 0, "exit code");
+    c.trial.check(run.ends[pid] == 0, "exit code of the other");
+    c.trial.checkEnd(true);
 }
 
-TEST_F(ProveTest, CallsThatFail) {
-    for (const Start start : {Upgrade, Rollback}) {
-        if (start == Rollback) {
-            damagePackage();
+void SendSignal(Case& c) {
+    TracedRun run = c.at(std::max(c.calls / 3, 1 + c.number % c.calls));  // since it listens
+    run.interfere = [&](pid_t pid) { kill(pid, kSignals[c.variant]); };
+    c.trial.check(c.trial.follow(run) == 0, "exit code");
+    c.trial.checkEnd(true);
+}
+
+// It is renamed, removed, or replaced by a file.
+void TakeHome(Case& c) {
+    const std::string user = c.trial.in.user();
+    TracedRun run = c.run();
+    run.interfere = [&](pid_t) {
+        fs::rename(user, user + ".elsewhere");
+        if (c.variant > 0) {
+            RemoveTree(user + ".elsewhere");
         }
-        for (const int error : {EIO, ENOSPC, EACCES, EXDEV}) {
-            sweep(start, [&](int k, const std::string& where) {
-                const std::string what = strerror(error) + where;
-                check(traced(k, error).end == 0, what + ": exit code");
-                check(isOld() || isNew(), what + ": neither the old nor the new application");
-                checkRecovery(start, what + ", and the next run");
-            });
+        if (c.variant > 1) {
+            MakeFile(user);
         }
-    }
+    };
+    c.trial.check(c.trial.follow(run) == 0, "exit code");
+    RemoveTree(user + ".elsewhere");
+    RemoveTree(user);
+    c.trial.runUndisturbed();
+    c.trial.checkEnd(true);
 }
 
-TEST_F(ProveTest, APowerCut) {
-    sweepPowerCuts(Upgrade);
-    sweepPowerCuts(Install);
-    damagePackage();
-    sweepPowerCuts(Rollback);
-}
-
-TEST_F(ProveTest, SignalsDuringAnUpgrade) {
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        sweep(Upgrade, [&](int k, const std::string& where) {
-            if (k >= calls_ / 3) {  // the launcher has begun to listen
-                const auto send = [signal](pid_t pid) { kill(pid, signal); };
-                const int end = traced(k, 0, nullptr, send).end;
-                ++broken_;
-                check(end == 0 && isNew(), strsignal(signal) + where);
-            }
-        });
-    }
-}
-
-TEST_F(ProveTest, TheHomeGoesAway) {
-    const std::string elsewhere = installation_.home() + "/elsewhere";
-    const std::function<void(pid_t)> harms[] = {
-        [&](pid_t) { fs::remove_all(installation_.user()); },
-        [&](pid_t) { fs::rename(installation_.user(), elsewhere); },
-        [&](pid_t) {
-            fs::remove_all(installation_.user());
-            MakeFile(installation_.user(), "a file in its place");
-        }};
-    for (const auto& harm : harms) {
-        sweep(Upgrade, [&](int k, const std::string& where) {
-            ++broken_;
-            check(traced(k, 0, nullptr, harm).end == 0, "gone" + where);
-            fs::remove_all(elsewhere);
-            fs::remove_all(installation_.user());
-            installation_.run();
-            check(isNew(), "the next run");
-        });
-    }
-}
-
-TEST_F(ProveTest, ADiskThatFillsUp) {
-    const SmallDisk disk(installation_.home(), "1m");
-    if (!disk.mounted()) {
-        GTEST_SKIP() << "this user may not mount a small disk";
-    }
-    const std::string filler = installation_.home() + "/filler";
-    const auto fill = [&](pid_t) {
-        const int fd = open(filler.c_str(), O_WRONLY | O_CREAT, 0644);
+void FillDisk(Case& c) {
+    const std::string filler = c.trial.in.home() + "/filler";
+    TracedRun run = c.run();
+    run.interfere = [&](pid_t) {
+        const int fd = open(filler.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
         const std::string block(4096, 'f');
         while (write(fd, block.data(), block.size()) > 0) {
         }
         close(fd);
     };
-    sweep(Upgrade, [&](int k, const std::string& where) {
-        const int end = traced(k, 0, nullptr, fill).end;
-        check(end == 0 && (isOld() || isNew()), "full" + where);
-        fs::remove(filler);
-        checkRecovery(Upgrade, "full" + where);
-    });
+    c.trial.check(c.trial.follow(run) == 0, "exit code");
+    c.trial.checkInPlace();
+    fs::remove(filler);
+    c.trial.recover();
 }
 
-TEST_F(ProveTest, AThousandRandomKillsLeaveNothing) {
-    std::mt19937 random(1);
-    arrange(Upgrade);
-    const unsigned calls = static_cast<unsigned>(calls_ = traced().calls);
-    arrange(Upgrade);
-    for (int i = 0; i < 1000; i += Stride()) {
-        const std::string version = installation_.app("Contents/Resources/INFO");
-        if (Exists(version)) {
-            MakeFile(version, "[Version]\nbuild_version=1\n");  // there is always something to do
-        }
-        traced(1 + static_cast<int>(random() % calls));
-        ++broken_;
-    }
-    installation_.run();
-    check(isNew(), "the end");
-    for (const auto& entry : fs::directory_iterator(installation_.user())) {
-        const std::string name = entry.path().filename();
-        check(name == "log" || name == "Tarnwell.app" || name == "Tarnwell.app_tmp",
-              name + " is left");
-    }
-}
-
-// The old application came with the lower layer of an overlay: its folders can't be renamed, its
-// files can. It has rights of its own, and a link that soon leads nowhere; the first backup's name
-// is another's.
-class OverlayTest : public ProveTest {
-  protected:
-    ~OverlayTest() override { umount2(installation_.user().c_str(), MNT_DETACH); }
-
-    void arrange(Start start) override {
-        umount2(installation_.user().c_str(), MNT_DETACH);
-        ProveTest::arrange(start);
-        MakeFile(installation_.app("private/file"), "secret", 0600);
-        MakeFolder(installation_.app("private/empty"));
-        MakeFile(installation_.user("Tarnwell.app_tmp/rest"));
-        old_ = Tree(installation_.app());
-        fs::remove_all(layers_);
-        MakeFolder(layers_ + "/upper");
-        MakeFolder(layers_ + "/work");
-        fs::copy(installation_.user(), layers_ + "/lower",
-                 fs::copy_options::recursive | fs::copy_options::copy_symlinks);
-        fs::permissions(layers_ + "/lower/Tarnwell.app/private", kRights);
-        fs::permissions(layers_ + "/lower/Tarnwell.app/private/empty", kRights);
-        const std::string layers = "lowerdir=" + layers_ + "/lower,upperdir=" + layers_ +
-                                   "/upper,workdir=" + layers_ + "/work,redirect_dir=off";
-        mounted_ = disk_.mounted() &&
-                   mount("none", installation_.user().c_str(), "overlay", 0, layers.c_str()) == 0;
-    }
-    bool isHalfDone() const {
-        return Exists(installation_.user("upgrade.journal")) ||
-               Exists(installation_.user("Tarnwell.app_part"));
-    }
-    // Whether nothing has happened to the old application and to what isn't ours.
-    bool isUntouched() const {
-        return isOld() && fs::status(installation_.app("private")).permissions() == kRights &&
-               fs::status(installation_.app("private/empty")).permissions() == kRights &&
-               Tree(installation_.user("Tarnwell.app_tmp")).size() == 1 && !isHalfDone();
-    }
-    // A run that only looks at what an earlier one has left: the package is damaged.
-    void checkNextRun(const std::string& what) {
-        ++broken_;
-        installation_.run();
-        check(isUntouched(), what + ": not as it was");
-    }
-
-    const fs::perms kRights = fs::perms::owner_all | fs::perms::group_all;
-    const std::string layers_ = installation_.home() + "/layers/overlay";
-    const SmallDisk disk_{installation_.home() + "/layers", "8m"};
-    bool mounted_ = false;
+struct Fault {
+    const char* name;
+    void (*strike)(Case& c);
+    int level;         // of scenes
+    int variants = 1;  // each has N cases
+    int more = 0;      // cases besides
+    Case::Scope scope = Case::Changes;
+    int weight = 1;    // how many others one case lasts as long as
+    bool good = true;  // with whole packages
+    bool bad = true;   // with damaged ones
 };
 
-TEST_F(OverlayTest, AFolderThatCannotBeRenamed) {
-    if (geteuid() == 0) {
-        arrange(Upgrade);
+const Fault kFaults[] = {{"killed", Kill, 3},
+                         {"killed twice", KillTwice, 2, 10},
+                         {"killed in a row", KillInARow, 1, 0, 40, Case::Changes, 12, true, false},
+                         {"killed and copied", KillAndCopy, 1},
+                         {"power cut", CutPower, 1, 2, 1000},
+                         {"a call fails", Fail, 2, 7, 0, Case::OnOwn},
+                         {"any call fails", Fail, 0, 7, 0, Case::OnAny},
+                         {"calls fail from one on", KeepFailing, 2, 7, 0, Case::OnUsers},
+                         {"ten failures", FailTenTimes, 1, 0, 1, Case::Changes, 12, false, true},
+                         {"another launcher", StartAnother, 1, 2, 0, Case::Changes, 4, true, false},
+                         {"signal", SendSignal, 0, 3},
+                         {"home taken away", TakeHome, 0, 3},
+                         {"full disk", FillDisk, 0}};
+
+struct Row {
+    Fault fault;
+    Scene scene;
+    bool as_user;
+
+    std::string name() const {
+        return std::string(fault.name) + ", " + scene.name() + (as_user ? ", user" : ", root");
     }
-    if (!mounted_) {
-        GTEST_SKIP() << "only root can mount an overlay, where it is allowed to";
-    }
-    ASSERT_NE(rename(installation_.app().c_str(), installation_.user("other").c_str()), 0);
-    ASSERT_EQ(errno, EXDEV);
-    installation_.run();
-    check(isNew() && !isHalfDone() && !Exists(installation_.user("Tarnwell.app_tmp")), "upgraded");
+};
 
-    damagePackage();
-    sweep(Rollback, [this](int k, const std::string& where) {
-        traced(k);
-        checkNextRun("killed" + where);
-
-        arrange(Rollback);
-        traced(k);
-        traced(k);
-        checkNextRun("killed twice" + where);
-
-        for (const int error : {ENOSPC, EXDEV}) {
-            arrange(Rollback);
-            traced(k, error);
-            const std::string log = ReadFile(installation_.user("log/launcher.log"));
-            check(isUntouched() || isHalfDone(), strerror(error) + where);
-            check(LinesWith(log, "at max retries").empty() ||
-                      LinesWith(log, "failed to backup app").size() == 11,
-                  "the attempts, " + std::string(strerror(error)) + where);
-            checkNextRun(strerror(error) + where);
+std::vector<Row> Rows() {
+    std::vector<Row> rows;
+    for (const Fault& fault : kFaults) {
+        for (const Scene& scene : kScenes) {
+            const bool fits = scene.cut == Scene::Whole ? fault.good : fault.bad;
+            for (const bool as_user : {true, false}) {
+                if (fits && scene.level <= fault.level && (as_user || geteuid() == 0)) {
+                    rows.push_back({fault, scene, as_user});
+                }
+            }
         }
-    });
+    }
+    return rows;
 }
+
+int Setting(const char* name, int otherwise) {
+    const char* const value = getenv(name);
+    return value != nullptr ? atoi(value) : otherwise;
+}
+
+// The cases of a row that are tried, one of each stretch.
+std::vector<int> Draw(const Row& row, int calls) {
+    const int weight = row.fault.weight * (row.scene.package == Shape::Many ? 4 : 1);
+    const int cases = calls * row.fault.variants + row.fault.more;
+    int wanted = Setting("PROVE_CASES", 12);
+    wanted = wanted > 0 ? std::max(1, wanted / weight) : weight == 4 ? 60 : cases;
+    const int stride = std::max({1, Setting("PROVE_STRIDE", 1), cases / wanted});
+    std::mt19937 random(static_cast<unsigned>(std::hash<std::string>()(row.name())));
+    std::vector<int> numbers;
+    for (int begin = 0; begin < cases; begin += stride) {
+        const int number = begin + static_cast<int>(random() % static_cast<unsigned>(stride));
+        numbers.push_back(std::min(number, cases - 1));
+    }
+    return getenv("PROVE_ONLY") != nullptr ? std::vector<int>{Setting("PROVE_ONLY", 0)} : numbers;
+}
+
+class ProveTest : public testing::TestWithParam<Row> {};
+
+TEST_P(ProveTest, EndsWell) {
+    const Row& row = GetParam();
+    UpgradeTrial trial(row.scene, row.as_user, row.fault.strike == FillDisk);
+    if (!trial.possible()) {
+        GTEST_SKIP() << "this user may not mount a disk";
+    }
+    Case c = {trial, row.fault.scope};
+    TracedRun run = c.at(0);
+    trial.arrange();
+    trial.check(trial.follow(run) == 0 && run.calls > 20, "the undisturbed run");
+    trial.recover();
+    c.calls = run.calls;
+    int runs = 0;
+    int bad_ends = trial.has_failed ? 1 : 0;
+    for (const int number : trial.has_failed ? std::vector<int>() : Draw(row, c.calls)) {
+        trial.doing = "PROVE_ONLY=" + std::to_string(number);
+        trial.arrange();
+        c.number = number;
+        c.variant = number / c.calls;
+        row.fault.strike(c);
+        ++runs;
+        bad_ends += trial.has_failed ? 1 : 0;
+    }
+    std::printf("| %s | %d | %d | %d |\n", row.name().c_str(), c.calls, runs, bad_ends);
+}
+
+INSTANTIATE_TEST_SUITE_P(, ProveTest, testing::ValuesIn(Rows()), [](const auto& row) {
+    std::string name = row.param.name();
+    name.erase(std::remove(name.begin(), name.end(), ','), name.end());
+    std::replace(name.begin(), name.end(), ' ', '_');
+    return name;
+});
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "tests/support/installation.h"
 
 #include <fcntl.h>
+#include <grp.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <stdexcept>
 #include <thread>
@@ -15,10 +17,11 @@ namespace fs = std::filesystem;
 namespace {
 
 const uid_t kNobody = 65534;
+const mode_t kUsualMode = Entry().mode;
 
 const char kInfoPlist[] =
     "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
-const char kClient[] = "#!/bin/sh\necho $$ >>\"$HOME/started\"\n";
+const char kClient[] = "#!/bin/sh\necho whole >>\"$HOME/started\"\n";
 
 int WaitStatus(pid_t pid) {
     int status = 0;
@@ -28,7 +31,17 @@ int WaitStatus(pid_t pid) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
 }
 
-std::vector<Entry> PackageEntries(const std::string& number) {
+const char kClientPath[] = "Contents/MacOS/tarnwell-ui";
+
+// Notes that it was started, and whether it saw the last entry of its package. When its folder
+// isn't the application any more, another upgrade has begun, and it can't tell.
+std::string ClientLookingFor(const std::string& last) {
+    return "#!/bin/sh\ncd \"${0%/Contents/*}\" || exit\n[ -e '" + last +
+           "' ] && found=whole || found=half\n"
+           "[ . -ef \"$HOME/.Tarnwell/Tarnwell.app\" ] && echo $found >>\"$HOME/started\"\n";
+}
+
+std::vector<Entry> CommonEntries(const std::string& number) {
     return {{"Contents/"},
             {"Contents/Info.plist", kInfoPlist},
             {"Contents/Resources/"},
@@ -38,8 +51,41 @@ std::vector<Entry> PackageEntries(const std::string& number) {
             {"Contents/Resources/data.bin", std::string(200000, 'x') + number},
             {"Contents/Resources/\xC3\xA9t\xC3\xA9", "summer"},
             {"Contents/Resources/latest", "", 0777, "data.bin"},
-            {"Contents/MacOS/"},
-            {"Contents/MacOS/tarnwell-ui", kClient, 0755}};
+            {"Contents/private/", "", 0750},
+            {"Contents/private/file", number, 0640},
+            {"Contents/MacOS/"}};
+}
+
+std::vector<Entry> PackageEntries(const std::string& number, Shape shape) {
+    std::vector<Entry> entries;
+    if (shape != Shape::Single) {
+        entries = CommonEntries(number);
+    }
+    if (shape == Shape::Modes) {
+        entries.insert(entries.end(), {{"Contents/locked/", "", 0555},
+                                       {"Contents/locked/file", "of build " + number},
+                                       {"Contents/locked/inner/", "", 0555},
+                                       {"Contents/locked/inner/file", "", 0444}});
+    } else if (shape == Shape::Links) {
+        entries.insert(entries.end(), {{"Contents/Current", "", 0777, "Resources"},
+                                       {"Contents/nowhere", "", 0777, "gone/away"},
+                                       {"Contents/out", "", 0777, "../../../sentinel"}});
+    }
+    for (int i = 0; shape == Shape::Many && i < 3000; ++i) {
+        entries.push_back({"Contents/Resources/many/" + std::to_string(i), number});
+    }
+    const bool is_first = shape == Shape::ClientFirst;
+    const std::string last = shape == Shape::Modes ? "Contents/closed/"
+                             : is_first            ? entries.back().name
+                                                   : kClientPath;
+    if (shape != Shape::NoClient) {
+        entries.insert(is_first ? entries.begin() + 1 : entries.end(),
+                       {kClientPath, ClientLookingFor(last), 0755});
+    }
+    if (shape == Shape::Modes) {
+        entries.push_back({last, "", 0});
+    }
+    return entries;
 }
 
 }  // namespace
@@ -130,12 +176,12 @@ std::string Installation::client() const {
     return app("Contents/MacOS/tarnwell-ui");
 }
 
-void Installation::setBuild(const std::string& number, const std::string& format) {
+void Installation::setBuild(const std::string& number, const std::string& format, Shape shape) {
     MakeFile(bundle("Contents/Resources/INFO"),
              "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + number +
                  "\nicon_overlay_version=7\n");
     MakeFolder(fs::path(package()).parent_path());
-    MakeArchive(package(), format, PackageEntries(number));
+    MakeArchive(package(), format, PackageEntries(number, shape));
 }
 
 void Installation::install(const std::string& number) {
@@ -143,6 +189,25 @@ void Installation::install(const std::string& number) {
     Client::copyTo(client());
     MakeFile(app("Contents/Info.plist"), kInfoPlist);
     MakeFile(app("old"), "of build " + number);
+}
+
+void Installation::install(const std::string& number, Shape shape) {
+    std::vector<Entry> entries = PackageEntries(number, shape);
+    for (const Entry& entry : entries) {
+        if (entry.name.back() == '/') {
+            MakeFolder(app(entry.name));
+        } else if (!entry.symlink.empty()) {
+            MakeLink(entry.symlink, app(entry.name));
+        } else {
+            MakeFile(app(entry.name), entry.content, entry.mode);
+        }
+    }
+    std::reverse(entries.begin(), entries.end());  // a folder after what is in it
+    for (const Entry& entry : entries) {
+        if (entry.name.back() == '/' && entry.mode != kUsualMode) {
+            fs::permissions(app(entry.name), static_cast<fs::perms>(entry.mode));
+        }
+    }
 }
 
 void Installation::setClientPid(pid_t pid) const {
@@ -186,7 +251,8 @@ pid_t Installation::start(void (*before_exec)()) {
         umask(022);
         dup2(open(out.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDOUT_FILENO);
         dup2(open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644), STDERR_FILENO);
-        if (nobody_ && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
+        if (nobody_ &&
+            (setgroups(0, nullptr) != 0 || setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
             _exit(126);
         }
         if (before_exec != nullptr) {
@@ -221,11 +287,22 @@ bool Installation::clientStarted() {
     return WaitFor([&] { return Exists(mark); }) && fs::remove(mark);
 }
 
-FileTree Installation::expectedApp(const std::string& number) const {
+FileTree Installation::expectedApp(const std::string& number, Shape shape,
+                                   bool folder_modes) const {
+    const auto folder = [&](mode_t mode) {
+        return folder_modes ? DescribeFolder(mode == kUsualMode ? 0755 : mode) : "folder";
+    };
     FileTree tree;
-    for (const Entry& entry : PackageEntries(number)) {
+    if (folder_modes) {
+        tree[""] = folder(0755);
+    }
+    for (const Entry& entry : PackageEntries(number, shape)) {
+        for (std::size_t slash = entry.name.find('/'); slash < entry.name.size() - 1;
+             slash = entry.name.find('/', slash + 1)) {
+            tree.emplace(entry.name.substr(0, slash), folder(0755));
+        }
         const std::string name = entry.name.substr(0, entry.name.find_last_not_of('/') + 1);
-        tree[name] = name != entry.name       ? "folder"
+        tree[name] = name != entry.name       ? folder(entry.mode)
                      : !entry.symlink.empty() ? "link: " + entry.symlink
                                               : DescribeFile(entry.mode, entry.content);
     }

@@ -32,6 +32,12 @@ class Client {
     std::shared_future<int> end_;
 };
 
+// What a package holds besides a client, which is its last entry, and a few files: Modes has
+// folders that can't be written, and after the client one that can't be entered either; Links has
+// links to a folder, to nothing, and out of the application; Many has 3,000 files. Single has the
+// client alone, NoClient all but that, and ClientFirst begins with it.
+enum class Shape { Plain, Modes, Links, Single, Many, ClientFirst, NoClient };
+
 // A launcher's bundle and a home folder, both on a disk of their own, and what a test does with
 // them through the real executable.
 class Installation {
@@ -46,9 +52,11 @@ class Installation {
     std::string client() const;  // the installed one's executable
 
     // Gives the bundle this build number and a package of a client with it.
-    void setBuild(const std::string& number, const std::string& format = "zip");
+    void setBuild(const std::string& number, const std::string& format = "zip",
+                  Shape shape = Shape::Plain);
     // Puts an application of this build in place, as an earlier run would have.
     void install(const std::string& number);
+    void install(const std::string& number, Shape shape);  // of such a package
     void setClientPid(pid_t pid) const;
     void logEverything() const;  // otherwise errors and warnings only
 
@@ -71,7 +79,8 @@ class Installation {
     static int wait(pid_t pid);
 
     bool clientStarted();  // since the last call; waits for it
-    FileTree expectedApp(const std::string& number) const;
+    FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
+                         bool folder_modes = false) const;
 
   private:
     Folder folder_;

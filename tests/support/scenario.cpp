@@ -4,8 +4,10 @@
 #include <archive_entry.h>
 #include <fcntl.h>
 #include <sched.h>
+#include <spawn.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -36,8 +38,7 @@ Folder::Folder(const std::string& parent) : path_(parent + "/tarnwell-test-XXXXX
 }
 
 Folder::~Folder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
+    RemoveTree(path_);
 }
 
 void MakeFolder(const std::string& path) {
@@ -70,6 +71,30 @@ void MakeDeepTree(const std::string& path, int depth) {
     close(fd);
 }
 
+void CopyTree(const std::string& from, const std::string& to) {
+    std::string words[] = {"cp", "-a", from, to};
+    char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(),
+                               nullptr};
+    pid_t pid = 0;
+    int status = 0;
+    Check(posix_spawnp(&pid, "cp", nullptr, nullptr, arguments, environ) == 0 &&
+              waitpid(pid, &status, 0) == pid && status == 0,
+          "can't copy " + from);
+}
+
+void RemoveTree(const std::string& path) {
+    std::error_code ignored;
+    if (geteuid() != 0 && fs::is_directory(fs::symlink_status(path, ignored))) {
+        chmod(path.c_str(), 0700);
+        for (const auto& entry : fs::recursive_directory_iterator(path, ignored)) {
+            if (entry.is_directory() && !entry.is_symlink()) {
+                chmod(entry.path().c_str(), 0700);  // before the iterator enters it
+            }
+        }
+    }
+    fs::remove_all(path, ignored);
+}
+
 std::string ReadFile(const std::string& path) {
     std::ostringstream text;
     if (fs::is_regular_file(path)) {
@@ -80,6 +105,12 @@ std::string ReadFile(const std::string& path) {
 
 bool Exists(const std::string& path) {
     return fs::exists(fs::symlink_status(path));
+}
+
+std::string DescribeFolder(mode_t mode) {
+    std::ostringstream text;
+    text << "folder " << std::oct << std::setfill('0') << std::setw(4) << mode;
+    return text.str();
 }
 
 std::string DescribeFile(mode_t mode, const std::string& content) {
@@ -93,17 +124,23 @@ std::string DescribeFile(mode_t mode, const std::string& content) {
     return text.str();
 }
 
-FileTree Tree(const std::string& path) {
+FileTree Tree(const std::string& path, bool folder_modes) {
+    const auto mode = [](const fs::path& file) {
+        return static_cast<mode_t>(fs::status(file).permissions());
+    };
     FileTree tree;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(path)) {
+    if (folder_modes) {
+        tree[""] = DescribeFolder(mode(path));
+    }
+    for (const fs::directory_entry& entry :
+         fs::recursive_directory_iterator(path, fs::directory_options::skip_permission_denied)) {
         std::string& description = tree[entry.path().lexically_relative(path).string()];
         if (entry.is_symlink()) {
             description = "link: " + fs::read_symlink(entry.path()).string();
         } else if (entry.is_directory()) {
-            description = "folder";
+            description = folder_modes ? DescribeFolder(mode(entry.path())) : "folder";
         } else {
-            description = DescribeFile(static_cast<mode_t>(entry.status().permissions()),
-                                       ReadFile(entry.path()));
+            description = DescribeFile(mode(entry.path()), ReadFile(entry.path()));
         }
     }
     return tree;
@@ -197,7 +234,7 @@ void MakeArchive(const std::string& path, const std::string& format,
         const bool folder = from.name.back() == '/';
         archive_entry_set_pathname(entry, from.name.c_str());
         archive_entry_set_filetype(entry, folder ? AE_IFDIR : AE_IFREG);
-        archive_entry_set_perm(entry, folder ? from.mode | 0111 : from.mode);
+        archive_entry_set_perm(entry, folder && from.mode == Entry().mode ? 0755 : from.mode);
         archive_entry_set_size(entry, static_cast<la_int64_t>(from.content.size()));
         if (!from.symlink.empty()) {
             archive_entry_set_filetype(entry, AE_IFLNK);

@@ -35,13 +35,20 @@ void MakeLink(const std::string& target, const std::string& path);
 // Makes a chain of folders named "d", longer than a path may be, with a file at its end.
 void MakeDeepTree(const std::string& path, int depth);
 
+// Copies a folder, a file or a link with its mode, times and owner.
+void CopyTree(const std::string& from, const std::string& to);
+// Removes what is there, also from folders that may not be read or changed.
+void RemoveTree(const std::string& path);
+
 std::string ReadFile(const std::string& path);  // empty when there is no regular one
 bool Exists(const std::string& path);           // a dangling link does
 
 // A folder's content by relative path: "folder", "file 0644: content" or "link: target". Content
-// that is too long to be read is told by its size and hash.
+// that is too long to be read is told by its size and hash. With folder_modes also the modes of the
+// folders in it ("folder 0755"), and of itself, whose path is empty.
 using FileTree = std::map<std::string, std::string>;
-FileTree Tree(const std::string& path);
+FileTree Tree(const std::string& path, bool folder_modes = false);
+std::string DescribeFolder(mode_t mode);
 std::string DescribeFile(mode_t mode, const std::string& content);
 
 // Makes this process a user who isn't root, for what root may always do.
@@ -90,7 +97,8 @@ bool HasOneLine(const std::string& text, const std::string& fragment);
 // What the code under test writes to standard error.
 std::string CaptureStderr(const std::function<void()>& code);
 
-// An entry of an archive: a folder when the name ends in "/", a link when there is a target.
+// An entry of an archive: a folder when the name ends in "/", a link when there is a target. A
+// folder's mode is 0755 unless another is given.
 struct Entry {
     std::string name;
     std::string content = {};

@@ -1,165 +1,247 @@
 #include "tests/support/traced-run.h"
 
 #include <fcntl.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
+#include <sys/uio.h>
 #include <sys/user.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
 #include <climits>
 #include <cstddef>
-#include <fstream>
-#include <map>
+#include <filesystem>
 #include <set>
 #include <stdexcept>
 
 namespace {
 
-using SyscallEntry = decltype(__ptrace_syscall_info::entry);
+using Entry = decltype(__ptrace_syscall_info::seccomp);
 
-const std::set<long> kSyncs = {SYS_fsync, SYS_fdatasync, SYS_syncfs};
+const unsigned kSeconds = 240;  // which no run takes, not even one that waits for another
 
-const std::set<long> kChanges = {
-    SYS_creat,     SYS_mkdir,    SYS_mkdirat,   SYS_rename, SYS_renameat,  SYS_renameat2,
-    SYS_unlink,    SYS_unlinkat, SYS_rmdir,     SYS_link,   SYS_linkat,    SYS_symlink,
-    SYS_symlinkat, SYS_truncate, SYS_ftruncate, SYS_chmod,  SYS_fchmod,    SYS_fchmodat,
-    SYS_chown,     SYS_fchown,   SYS_fchownat,  SYS_lchown, SYS_utimensat, SYS_mknod,
-    SYS_mknodat,   SYS_fsync,    SYS_fdatasync, SYS_syncfs, SYS_fallocate};
+enum Kind { Looks, Opens, Controls, Changing, Syncs };
 
-const std::set<long> kWrites = {SYS_write, SYS_pwrite64, SYS_writev, SYS_pwritev};
+// A system call, and which of its arguments are the descriptor of a folder or file and the path.
+struct Call {
+    const char* name;
+    long number;
+    Kind kind;
+    int descriptor;
+    int path;
+};
+const int kNo = -1;
 
-std::string PathOf(pid_t tid, unsigned long long fd) {
-    const std::string link = "/proc/" + std::to_string(tid) + "/fd/" + std::to_string(fd);
-    char path[PATH_MAX];
-    const ssize_t size = readlink(link.c_str(), path, sizeof path);
-    return std::string(path, size > 0 ? static_cast<std::size_t>(size) : 0);
-}
+#define CALL(name, ...) \
+    { #name, SYS_##name, __VA_ARGS__ }
+const Call kCalls[] = {
+    // by path
+    CALL(open, Opens, kNo, 0), CALL(creat, Changing, kNo, 0), CALL(stat, Looks, kNo, 0),
+    CALL(lstat, Looks, kNo, 0), CALL(access, Looks, kNo, 0), CALL(readlink, Looks, kNo, 0),
+    CALL(statfs, Looks, kNo, 0), CALL(chdir, Looks, kNo, 0), CALL(mkdir, Changing, kNo, 0),
+    CALL(rmdir, Changing, kNo, 0), CALL(unlink, Changing, kNo, 0), CALL(rename, Changing, kNo, 0),
+    CALL(link, Changing, kNo, 0), CALL(symlink, Changing, kNo, 1), CALL(mknod, Changing, kNo, 0),
+    CALL(truncate, Changing, kNo, 0), CALL(chmod, Changing, kNo, 0), CALL(chown, Changing, kNo, 0),
+    CALL(lchown, Changing, kNo, 0), CALL(utimensat, Changing, 0, 1),
+    // by a folder and a path
+    CALL(openat, Opens, 0, 1), CALL(openat2, Opens, 0, 1), CALL(newfstatat, Looks, 0, 1),
+    CALL(statx, Looks, 0, 1), CALL(faccessat, Looks, 0, 1), CALL(faccessat2, Looks, 0, 1),
+    CALL(readlinkat, Looks, 0, 1), CALL(mkdirat, Changing, 0, 1), CALL(unlinkat, Changing, 0, 1),
+    CALL(renameat, Changing, 0, 1), CALL(renameat2, Changing, 0, 1), CALL(linkat, Changing, 0, 1),
+    CALL(symlinkat, Changing, 1, 2), CALL(mknodat, Changing, 0, 1), CALL(fchmodat, Changing, 0, 1),
+    CALL(fchownat, Changing, 0, 1),
+    // by a descriptor
+    CALL(fstat, Looks, 0, kNo), CALL(fstatfs, Looks, 0, kNo), CALL(getdents64, Looks, 0, kNo),
+    CALL(read, Looks, 0, kNo), CALL(pread64, Looks, 0, kNo), CALL(readv, Looks, 0, kNo),
+    CALL(preadv, Looks, 0, kNo), CALL(flock, Looks, 0, kNo), CALL(fchdir, Looks, 0, kNo),
+    CALL(fcntl, Controls, 0, kNo), CALL(write, Changing, 0, kNo), CALL(writev, Changing, 0, kNo),
+    CALL(pwrite64, Changing, 0, kNo), CALL(pwritev, Changing, 0, kNo),
+    CALL(copy_file_range, Changing, 2, kNo), CALL(sendfile, Changing, 0, kNo),
+    CALL(ftruncate, Changing, 0, kNo), CALL(fallocate, Changing, 0, kNo),
+    CALL(fchmod, Changing, 0, kNo), CALL(fchown, Changing, 0, kNo), CALL(fsync, Syncs, 0, kNo),
+    CALL(fdatasync, Syncs, 0, kNo), CALL(syncfs, Syncs, 0, kNo)};
+#undef CALL
 
-std::string TextAt(pid_t tid, unsigned long long address) {
-    std::ifstream memory("/proc/" + std::to_string(tid) + "/mem", std::ios::binary);
-    memory.seekg(static_cast<std::streamoff>(address));
-    std::string text;
-    std::getline(memory, text, '\0');
-    return text;
-}
-
-// Where a build that counts what is executed keeps its counters. They are no part of a run: it
-// writes them when it has ended.
-bool IsCounterFile(const std::string& path) {
-    const std::string suffix = ".gcda";
-    return path.size() > suffix.size() &&
-           path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
-}
-
-bool ChangesFiles(pid_t tid, const SyscallEntry& call) {
-    const auto number = static_cast<long>(call.nr);
-    if (number == SYS_open || number == SYS_openat) {
-        const std::size_t flags = number == SYS_open ? 1 : 2;
-        return (call.args[flags] & (O_CREAT | O_TRUNC)) != 0 &&
-               !IsCounterFile(TextAt(tid, call.args[flags - 1]));
+// Only these calls stop the process; the others run at full speed.
+std::vector<sock_filter> Filter() {
+    std::vector<sock_filter> program = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
+    for (const Call& call : kCalls) {
+        program.push_back(
+            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call.number), 0, 1));
+        program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_TRACE));
     }
-    if (kWrites.count(number) != 0) {
-        const std::string path = PathOf(tid, call.args[0]);
-        return path.compare(0, 1, "/") == 0 && path.compare(0, 5, "/dev/") != 0 &&
-               !IsCounterFile(path);
-    }
-    return kChanges.count(number) != 0;
+    program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
+    return program;
+}
+const std::vector<sock_filter> kFilter = Filter();  // made before the child is
+
+bool IsBelow(const std::string& path, const std::string& folder) {
+    return path.compare(0, folder.size(), folder) == 0 &&
+           (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-void Poke(pid_t tid, std::size_t offset, long value) {
-    ptrace(PTRACE_POKEUSER, tid, offset, value);
+// What is no file, or none of the run: a build that counts what is executed writes its counters
+// when the run has ended.
+bool IsFile(const std::string& path) {
+    const auto is_below = [&](const char* folder) { return IsBelow(path, folder); };
+    const std::string counters = ".gcda";
+    return path[0] == '/' && !is_below("/dev") && !is_below("/proc") && !is_below("/sys") &&
+           (path.size() < counters.size() ||
+            path.compare(path.size() - counters.size(), counters.size(), counters) != 0);
+}
+
+std::string LinkTarget(const std::string& link) {
+    std::error_code ignored;
+    return std::filesystem::read_symlink(link, ignored).string();
+}
+
+std::string TextAt(pid_t task, unsigned long long address) {
+    const std::size_t page = 4096;
+    std::array<char, page + 1> text{};
+    const std::size_t first = page - address % page;  // nothing may be behind the page
+    const iovec local = {text.data(), page};
+    const iovec remote[] = {{reinterpret_cast<void*>(address), first},
+                            {reinterpret_cast<void*>(address + first), page - first}};
+    process_vm_readv(task, &local, 1, remote, 2, 0);
+    return text.data();
+}
+
+std::string PathOf(pid_t task, const Call& call, const Entry& entry) {
+    const std::string path = call.path != kNo ? TextAt(task, entry.args[call.path]) : "";
+    if (path[0] == '/') {
+        return path;
+    }
+    const int fd = call.descriptor != kNo ? static_cast<int>(entry.args[call.descriptor]) : -1;
+    const std::string folder = LinkTarget("/proc/" + std::to_string(task) +
+                                          (fd >= 0 ? "/fd/" + std::to_string(fd) : "/cwd"));
+    return path.empty() ? folder : folder + "/" + path;
+}
+
+bool Changes(const Call& call, const Entry& entry) {
+    return call.kind == Changing || call.kind == Syncs ||
+           (call.kind == Opens && (entry.args[call.path + 1] & (O_CREAT | O_TRUNC)) != 0);
+}
+
+bool IsAboutDescriptor(const Call& call, const Entry& entry) {
+    const auto control = static_cast<int>(entry.args[1]);
+    return call.kind == Controls &&
+           (control == F_GETFD || control == F_SETFD || control == F_GETFL || control == F_SETFL);
 }
 
 class Tracer {
   public:
-    Tracer(TracedRun& run, pid_t process) : run_(run), process_(process) {}
+    Tracer(TracedRun& run, pid_t process)
+        : run_(run), process_(process), threads_("/proc/" + std::to_string(process) + "/task/") {}
 
-    // Deals with one stop; returns the signal to go on with.
-    int handle(pid_t tid, int status) {
-        const int signal = WSTOPSIG(status);
-        if (signal == (SIGTRAP | 0x80)) {
-            handleSystemCall(tid);
-            return 0;
+    void handleStop(pid_t task, int status) {
+        const int event = status >> 16;
+        if (event == PTRACE_EVENT_SECCOMP) {
+            handleCall(task);
         }
-        const bool is_event = status >> 16 != 0;
-        const bool is_new_thread = signal == SIGSTOP && known_.insert(tid).second;
-        return is_event || is_new_thread ? 0 : signal;
+        // Every new task begins with a SIGSTOP.
+        const int signal = event != 0 || WSTOPSIG(status) == SIGSTOP ? 0 : WSTOPSIG(status);
+        ptrace(PTRACE_CONT, task, nullptr, signal);
     }
 
   private:
-    void handleSystemCall(pid_t tid) {
+    void handleCall(pid_t task) {
         __ptrace_syscall_info info{};
-        ptrace(PTRACE_GET_SYSCALL_INFO, tid, sizeof info, &info);
-        if (info.op == PTRACE_SYSCALL_INFO_ENTRY) {
-            current_[tid] = info.entry;
-            if (ChangesFiles(tid, info.entry) && ++run_.calls == run_.fault_at) {
-                strike(tid);
-            }
-        } else if (info.op == PTRACE_SYSCALL_INFO_EXIT) {
-            if (failing_ == tid) {
-                Poke(tid, offsetof(user_regs_struct, rax), -run_.error);
-                failing_ = 0;
-            } else if (info.exit.rval == 0 && run_.on_sync) {
-                reportSync(tid, current_[tid]);
-            }
+        ptrace(PTRACE_GET_SYSCALL_INFO, task, sizeof info, &info);
+        const Entry& entry = info.seccomp;
+        const Call& call = *std::find_if(std::begin(kCalls), std::end(kCalls), [&](const Call& c) {
+            return c.number == static_cast<long>(entry.nr);
+        });
+        const bool changes = Changes(call, entry);
+        if ((run_.changes_only && !changes) || IsAboutDescriptor(call, entry)) {
+            return;
+        }
+        const std::string path = PathOf(task, call, entry);
+        if (!counts(path) || access((threads_ + std::to_string(task)).c_str(), F_OK) != 0) {
+            return;
+        }
+        const bool is_struck = ++run_.calls == run_.fault_at;
+        if (is_struck) {
+            run_.struck = std::string(call.name) + " " + path;
+            run_.struck_a_change = changes;
+        }
+        if (is_struck || (run_.lasting && run_.fault_at != 0 && run_.calls > run_.fault_at)) {
+            strike(task);
+        } else if (call.kind == Syncs && run_.on_sync) {
+            run_.on_sync(call.number == SYS_syncfs ? std::string() : path);
         }
     }
 
-    void strike(pid_t tid) {
+    bool counts(const std::string& path) {
+        const auto is_below = [&](const std::string& folder) { return IsBelow(path, folder); };
+        has_begun_ |= run_.since.empty() || is_below(run_.since);
+        return has_begun_ && IsFile(path) &&
+               (run_.within.empty() ||
+                std::any_of(run_.within.begin(), run_.within.end(), is_below));
+    }
+
+    void strike(pid_t task) {
         if (run_.interfere) {
             run_.interfere(process_);
         } else if (run_.error == 0) {
             kill(process_, SIGKILL);
-        } else {
-            Poke(tid, offsetof(user_regs_struct, orig_rax), -1);
-            failing_ = tid;
-        }
-    }
-
-    void reportSync(pid_t tid, const SyscallEntry& call) {
-        const long number = static_cast<long>(call.nr);
-        if (kSyncs.count(number) != 0) {
-            run_.on_sync(number == SYS_syncfs ? std::string() : PathOf(tid, call.args[0]));
+        } else if (run_.error != EINTR || interrupted_.erase(task) == 0) {
+            ptrace(PTRACE_POKEUSER, task, offsetof(user_regs_struct, orig_rax), -1L);
+            ptrace(PTRACE_POKEUSER, task, offsetof(user_regs_struct, rax), 0L - run_.error);
+            interrupted_.insert(task);
         }
     }
 
     TracedRun& run_;
     const pid_t process_;
-    pid_t failing_ = 0;
-    std::set<pid_t> known_;
-    std::map<pid_t, SyscallEntry> current_;
+    const std::string threads_;
+    bool has_begun_ = false;
+    std::set<pid_t> interrupted_;
 };
+
+volatile pid_t watched = 0;
 
 }  // namespace
 
 void BeTraced() {
     ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
     raise(SIGSTOP);
+    const sock_fprog filter = {static_cast<unsigned short>(kFilter.size()),
+                               const_cast<sock_filter*>(kFilter.data())};
+    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 ||
+        prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) != 0) {
+        _exit(125);
+    }
 }
 
-void TracedRun::follow(pid_t pid) {
+int TracedRun::follow(pid_t pid) {
     int status = 0;
     if (waitpid(pid, &status, __WALL) != pid || !WIFSTOPPED(status)) {
         throw std::runtime_error("the process can't be traced");
     }
-    const long options =
-        PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACECLONE | PTRACE_O_TRACEEXEC | PTRACE_O_EXITKILL;
+    const long options = PTRACE_O_TRACESECCOMP | PTRACE_O_TRACECLONE | PTRACE_O_TRACEFORK |
+                         PTRACE_O_TRACEVFORK | PTRACE_O_TRACEEXEC | PTRACE_O_EXITKILL;
     ptrace(PTRACE_SETOPTIONS, pid, nullptr, options);
+    ptrace(PTRACE_CONT, pid, nullptr, nullptr);
+    watched = pid;
+    signal(SIGALRM, [](int) { kill(watched, SIGKILL); });
+    alarm(kSeconds);
     Tracer tracer(*this, pid);
-    ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr);
-    for (;;) {
-        const pid_t tid = waitpid(-1, &status, __WALL);
-        if (tid < 0) {
-            throw std::runtime_error("the traced process is lost");
-        }
-        if (WIFSTOPPED(status)) {
-            const long signal = tracer.handle(tid, status);
-            ptrace(PTRACE_SYSCALL, tid, nullptr, signal);
-        } else if (tid == pid) {
-            end = WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
-            return;
+    for (pid_t task = 1; task > 0 || errno == EINTR;) {
+        task = waitpid(-1, &status, __WALL);
+        if (task > 0 && WIFSTOPPED(status)) {
+            tracer.handleStop(task, status);
+        } else if (task > 0) {
+            ends[task] = WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
         }
     }
+    alarm(0);
+    return ends.at(pid);
 }

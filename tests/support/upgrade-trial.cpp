@@ -1,0 +1,172 @@
+#include "tests/support/upgrade-trial.h"
+
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const int kMostShown = 5;
+
+bool IsTree(const std::string& path, const FileTree& tree) {
+    return fs::is_directory(fs::symlink_status(path)) && Tree(path, true) == tree;
+}
+
+}  // namespace
+
+std::string Scene::name() const {
+    const char* const shapes[] = {"plain", "modes",        "links",    "single",
+                                  "many",  "client first", "no client"};
+    const char* const arounds[] = {"", " and leftover", " on overlay"};
+    const char* const cuts[] = {"", " cut after", " cut before"};
+    return (has_old ? shapes[static_cast<int>(old)] : std::string("nothing")) + arounds[around] +
+           " to " + shapes[static_cast<int>(package)] + cuts[cut];
+}
+
+UpgradeTrial::UpgradeTrial(const Scene& of, bool run_as_user, bool on_small_disk)
+    : scene(of), as_user(run_as_user) {
+    prctl(PR_SET_CHILD_SUBREAPER, 1);  // to wait for the clients that the launcher leaves
+    if (on_small_disk) {
+        disk_ = std::make_unique<SmallDisk>(in.home(), "1m");
+    } else if (scene.around == Scene::OnOverlay) {
+        disk_ = std::make_unique<SmallDisk>(in.home() + "/layers", "8m");
+    }
+}
+
+UpgradeTrial::~UpgradeTrial() {
+    umount2(in.user().c_str(), MNT_DETACH);
+}
+
+void UpgradeTrial::setPackage(int build, Scene::Cut cut) {
+    const std::string number = std::to_string(build);
+    const char* const whole = scene.package == Shape::Plain ? "zip" : "tar.zst";
+    in.setBuild(number, cut == Scene::Whole ? whole : "tar", scene.package);
+    new_app = in.expectedApp(number, scene.package, true);
+    if (cut != Scene::Whole && scene.package != Shape::NoClient) {
+        const char* const last =
+            scene.package == Shape::Modes ? "Contents/closed/" : "Contents/Resources/data.bin";
+        const char* const at = cut == Scene::CutBefore ? "Contents/MacOS/tarnwell-ui" : last;
+        fs::resize_file(in.package(), ReadFile(in.package()).find(at, 0, strlen(at) + 1) + 100);
+    }
+}
+
+void UpgradeTrial::arrange() {
+    has_failed = false;
+    umount2(in.user().c_str(), MNT_DETACH);
+    for (const std::string& path : {in.user(), sentinel_, in.home() + "/started"}) {
+        RemoveTree(path);
+    }
+    MakeFile(sentinel_ + "/file");
+    MakeFolder(in.user("log"));
+    setPackage(100, scene.cut);
+    if (scene.has_old) {
+        in.install("99", scene.old);
+        old_app = Tree(in.app(), true);
+    }
+    if (scene.around != Scene::Nothing) {
+        MakeFile(in.user("Tarnwell.app_tmp/leftover"));
+    }
+    old_names_ = names();
+    if (as_user) {
+        in.runAsNobody();
+    }
+    if (scene.around == Scene::OnOverlay) {
+        mountOverlay();
+    }
+}
+
+void UpgradeTrial::mountOverlay() {
+    const std::string layers = in.home() + "/layers/overlay";
+    RemoveTree(layers);
+    MakeFolder(layers);
+    CopyTree(in.user(), layers + "/lower");
+    CopyTree(in.user("log"), layers + "/upper");
+    MakeFolder(layers + "/work");
+    const std::string options = "lowerdir=" + layers + "/lower,upperdir=" + layers +
+                                "/upper,workdir=" + layers + "/work,redirect_dir=off";
+    if (mount("none", in.user().c_str(), "overlay", 0, options.c_str()) != 0) {
+        throw std::runtime_error("can't mount an overlay");
+    }
+}
+
+int UpgradeTrial::follow(TracedRun& run) {
+    const int end = run.follow(in.start(BeTraced));
+    doing += " at " + run.struck;
+    return end;
+}
+
+int UpgradeTrial::runUndisturbed() {
+    const int end = Installation::wait(in.start());
+    while (waitpid(-1, nullptr, 0) > 0) {  // what it has left
+    }
+    return end;
+}
+
+std::set<std::string> UpgradeTrial::names() const {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(in.user())) {
+        names.insert(entry.path().filename());
+    }
+    return names;
+}
+
+bool UpgradeTrial::isWhole(const FileTree& app) const {
+    const std::set<std::string> there = names();
+    if (std::any_of(there.begin(), there.end(), [&](const std::string& name) {
+            return name.find("Tarnwell.app") == 0 && IsTree(in.user(name), app);
+        })) {
+        return true;
+    }
+    if (there.count("Tarnwell.app") == 0 || there.count("Tarnwell.app_part") == 0) {
+        return false;
+    }
+    FileTree parts =
+        Tree(in.user("Tarnwell.app_part"));  // whose folders get their modes at the end
+    parts.merge(Tree(in.app()));
+    return std::all_of(app.begin(), app.end(), [&](const auto& entry) {
+        const auto part = parts.find(entry.first);
+        return entry.first.empty() || (part != parts.end() && entry.second.find(part->second) == 0);
+    });
+}
+
+void UpgradeTrial::check(bool good, const std::string& what) {
+    has_failed |= !good;
+    if (!good && ++shown_ <= kMostShown) {
+        ADD_FAILURE() << doing << ": " << what << "\n"
+                      << testing::PrintToString(names()) << "\n"
+                      << ReadFile(in.user("log/launcher.log"));
+    }
+}
+
+void UpgradeTrial::checkInPlace() {
+    check(!scene.has_old || IsTree(in.app(), old_app) || IsTree(in.app(), new_app),
+          "nothing whole in its place");
+}
+
+void UpgradeTrial::checkEnd(bool is_new) {
+    check(IsTree(in.app(), is_new ? new_app : old_app), "the wrong application at the end");
+    for (const std::string& name : names()) {
+        const bool was_there = !is_new && old_names_.count(name) != 0;
+        check(was_there || name == "log" || name == "Tarnwell.app", name + " is left at the end");
+    }
+    check(Tree(sentinel_).size() == 1, "something outside was touched");
+    check(ReadFile(in.home() + "/started").find("half") == std::string::npos,
+          "half an application was started");
+}
+
+void UpgradeTrial::recover() {
+    check(!scene.has_old || isWhole(old_app) || isWhole(new_app), "nothing whole is left");
+    const bool is_new = scene.cut == Scene::Whole || !scene.has_old;
+    if (scene.cut != Scene::Whole && is_new) {
+        setPackage(101);
+    }
+    check(runUndisturbed() == 0, "exit code of the next run");
+    checkEnd(is_new);
+}
