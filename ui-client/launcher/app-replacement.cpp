@@ -259,8 +259,8 @@ AppReplacement::Attempt AppReplacement::TryBackUp() {
     if (!is_free || !lock_->held() || journal_.write(record_) != 0) {
         return Attempt::NotMoved;
     }
-    if (std::rename(app_.c_str(), to.c_str()) != 0 && errno == EXDEV && !MoveByEntry() &&
-        !RestoreEntries()) {
+    if (std::rename(app_.c_str(), to.c_str()) != 0 && errno == EXDEV &&
+        !MoveFolderByEntries(app_, part_, to) && !RestoreEntries()) {
         return Attempt::CantTell;
     }
     // Look, for a remote disk can report a failure for what it has done. The move must be on the
@@ -275,20 +275,7 @@ AppReplacement::Attempt AppReplacement::TryBackUp() {
     return durable ? Attempt::Moved : RestoreBackup(false) ? Attempt::NotMoved : Attempt::CantTell;
 }
 
-// Moves an application folder that can't be renamed to the backup's name entry by entry, by way of
-// a new folder. That folder gets the backup's name when it holds them all, which makes it the
-// backup: a cut finds either the part or the backup.
-bool AppReplacement::MoveByEntry() {
-    rmdir(part_.c_str());  // an empty one may be left
-    if (!MakeFolderLike(app_, part_) || !MoveEntries(app_, part_) ||
-        platform::SyncVolume(part_.c_str()) != 0 ||
-        std::rename(part_.c_str(), backup().c_str()) != 0) {
-        return false;
-    }
-    return rmdir(app_.c_str()) == 0;
-}
-
-// Moves back what MoveByEntry has moved, also in an earlier run. The application's inode may be
+// Moves back what was moved entry by entry, also in an earlier run. The application's inode may be
 // another one then.
 bool AppReplacement::RestoreEntries() {
     const Presence part = LookAt(part_);

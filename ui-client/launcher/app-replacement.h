@@ -76,7 +76,6 @@ class AppReplacement {
     int BeginInstallation();
     int BackUp();
     Attempt TryBackUp();
-    bool MoveByEntry();
     bool RestoreEntries();
     bool RestoreBackup(bool may_remove);
     bool Identify(std::uint64_t object);

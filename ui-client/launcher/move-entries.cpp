@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "lib/libclient/walk.h"
+#include "lib/platform/durability.h"
 #include "lib/platform/folder-rights.h"
 
 using file_op::Entry;
@@ -155,4 +156,11 @@ bool MakeFolderLike(const ustring& folder, const ustring& path) {
 
 bool MoveEntries(const ustring& from, const ustring& to) {
     return EntryMove(from, to).move();
+}
+
+bool MoveFolderByEntries(const ustring& from, const ustring& via, const ustring& to) {
+    rmdir(via.c_str());  // an empty one may be left
+    return MakeFolderLike(from, via) && MoveEntries(from, via) &&
+           platform::SyncVolume(via.c_str()) == 0 && std::rename(via.c_str(), to.c_str()) == 0 &&
+           rmdir(from.c_str()) == 0;
 }

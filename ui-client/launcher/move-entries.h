@@ -25,4 +25,9 @@ bool MakeFolderLike(const ustring& folder, const ustring& path);
 // volumes that are mounted in them are not entered. false leaves the rest where it was.
 bool MoveEntries(const ustring& from, const ustring& to);
 
+// Moves the folder from to the free path to by way of a new folder, via, which gets that name when
+// it holds all entries and they are on the disk: a cut finds them in from and via, or all of them
+// at to. false leaves it at that.
+bool MoveFolderByEntries(const ustring& from, const ustring& via, const ustring& to);
+
 #endif
