@@ -64,6 +64,8 @@ TEST_F(LogTest, BeforeItsStartMessagesGoToStandardError) {
 TEST_F(LogTest, ThresholdsComeFromTheLevelFile) {
     MakeFile(levels_, "log_test_debug=6\ndefault_component=7\nsilent=not-a-number\n");
     ASSERT_EQ(logToFile(), 0);
+    EXPECT_TRUE(Logger::IsWritten(Logger::LEVEL_INFO, log_component));
+    EXPECT_FALSE(Logger::IsWritten(Logger::LEVEL_DEBUG, log_component));
     LOG_MSG(INFO, "info\n");
     LOG_MSG_AT(4711, DEBUG, "debug\n");
     Logger::LogMsg(Logger::LEVEL_ERROR, "silent", "silenced\n");

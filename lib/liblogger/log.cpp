@@ -146,18 +146,24 @@ void Logger::LogMsg(Level level, const ustring& component, const char* fmt, ...)
 }
 
 void Logger::LogMsg2(Level level, const ustring& component, const char* fmt, va_list args) {
-    if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
+    if (!IsWritten(level, component)) {
         return;
     }
     const int saved_errno = errno;
     {
         const LogLock lock(log_lock);
-        const int* const threshold = FindThreshold(component);
-        if ((threshold != nullptr ? *threshold : kDefaultThreshold) >= level) {
-            Write(fmt, args);
-        }
+        Write(fmt, args);
     }
     errno = saved_errno;
+}
+
+// Without the lock: thresholds change only while nothing else runs.
+bool Logger::IsWritten(Level level, const ustring& component) {
+    if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
+        return false;
+    }
+    const int* const threshold = FindThreshold(component);
+    return (threshold != nullptr ? *threshold : kDefaultThreshold) >= level;
 }
 
 // Writes to the destination of the moment and rotates a log file that has grown too large. The

@@ -51,6 +51,10 @@ class Logger {
     static void LogMsg2(Level level, const ustring& component, const char* fmt, va_list args)
         __attribute__((format(printf, 3, 0)));
 
+    // Whether a message of this level and component is written at present, for callers to whom it
+    // is expensive to make. Threads: as LogMsg.
+    static bool IsWritten(Level level, const ustring& component);
+
   private:
     static int* FindThreshold(const ustring& component);
     static void SetThreshold(const ustring& component, int threshold);
