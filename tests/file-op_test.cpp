@@ -1,46 +1,15 @@
 #include "lib/libclient/file-op.h"
 
 #include <fcntl.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 
-#include "lib/liblogger/log.h"
-#include "tests/support/scenario.h"
+#include "tests/support/file-op-fixture.h"
 
 namespace {
-
-mode_t ModeOf(const std::string& path) {
-    struct stat status;
-    return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
-// Works in a folder of its own, in which "kinds" holds one of each kind of object.
-class FileOpTest : public testing::Test {
-  protected:
-    FileOpTest() {
-        umask(022);
-        EXPECT_EQ(chdir(folder_.path().c_str()), 0);
-        MakeFile("kinds/file", "12345");
-        MakeFolder("kinds/folder");
-        MakeLink("file", "kinds/link to file");
-        MakeLink("folder", "kinds/link to folder");
-        MakeLink("nowhere", "kinds/dangling");
-        MakeLink("loop", "kinds/loop");
-        mkfifo("kinds/pipe", 0600);
-        sockaddr_un address{AF_UNIX, "kinds/socket"};
-        const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
-        bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address);
-        close(fd);
-    }
-
-    Folder folder_;
-    Folder other_volume_{"/dev/shm"};
-};
 
 TEST_F(FileOpTest, DescribesEveryKind) {
     const std::pair<const char*, int> cases[] = {
@@ -152,19 +121,6 @@ TEST_F(FileOpTest, SaysWhyItCannotCopy) {
     EXPECT_EQ(ReadFile("kinds/file"), "12345");
 }
 
-TEST_F(FileOpTest, AFullDiskIsTold) {
-    const SmallDisk disk("disk", "64k");
-    if (!disk.mounted()) {
-        GTEST_SKIP() << "this user may not mount a small disk";
-    }
-    MakeFile("tree/big", std::string(100000, 'x'));
-    EXPECT_EQ(FSCopy("tree/big", "disk/big", true), -2);
-    EXPECT_TRUE(Exists("disk/big")) << "what was written is left";
-    EXPECT_EQ(FSRename("tree/big", "disk/file", false), -3);
-    EXPECT_EQ(FSRename("tree", "disk/tree", false), -3);
-    EXPECT_EQ(ReadFile("tree/big").size(), 100000u);
-}
-
 TEST_F(FileOpTest, MovesWithinAVolume) {
     MakeFile("in/b", "old");
     MakeFile("in/full/file");
@@ -184,46 +140,6 @@ TEST_F(FileOpTest, MovesWithinAVolume) {
     EXPECT_EQ(
         Tree("in"),
         (FileTree{{"full", "folder"}, {"full/file", "file 0644: "}, {name, "file 0644: 12345"}}));
-}
-
-TEST_F(FileOpTest, MovesTreesAcrossVolumes) {
-    MakeFile("tree/a/b/file", "new", 0600);
-    MakeFile("tree/top", "top");
-    MakeFolder("tree/empty");
-    MakeFile(other_volume_ / "tree/a/kept", "kept");
-    MakeFile(other_volume_ / "tree/a/b/file", "old");
-    EXPECT_EQ(FSRename(folder_ / "tree", other_volume_ / "tree", true), 0);
-    EXPECT_FALSE(Exists("tree"));
-    EXPECT_EQ(Tree(other_volume_.path()), (FileTree{{"tree", "folder"},
-                                                    {"tree/a", "folder"},
-                                                    {"tree/a/b", "folder"},
-                                                    {"tree/a/b/file", "file 0644: new"},
-                                                    {"tree/a/kept", "file 0644: kept"},
-                                                    {"tree/empty", "folder"},
-                                                    {"tree/top", "file 0644: top"}}));
-    EXPECT_EQ(FSRename(other_volume_ / "tree/top", "top", false), 0);
-    EXPECT_EQ(ReadFile("top"), "top");
-    EXPECT_FALSE(Exists(other_volume_ / "tree/top"));
-}
-
-TEST_F(FileOpTest, WhatCannotMoveAcrossVolumesStaysBehind) {
-    EXPECT_EQ(FSRename("kinds/link to file", other_volume_ / "x", false), 0);
-    EXPECT_EQ(FSRename("kinds/pipe", other_volume_ / "x", false), 0);
-    EXPECT_FALSE(Exists(other_volume_ / "x"));
-    EXPECT_EQ(FSRename("kinds", other_volume_ / "kinds", false), -3);
-    EXPECT_TRUE(Exists("kinds/link to file") && Exists("kinds/pipe"));
-    MakeFile("left/file");
-    mkfifo("left/pipe", 0600);
-    EXPECT_EQ(FSRename("left", other_volume_ / "left", false), -3);
-    EXPECT_TRUE(Exists("left/pipe"));
-
-    MakeFile("tree/name/file");
-    MakeFile(other_volume_ / "tree/name", "a file where a folder goes");
-    const std::string log =
-        CaptureStderr([&] { EXPECT_EQ(FSRename("tree", other_volume_ / "tree", false), -3); });
-    EXPECT_TRUE(HasOneLine(log, "is not directory '" + other_volume_ / "tree/name" + "' (1)"))
-        << log;
-    EXPECT_TRUE(Exists("tree/name/file"));
 }
 
 TEST_F(FileOpTest, MakesFolders) {
@@ -310,73 +226,6 @@ TEST_F(FileOpTest, GivesFoldersToTheOwner) {
     }
 }
 
-TEST_F(FileOpTest, RemovesFilesLinksAndTrees) {
-    EXPECT_EQ(FSRemove("", false), -1);
-    EXPECT_EQ(FSRemove("missing", false), 0);
-    EXPECT_EQ(FSRemove("kinds/file/below", false), -1);
-    MakeFile("target/kept");
-    MakeLink("../../../target", "kinds/folder/deep/link");
-    EXPECT_EQ(FSRemove("kinds/link to file", false), 0);
-    EXPECT_TRUE(Exists("kinds/file"));
-    EXPECT_EQ(FSRemove("kinds", false), 0);
-    EXPECT_FALSE(Exists("kinds"));
-    EXPECT_TRUE(Exists("target/kept"));
-}
-
-TEST_F(FileOpTest, LeavesWhatItMayNotOpen) {
-    MakeFile("tree/closed/file");
-    chmod("tree", 0777);
-    chmod("tree/closed", 0);
-    {
-        const AsNobody nobody;
-        EXPECT_EQ(FSRemove("tree/closed", false), 0);
-        EXPECT_EQ(FSRemove("tree", false), -3);
-        EXPECT_TRUE(isFileLocked("tree/closed/file", F_OK));
-        DIR_HANDLE handle;
-        EXPECT_EQ(FSOpenDir("tree/closed", 0, handle), -1);
-    }
-    chmod("tree/closed", 0755);
-    EXPECT_FALSE(isFileLocked("missing", R_OK));
-    EXPECT_FALSE(isFileLocked("tree", R_OK));
-    EXPECT_TRUE(Exists("tree/closed/file"));
-}
-
-TEST_F(FileOpTest, NeitherDepthNorWidthHasALimit) {
-    const FewDescriptors few;
-    MakeDeepTree("tree", 10000);
-    EXPECT_EQ(FSRename("tree", other_volume_ / "tree", false), 0);
-    EXPECT_FALSE(Exists("tree"));
-    for (int i = 0; i < 5000; ++i) {
-        MakeFile(other_volume_ / "tree/wide/" + std::to_string(i));
-    }
-    EXPECT_EQ(FSRemove(other_volume_ / "tree", false), 0);
-    EXPECT_FALSE(Exists(other_volume_ / "tree"));
-}
-
-// Moves a folder of the tree away while one that is far below it is copied.
-class MovesAway : public FSCopyListener {
-  public:
-    void onFolder(const char*, const char*) override {
-        EXPECT_TRUE(++folders != 25 || rename("tree/d/d/d", "moved") == 0);
-    }
-    void onNoFolder(const char*) override {}
-    void onUnlisted(const char*) override {}
-    void onSpecial(const char*, std::int32_t) override {}
-    void onFailure(const char*, const char* dst) override { failed.emplace_back(dst); }
-
-    int folders = 0;
-    std::vector<std::string> failed;
-};
-
-TEST_F(FileOpTest, ACopyEndsWhereItsWayBackIsGone) {
-    MakeDeepTree("tree", 30);
-    MovesAway mover;
-    const std::string log =
-        CaptureStderr([&] { EXPECT_EQ(FSCopyTree("tree", "copy", mover), -1); });
-    EXPECT_TRUE(HasOneLine(log, "CopyFile: open(tree/d/d/.): Stale file handle")) << log;
-    EXPECT_EQ(mover.failed, (std::vector<std::string>{"copy/d/d/d", "copy/d/d", "copy/d"}));
-}
-
 TEST_F(FileOpTest, ListsFolders) {
     for (const int flags : {0, static_cast<int>(DIR_OPEN_STAT)}) {
         SCOPED_TRACE(flags);
@@ -438,21 +287,6 @@ TEST_F(FileOpTest, KnowsVolumes) {
     const std::string message = ": Failed to get file system info '/nowhere'. No such";
     EXPECT_TRUE(HasOneLine(log, "isMountPoint" + message));
     EXPECT_TRUE(HasOneLine(log, "IsSupportLargeFile" + message));
-}
-
-TEST_F(FileOpTest, TellsWhatItMayNotRemove) {
-    const std::string file = folder_ / "tree/fixed/file";
-    MakeFile(file);
-    chmod(other_volume_.path().c_str(), 0777);
-    chmod((folder_ / "tree/fixed").c_str(), 0555);
-    {
-        const AsNobody nobody;
-        EXPECT_EQ(FSRemove(ustring(file), false), -3);
-        EXPECT_EQ(FSRemove("tree", false), -3);
-        EXPECT_EQ(FSRename(ustring(file), ustring(other_volume_ / "file"), false), -3);
-    }
-    EXPECT_TRUE(Exists(file));
-    chmod((folder_ / "tree/fixed").c_str(), 0755);
 }
 
 }  // namespace

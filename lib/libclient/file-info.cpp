@@ -83,6 +83,23 @@ std::int32_t file_op::TypeAt(const Place& place, std::int32_t listed) {
     return listed;
 }
 
+file_op::LookUpLog::LookUpLog()
+    : is_written_(Logger::IsWritten(Logger::LEVEL_DEBUG, log_component)) {}
+
+void file_op::LookUpLog::info(const Place& place) const {
+    if (is_written_) {
+        _FILE_INFO_tag info;
+        GetFileInfo(place.path(), info);
+    }
+}
+
+void file_op::LookUpLog::stat(const Place& place, bool exact) const {
+    if (is_written_) {
+        _FILE_INFO_tag info;
+        FSStat(place.path(), info, exact);
+    }
+}
+
 bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
     return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime && a.type == b.type &&
            a.path == b.path && a.alt_path == b.alt_path;

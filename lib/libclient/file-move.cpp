@@ -34,6 +34,7 @@ class MoveWalk : private file_op::Walk {
     bool take(const Entry& entry) override {
         const Place src = chain_.at(entry.name);
         const Place dst = to_.at(entry.name);
+        look_ups_.stat(src, exact_);
         struct stat status;
         if (faccessat(src.folder, src.name, F_OK, 0) != 0 ||
             fstatat(src.folder, src.name, &status, AT_SYMLINK_NOFOLLOW) != 0 ||
@@ -49,8 +50,12 @@ class MoveWalk : private file_op::Walk {
         if (S_ISREG(status.st_mode)) {
             return file_op::CopyFile(src, dst, true) == 0;
         }
-        return !S_ISDIR(status.st_mode) ||
-               (file_op::MakeFolder(dst) == 0 && to_.enter(dst) && chain_.enter(src));
+        return !S_ISDIR(status.st_mode) || enter(src, dst);
+    }
+
+    bool enter(const Place& src, const Place& dst) {
+        look_ups_.info(dst);
+        return file_op::MakeFolder(dst) == 0 && to_.enter(dst) && chain_.enter(src);
     }
 
     // A folder of which a broken off listing has left something isn't empty and so isn't deleted.
@@ -65,7 +70,8 @@ class MoveWalk : private file_op::Walk {
     const Place src_;
     const Place dst_;
     const bool exact_;
-    FolderChain to_{FolderChain::List};
+    const file_op::LookUpLog look_ups_;
+    FolderChain to_{FolderChain::Pass};
 };
 
 }  // namespace

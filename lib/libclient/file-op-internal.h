@@ -25,6 +25,18 @@ std::int32_t TypeOfEntry(const dirent& entry);
 // errno set, when that doesn't say either.
 std::int32_t TypeAt(const Place& place, std::int32_t listed = FILE_TYPE_UNKNOWN);
 
+// Logs what looking up objects by their paths would log. The walks name objects relative to open
+// folders, and compute nothing for the log unless these lines are written.
+class LookUpLog {
+  public:
+    LookUpLog();
+    void info(const Place& place) const;              // the lines of GetFileInfo
+    void stat(const Place& place, bool exact) const;  // the lines of FSStat
+
+  private:
+    const bool is_written_;
+};
+
 // file-copy.cpp
 
 // FSCopy.

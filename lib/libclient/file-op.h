@@ -126,8 +126,9 @@ int FSCopyTree(const ustring& src, const ustring& dst, FSCopyListener& listener)
 
 // Moves src to dst. On one volume this is atomic and replaces an existing file or empty folder.
 // Across volumes it copies and deletes, entry by entry: a file replaces a file, a folder is merged
-// into an existing one, which must be readable. There, links, pipes, sockets and devices stay where
-// they are, which is a success for such an object alone and a failure for the folder that holds it.
+// into an existing one, which needn't be readable. There, links, pipes, sockets and devices stay
+// where they are, which is a success for such an object alone and a failure for the folder that
+// holds it.
 // Not atomic there: what was moved before a failure is at dst, the rest at src. Depth and size of a
 // tree are not limited. Returns -1 for an empty path, -2 when src is missing (see IsFileExist for
 // exact) or can't be examined, -100 for a name that is too long, -3 for any other failure.

@@ -29,6 +29,7 @@ class RemoveWalk : private file_op::Walk {
   private:
     bool take(const Entry& entry) override {
         const Place place = chain_.at(entry.name);
+        look_ups_.info(place);
         if (file_op::TypeAt(place, entry.type) == FILE_TYPE_DIR) {
             chain_.enter(place);
             return true;
@@ -46,6 +47,7 @@ class RemoveWalk : private file_op::Walk {
     }
 
     const Place root_;
+    const file_op::LookUpLog look_ups_;
 };
 
 // FSRemoveOwnTree of a folder. What can't be removed is left, and the walk goes on.
@@ -63,6 +65,7 @@ class RemoveOwnWalk : private file_op::Walk {
   private:
     bool take(const Entry& entry) override {
         const Place place = chain_.at(entry.name);
+        look_ups_.info(place);
         if (!dealWith(place, entry.type) &&
             !(file_op::IsNoPermission() && chain_.unlock() && dealWith(place, entry.type))) {
             complete_ = false;
@@ -97,6 +100,7 @@ class RemoveOwnWalk : private file_op::Walk {
     }
 
     const Place root_;
+    const file_op::LookUpLog look_ups_;
     bool complete_ = true;
 };
 

@@ -1,0 +1,207 @@
+// The file operations on whole trees.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <regex>
+
+#include "lib/libclient/file-op.h"
+#include "lib/liblogger/log.h"
+#include "tests/support/file-op-fixture.h"
+
+namespace {
+
+using FileTreeTest = FileOpTest;
+
+TEST_F(FileTreeTest, AFullDiskIsTold) {
+    const SmallDisk disk("disk", "64k");
+    if (!disk.mounted()) {
+        GTEST_SKIP() << "this user may not mount a small disk";
+    }
+    MakeFile("tree/big", std::string(100000, 'x'));
+    EXPECT_EQ(FSCopy("tree/big", "disk/big", true), -2);
+    EXPECT_TRUE(Exists("disk/big")) << "what was written is left";
+    EXPECT_EQ(FSRename("tree/big", "disk/file", false), -3);
+    EXPECT_EQ(FSRename("tree", "disk/tree", false), -3);
+    EXPECT_EQ(ReadFile("tree/big").size(), 100000u);
+}
+
+TEST_F(FileTreeTest, MovesTreesAcrossVolumes) {
+    MakeFile("tree/a/b/file", "new", 0600);
+    MakeFile("tree/top", "top");
+    MakeFolder("tree/empty");
+    MakeFile(other_volume_ / "tree/a/kept", "kept");
+    MakeFile(other_volume_ / "tree/a/b/file", "old");
+    EXPECT_EQ(FSRename(folder_ / "tree", other_volume_ / "tree", true), 0);
+    EXPECT_FALSE(Exists("tree"));
+    EXPECT_EQ(Tree(other_volume_.path()), (FileTree{{"tree", "folder"},
+                                                    {"tree/a", "folder"},
+                                                    {"tree/a/b", "folder"},
+                                                    {"tree/a/b/file", "file 0644: new"},
+                                                    {"tree/a/kept", "file 0644: kept"},
+                                                    {"tree/empty", "folder"},
+                                                    {"tree/top", "file 0644: top"}}));
+    EXPECT_EQ(FSRename(other_volume_ / "tree/top", "top", false), 0);
+    EXPECT_EQ(ReadFile("top"), "top");
+    EXPECT_FALSE(Exists(other_volume_ / "tree/top"));
+}
+
+TEST_F(FileTreeTest, MergesIntoAFolderThatCannotBeListed) {
+    ASSERT_EQ(chmod(".", 0777) + chmod(other_volume_.path().c_str(), 0777), 0);
+    const std::string dst = other_volume_ / "tree";
+    const AsNobody nobody;
+    MakeFile("tree/a/file", "new");
+    MakeFile(dst + "/a/kept", "kept");
+    chmod((dst + "/a").c_str(), 0333);
+    chmod(dst.c_str(), 0333);
+    EXPECT_EQ(FSRename("tree", ustring(dst), false), 0);
+    chmod(dst.c_str(), 0755);
+    chmod((dst + "/a").c_str(), 0755);
+    EXPECT_EQ(
+        Tree(dst),
+        (FileTree{{"a", "folder"}, {"a/file", "file 0644: new"}, {"a/kept", "file 0644: kept"}}));
+}
+
+// The lines that looking up each object by its path would write, in this order.
+TEST_F(FileTreeTest, LogsEachLookUpWhenToldTo) {
+    const auto log_of = [&](const std::string& threshold, const std::function<void()>& code) {
+        MakeFile("levels", "file_op_debug=" + threshold + "\n");
+        return CaptureStderr([&] {
+            Logger::Initialize(Logger::TYPE_STDERR, "", "levels", 0);
+            code();
+        });
+    };
+    const auto lines = [](const std::string& log) {
+        return std::regex_replace(log, std::regex(R"(.*file-op\(\d+\): )"), "");
+    };
+    const auto info = [&](const std::string& path) {
+        return " org path [" + path + "]\n get full path [" + path + "]\n";
+    };
+    const auto stat = [&](const std::string& path) {
+        return "Input file path = [" + path + "].\nFSRefMakePath outTargetPath path = [" + path +
+               "].\nFile exist.\n" + info(path);
+    };
+    const std::string src = folder_ / "tree";
+    const std::string dst = other_volume_ / "tree";
+    MakeFile("tree/a/file");
+    MakeFile("tree/a/b/file");
+    unlink("tree/a/file");
+    MakeFolder(dst + "/a");
+    const std::string moved =
+        log_of("7", [&] { EXPECT_EQ(FSRename(src.c_str(), dst.c_str(), true), 0); });
+    EXPECT_EQ(lines(moved), stat(src) + info(dst) + stat(src + "/a") + info(dst + "/a") +
+                                stat(src + "/a/b") + stat(src + "/a/b/file"));
+    for (const auto remove : {+[](const ustring& path) { return FSRemove(path, false); },
+                              +[](const ustring& path) { return FSRemoveOwnTree(path); }}) {
+        MakeFile(dst + "/a/b/file");
+        EXPECT_EQ(lines(log_of("7", [&] { EXPECT_EQ(remove(dst.c_str()), 0); })),
+                  info(dst) + info(dst + "/a") + info(dst + "/a/b") + info(dst + "/a/b/file"));
+    }
+    MakeFile("tree/a/file");
+    EXPECT_EQ(log_of("4", [&] { EXPECT_EQ(FSRemove(src.c_str(), false), 0); }), "");
+}
+
+TEST_F(FileTreeTest, WhatCannotMoveAcrossVolumesStaysBehind) {
+    EXPECT_EQ(FSRename("kinds/link to file", other_volume_ / "x", false), 0);
+    EXPECT_EQ(FSRename("kinds/pipe", other_volume_ / "x", false), 0);
+    EXPECT_FALSE(Exists(other_volume_ / "x"));
+    EXPECT_EQ(FSRename("kinds", other_volume_ / "kinds", false), -3);
+    EXPECT_TRUE(Exists("kinds/link to file") && Exists("kinds/pipe"));
+    MakeFile("left/file");
+    mkfifo("left/pipe", 0600);
+    EXPECT_EQ(FSRename("left", other_volume_ / "left", false), -3);
+    EXPECT_TRUE(Exists("left/pipe"));
+
+    MakeFile("tree/name/file");
+    MakeFile(other_volume_ / "tree/name", "a file where a folder goes");
+    const std::string log =
+        CaptureStderr([&] { EXPECT_EQ(FSRename("tree", other_volume_ / "tree", false), -3); });
+    EXPECT_TRUE(HasOneLine(log, "is not directory '" + other_volume_ / "tree/name" + "' (1)"))
+        << log;
+    EXPECT_TRUE(Exists("tree/name/file"));
+}
+
+TEST_F(FileTreeTest, RemovesFilesLinksAndTrees) {
+    EXPECT_EQ(FSRemove("", false), -1);
+    EXPECT_EQ(FSRemove("missing", false), 0);
+    EXPECT_EQ(FSRemove("kinds/file/below", false), -1);
+    MakeFile("target/kept");
+    MakeLink("../../../target", "kinds/folder/deep/link");
+    EXPECT_EQ(FSRemove("kinds/link to file", false), 0);
+    EXPECT_TRUE(Exists("kinds/file"));
+    EXPECT_EQ(FSRemove("kinds", false), 0);
+    EXPECT_FALSE(Exists("kinds"));
+    EXPECT_TRUE(Exists("target/kept"));
+}
+
+TEST_F(FileTreeTest, LeavesWhatItMayNotOpen) {
+    MakeFile("tree/closed/file");
+    chmod("tree", 0777);
+    chmod("tree/closed", 0);
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(FSRemove("tree/closed", false), 0);
+        EXPECT_EQ(FSRemove("tree", false), -3);
+        EXPECT_TRUE(isFileLocked("tree/closed/file", F_OK));
+        DIR_HANDLE handle;
+        EXPECT_EQ(FSOpenDir("tree/closed", 0, handle), -1);
+    }
+    chmod("tree/closed", 0755);
+    EXPECT_FALSE(isFileLocked("missing", R_OK));
+    EXPECT_FALSE(isFileLocked("tree", R_OK));
+    EXPECT_TRUE(Exists("tree/closed/file"));
+}
+
+TEST_F(FileTreeTest, NeitherDepthNorWidthHasALimit) {
+    const FewDescriptors few;
+    MakeDeepTree("tree", 3000);  // no path leads to its bottom
+    EXPECT_EQ(FSRename("tree", other_volume_ / "tree", false), 0);
+    EXPECT_FALSE(Exists("tree"));
+    for (int i = 0; i < 5000; ++i) {
+        MakeFile(other_volume_ / "tree/wide/" + std::to_string(i));
+    }
+    EXPECT_EQ(FSRemove(other_volume_ / "tree", false), 0);
+    EXPECT_FALSE(Exists(other_volume_ / "tree"));
+}
+
+TEST_F(FileTreeTest, TellsWhatItMayNotRemove) {
+    const std::string file = folder_ / "tree/fixed/file";
+    MakeFile(file);
+    chmod(other_volume_.path().c_str(), 0777);
+    chmod((folder_ / "tree/fixed").c_str(), 0555);
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(FSRemove(ustring(file), false), -3);
+        EXPECT_EQ(FSRemove("tree", false), -3);
+        EXPECT_EQ(FSRename(ustring(file), ustring(other_volume_ / "file"), false), -3);
+    }
+    EXPECT_TRUE(Exists(file));
+    chmod((folder_ / "tree/fixed").c_str(), 0755);
+}
+
+// Moves a folder of the tree away while one that is far below it is copied.
+class MovesAway : public FSCopyListener {
+  public:
+    void onFolder(const char*, const char*) override {
+        EXPECT_TRUE(++folders != 25 || rename("tree/d/d/d", "moved") == 0);
+    }
+    void onNoFolder(const char*) override {}
+    void onUnlisted(const char*) override {}
+    void onSpecial(const char*, std::int32_t) override {}
+    void onFailure(const char*, const char* dst) override { failed.emplace_back(dst); }
+
+    int folders = 0;
+    std::vector<std::string> failed;
+};
+
+TEST_F(FileTreeTest, ACopyEndsWhereItsWayBackIsGone) {
+    MakeDeepTree("tree", 30);
+    MovesAway mover;
+    const std::string log =
+        CaptureStderr([&] { EXPECT_EQ(FSCopyTree("tree", "copy", mover), -1); });
+    EXPECT_TRUE(HasOneLine(log, "CopyFile: open(tree/d/d/.): Stale file handle")) << log;
+    EXPECT_EQ(mover.failed, (std::vector<std::string>{"copy/d/d/d", "copy/d/d", "copy/d"}));
+}
+
+}  // namespace

@@ -1,0 +1,41 @@
+#ifndef TESTS_SUPPORT_FILE_OP_FIXTURE_H
+#define TESTS_SUPPORT_FILE_OP_FIXTURE_H
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <string>
+
+#include "tests/support/scenario.h"
+
+inline mode_t ModeOf(const std::string& path) {
+    struct stat status;
+    return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+// Works in a folder of its own, in which "kinds" holds one of each kind of object.
+class FileOpTest : public testing::Test {
+  protected:
+    FileOpTest() {
+        umask(022);
+        EXPECT_EQ(chdir(folder_.path().c_str()), 0);
+        MakeFile("kinds/file", "12345");
+        MakeFolder("kinds/folder");
+        MakeLink("file", "kinds/link to file");
+        MakeLink("folder", "kinds/link to folder");
+        MakeLink("nowhere", "kinds/dangling");
+        MakeLink("loop", "kinds/loop");
+        mkfifo("kinds/pipe", 0600);
+        sockaddr_un address{AF_UNIX, "kinds/socket"};
+        const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
+        bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address);
+        close(fd);
+    }
+
+    Folder folder_;
+    Folder other_volume_{"/dev/shm"};
+};
+
+#endif
