@@ -186,6 +186,8 @@ class MovesAway : public FSCopyListener {
     void onFolder(const char*, const char*) override {
         EXPECT_TRUE(++folders != 25 || rename("tree/d/d/d", "moved") == 0);
     }
+    void onInside(const char*, const char*) override {}
+    void onMissing(const char*) override {}
     void onNoFolder(const char*) override {}
     void onUnlisted(const char*) override {}
     void onSpecial(const char*, std::int32_t) override {}

@@ -59,8 +59,9 @@ TEST_F(CopyTest, RefusesWhatIsMissing) {
 TEST_F(CopyTest, RefusesADestinationInsideTheSource) {
     MakeFile(folder_ / "src/file");
     MakeLink("src", folder_ / "way");
-    for (const char* const inside : {"src", "src/", "src/new", "src/new/deeper", "way/new",
-                                     "src/../src/new", "way/../src/x", "new/../src/x"}) {
+    for (const char* const inside :
+         {"src", "src/", "src/new", "src/new/deeper", "way/new", "src/../src/new", "way/../src/x",
+          "new/../src/x", "new/a/.././../way/./x/../y", "new/..//src"}) {
         EXPECT_EQ(copy(folder_ / "src", folder_ / inside), -1) << inside;
         EXPECT_TRUE(HasOneLine(log_, "lies inside source")) << inside;
     }
@@ -71,8 +72,11 @@ TEST_F(CopyTest, RefusesADestinationInsideTheSource) {
         EXPECT_EQ(copy(folder_ / "src", "new"), -1) << current;
     }
     EXPECT_EQ(Tree(folder_ / "src").size(), 1u);
-    EXPECT_EQ(copy(folder_ / "src", folder_ / "src-evil"), 0);
-    EXPECT_TRUE(Exists(folder_ / "src-evil/file"));
+    for (const char* const outside : {"src-evil", "none/../new", "none/a/../../src2", "way/../x"}) {
+        EXPECT_EQ(copy(folder_ / "src", folder_ / outside), 0) << outside;
+        EXPECT_TRUE(Exists(folder_ / outside + "/file")) << outside;
+    }
+    EXPECT_EQ(Tree(folder_ / "none"), (FileTree{{"a", "folder"}}));
 }
 
 TEST_F(CopyTest, NeverOpensAPipe) {
@@ -112,6 +116,22 @@ TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
     chmod((folder_ / "dst").c_str(), 0755);
     EXPECT_TRUE(Exists(folder_ / "dst/closed"));
     EXPECT_TRUE(Exists(folder_ / "dst/file"));
+}
+
+TEST_F(CopyTest, AFolderThatCannotBeSearchedIsAFailure) {
+    MakeFolder(folder_ / "src/closed/inner");
+    chmod((folder_ / "src/closed").c_str(), 0444);
+    MakeFolder(folder_ / "dst");
+    chmod((folder_ / "dst").c_str(), 0777);
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), -1);
+    }
+    EXPECT_TRUE(HasOneLine(log_, "source path '" + folder_ / "src/closed/inner' does not exist"))
+        << log_;
+    EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to copy from").size(), 2u) << log_;
+    EXPECT_EQ(Tree(folder_ / "dst"), (FileTree{{"closed", "folder"}}));
+    chmod((folder_ / "src/closed").c_str(), 0755);
 }
 
 TEST_F(CopyTest, ADeepTreeNeedsFewDescriptors) {

@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include <cstddef>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,6 +19,7 @@ using platform::Descriptor;
 
 namespace {
 
+const int kFolderToPass = platform::kOpenToPass | O_DIRECTORY | O_CLOEXEC;
 const std::size_t kCopyBatch = 32;  // files that are forced to the disk together
 
 // Copies files as FSCopy does, but forces them to the disk a batch at a time, which takes far less
@@ -54,6 +56,55 @@ class CopyBatch {
     std::vector<Descriptor> copied_;
 };
 
+bool IsSame(const struct stat& a, const struct stat& b) {
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+enum Answer { No, Yes, CannotTell };  // with errno set
+
+// Opens the deepest folder that exists already on the way to path. FSMKDir makes folders of what is
+// missing, so a ".." after it leads back.
+Descriptor OpenExisting(const std::string& path) {
+    Descriptor folder(open(path[0] == '/' ? "/" : ".", kFolderToPass));
+    std::istringstream names(path);
+    int missing = 0;
+    for (std::string name; std::getline(names, name, '/');) {
+        if (name.empty() || name == ".") {
+            continue;
+        }
+        if (missing > 0) {
+            missing += name == ".." ? -1 : 1;
+            continue;
+        }
+        Descriptor next(openat(folder.get(), name.c_str(), kFolderToPass));
+        if (next.get() >= 0) {
+            folder = std::move(next);
+        } else {
+            ++missing;
+        }
+    }
+    return folder;
+}
+
+// Whether an open folder is the one described, or lies in it.
+Answer LiesIn(Descriptor folder, const struct stat& outer) {
+    struct stat status;
+    if (fstat(folder.get(), &status) != 0) {
+        return CannotTell;
+    }
+    while (!IsSame(status, outer)) {
+        const struct stat inner = status;
+        folder = Descriptor(openat(folder.get(), "..", kFolderToPass));
+        if (folder.get() < 0 || fstat(folder.get(), &status) != 0) {
+            return CannotTell;
+        }
+        if (IsSame(status, inner)) {
+            return No;  // the root
+        }
+    }
+    return Yes;
+}
+
 // One run of FSCopyTree. The two chains are at the same level between the steps.
 class TreeCopy : private file_op::Walk {
   public:
@@ -63,8 +114,9 @@ class TreeCopy : private file_op::Walk {
         const Place from(src);
         const Place to(dst);
         const std::int32_t type = file_op::TypeAt(from);
-        const bool begun =
-            type == FILE_TYPE_DIR ? enter(from, to, FSMKDir(dst, true)) : copyFile(from, to, type);
+        const bool begun = type == FILE_TYPE_DIR
+                               ? isOutside(from, to) && enter(from, to, FSMKDir(dst, true))
+                               : copyFile(from, to, type);
         return begun && run() && batch_.sync() == 0 ? 0 : -1;
     }
 
@@ -97,7 +149,26 @@ class TreeCopy : private file_op::Walk {
 
     bool copyFolder(const Place& src, const Place& dst) {
         listener_.onFolder(src.path().c_str(), dst.path().c_str());
+        look_ups_.stat(src, false);
+        if (file_op::TypeAt(src) == FILE_TYPE_UNKNOWN) {
+            listener_.onMissing(src.path().c_str());
+            return false;
+        }
+        look_ups_.info(dst);
         return enter(src, dst, file_op::MakeFolder(dst));
+    }
+
+    bool isOutside(const Place& src, const Place& dst) {
+        struct stat source;
+        const bool examined = fstatat(src.folder, src.name, &source, AT_SYMLINK_NOFOLLOW) == 0;
+        const Answer inside = examined ? LiesIn(OpenExisting(dst.name), source) : CannotTell;
+        if (inside == Yes) {
+            listener_.onInside(src.path().c_str(), dst.path().c_str());
+        } else if (inside == CannotTell) {
+            file_op::LogOpenFailure(dst);
+            listener_.onNoFolder(dst.path().c_str());
+        }
+        return inside == No;
     }
 
     // Makes a folder and its copy, of which made is FSMKDir's result, the current ones.
@@ -153,6 +224,7 @@ class TreeCopy : private file_op::Walk {
 
     FSCopyListener& listener_;
     CopyBatch batch_;
+    const file_op::LookUpLog look_ups_;
     FolderChain to_{FolderChain::Pass};
 };
 

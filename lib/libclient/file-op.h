@@ -108,9 +108,11 @@ class FSCopyListener {
     FSCopyListener(const FSCopyListener&) = delete;
     FSCopyListener& operator=(const FSCopyListener&) = delete;
 
+    virtual void onInside(const char* src, const char* dst) = 0;  // dst lies in the folder src
     virtual void onFolder(const char* src, const char* dst) = 0;  // comes next; not the first one
-    virtual void onNoFolder(const char* dst) = 0;                 // it can't be made
-    virtual void onUnlisted(const char* src) = 0;  // can't be listed: is taken as empty
+    virtual void onMissing(const char* src) = 0;   // that folder, or can't be examined
+    virtual void onNoFolder(const char* dst) = 0;  // can't be made
+    virtual void onUnlisted(const char* src) = 0;  // can't be listed: treated as empty
     virtual void onSpecial(const char* src, std::int32_t type) = 0;  // a pipe, socket or device
     // An entry of a folder isn't copied; afterwards once more for each folder above it but the
     // first.
@@ -120,8 +122,9 @@ class FSCopyListener {
 // Copies a file as FSCopy does, or a folder with everything below it. An existing folder is merged
 // into; links in the source are followed to files; pipes, sockets and devices are refused. The
 // files are forced to the disk a batch at a time, which takes far less time than one by one. Depth
-// and size of a tree are not limited. dst must not lie in src. Not atomic: a failure ends the copy
-// and leaves what was copied. Returns -1 for it.
+// and size of a tree are not limited. A folder isn't copied into itself: before anything is made,
+// dst is followed to where FSMKDir would make it. Not atomic: a failure ends the copy and leaves
+// what was copied. Returns -1 for it.
 int FSCopyTree(const ustring& src, const ustring& dst, FSCopyListener& listener);
 
 // Moves src to dst. On one volume this is atomic and replaces an existing file or empty folder.

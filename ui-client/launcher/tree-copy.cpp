@@ -8,31 +8,21 @@ namespace {
 
 const ustring log_component("service_debug");
 
-// Whether a copy of the folder at path would be made inside it: whether the deepest folder that
-// exists already on the way to its destination is that folder, or lies in it.
-bool WouldCopyIntoItself(ustring path, ustring destination) {
-    if (FSGetRealPath(path) != 0) {
-        return false;
-    }
-    while (FSGetRealPath(destination) != 0) {
-        destination.rtrim("/");
-        const ustring::size_type name = destination.rfind('/') + 1;  // 0 when there is no folder
-        if (destination == "." || destination.substr(name) == "..") {
-            return true;  // it can't be told where that would lead once the way is made
-        }
-        destination = name == 0 ? ustring(".") : destination.substr(0, name);
-    }
-    const ustring inside = path == "/" ? path : path + "/";
-    return (destination + "/").compare(inside, inside.size()) == 0;
-}
-
 void LogCopy(const char* src, const char* dst) {
     LOG_MSG(DEBUG, "copy from '%s' to '%s'\n", src, dst);
 }
 
+void LogMissing(const char* src) {
+    LOG_MSG(ERROR, "FSCopyPath: source path '%s' does not exist\n", src);
+}
+
 class CopyLog : public FSCopyListener {
   public:
+    void onInside(const char* src, const char* dst) override {
+        LOG_MSG(ERROR, "FSCopyPath: destination '%s' lies inside source '%s'\n", dst, src);
+    }
     void onFolder(const char* src, const char* dst) override { LogCopy(src, dst); }
+    void onMissing(const char* src) override { LogMissing(src); }
     void onNoFolder(const char* dst) override {
         LOG_MSG(ERROR, "FSCopyPath: failed to create dest folder '%s'\n", dst);
     }
@@ -58,12 +48,7 @@ int Service::FSCopyPath(ustring const& src, ustring const& dst) {
         return -1;
     }
     if (!info.exists) {
-        LOG_MSG(ERROR, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
-        return -1;
-    }
-    if (info.type == FILE_TYPE_DIR && WouldCopyIntoItself(src, dst)) {
-        LOG_MSG(ERROR, "FSCopyPath: destination '%s' lies inside source '%s'\n", dst.c_str(),
-                src.c_str());
+        LogMissing(src.c_str());
         return -1;
     }
     CopyLog log;
