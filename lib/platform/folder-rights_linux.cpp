@@ -23,9 +23,12 @@ int MountOf(int fd, MountId& mount) {
     return 0;
 }
 
-// fchmod refuses a descriptor that is open only to be passed.
 int SetFolderMode(int folder, mode_t mode) {
-    return chmod(("/proc/self/fd/" + std::to_string(folder)).c_str(), mode);
+    if (fchmod(folder, mode) == 0) {
+        return 0;
+    }
+    // A descriptor that is open only to be passed is refused.
+    return errno == EBADF ? chmod(("/proc/self/fd/" + std::to_string(folder)).c_str(), mode) : -1;
 }
 
 // What was opened is what is looked at and changed, whatever happens to the name meanwhile.

@@ -75,11 +75,11 @@ class EntryMove : private file_op::Walk {
         return true;
     }
 
-    // The permissions of a folder of which a move that was cut off has left a half on each side.
-    // One half can have been unlocked for its owner. The newer one, empty at first, can lack what
-    // the umask took from others when it was made.
+    // The permissions of a folder of which a move that was killed has left a half on each side. One
+    // half can have been unlocked for its owner. The newer one, if empty, can have been made just
+    // before the kill, for its owner alone.
     mode_t mergedMode() const {
-        const mode_t others = ~mode_t{S_IRWXU};
+        const mode_t others = 07077;
         const mode_t mode = to_.mode() & (chain_.mode() | others);
         const mode_t missing = chain_.mode() & ~to_.mode() & others;
         return missing != 0 && IsEmptyFolder(to_.at(".")) ? mode | missing : mode;
