@@ -78,7 +78,8 @@ void LimitFileSize(rlim_t limit) {
 void CopyAllData(Extractor& extractor) {
     PackageReader package;
     archive_entry* entry = nullptr;
-    if (package.open(extractor.archive_path.c_str()) != ARCHIVE_OK) {
+    if (package.open(extractor.archive_path.c_str(), PackageReader::Stream::Verified) !=
+        ARCHIVE_OK) {
         return;
     }
     while (package.next(entry) == ARCHIVE_OK) {

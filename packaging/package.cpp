@@ -243,7 +243,8 @@ std::string LastEntry(const std::string& file) {
     PackageReader package;
     archive_entry* entry = nullptr;
     fs::path last;
-    if (package.allocated() && package.open(file.c_str()) == ARCHIVE_OK) {
+    if (package.allocated() &&
+        package.open(file.c_str(), PackageReader::Stream::Unverified) == ARCHIVE_OK) {
         while (package.next(entry) == ARCHIVE_OK) {
             const char* const name = archive_entry_pathname(entry);
             last = name != nullptr ? name : "";

@@ -33,7 +33,8 @@ bool StreamHasChecksum(int compression, std::string_view head) {
 bool HasContentChecksum(const char* path) {
     PackageReader package;
     archive_entry* entry = nullptr;
-    if (!package.allocated() || package.open(path) != ARCHIVE_OK ||
+    if (!package.allocated() ||
+        package.open(path, PackageReader::Stream::Unverified) != ARCHIVE_OK ||
         package.next(entry) != ARCHIVE_OK) {
         return false;
     }

@@ -48,7 +48,8 @@ bool OpenForListing(const Extractor& extractor, PackageReader& package) {
         LOG_MSG(ERROR, "Allocate archive failed\n");
         return false;
     }
-    if (package.open(extractor.archive_path.c_str_utf8()) != ARCHIVE_OK) {
+    if (package.open(extractor.archive_path.c_str_utf8(), PackageReader::Stream::Unverified) !=
+        ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n",
                 ErrorText(package.get()).c_str());
         return false;
@@ -137,7 +138,7 @@ int Extractor::Extract() {
         return -1;
     }
     archive_write_disk_set_options(writer.get(), kWriteOptions);
-    if (package.open(archive_path.c_str_utf8()) != ARCHIVE_OK) {
+    if (package.open(archive_path.c_str_utf8(), PackageReader::Stream::Verified) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "Failed to read file '%s' ('%s')\n", archive_path.c_str(),
                 ErrorText(package.get()).c_str());
         return -1;

@@ -39,7 +39,7 @@ bool HasWholeDirectory(const char* path) {
 
 PackageReader::PackageReader() : entries_(archive_read_new()) {}
 
-int PackageReader::open(const char* path) {
+int PackageReader::open(const char* path, Stream stream) {
     path_ = path;
     SupportCompressions(entries_.get());
     archive_read_support_format_all(entries_.get());
@@ -49,13 +49,13 @@ int PackageReader::open(const char* path) {
         return result;
     }
     compression_ = archive_filter_code(entries_.get(), filters - 2);  // the last is the file
-    return openCompressed();
+    return stream == Stream::Verified ? openVerified() : ARCHIVE_OK;
 }
 
 // In one reader libarchive would neither look at gzip's checksum nor read on to the end of the
 // stream, where checksums are. So zlib reads the file, which hands on what isn't gzip as it is, one
 // reader decompresses the rest, and another one finds the entries in that.
-int PackageReader::openCompressed() {
+int PackageReader::openVerified() {
     entries_.reset(archive_read_new());
     stream_.reset(archive_read_new());
     if (entries_ == nullptr || stream_ == nullptr) {
@@ -123,7 +123,7 @@ bool PackageReader::endIsThere() {
     if (format == ARCHIVE_FORMAT_TAR) {
         return archive_filter_bytes(entries_.get(), 0) != position_;
     }
-    if (format != ARCHIVE_FORMAT_ZIP || stream_ != nullptr) {  // which isn't read from its end
+    if (format != ARCHIVE_FORMAT_ZIP || compression_ != ARCHIVE_FILTER_NONE) {  // has no end to see
         return true;
     }
     entries_.reset();  // it may hold as much of the directory as the next one

@@ -26,8 +26,11 @@ class PackageReader {
     // false when there is no memory; then nothing else may be called.
     bool allocated() const { return entries_ != nullptr; }
 
-    // Opens the file at path (UTF-8). To be called once, before everything below.
-    int open(const char* path);
+    // Opens the file at path (UTF-8). To be called once, before everything below. With
+    // Stream::Unverified, the checksum of a compressed stream isn't looked at, which takes less
+    // time and will do for the names of the entries.
+    enum class Stream { Verified, Unverified };
+    int open(const char* path, Stream stream);
 
     // The reader of the current entry's data; owned by this object. null when memory ran out, and
     // at the end of a zip.
@@ -54,7 +57,7 @@ class PackageReader {
         void operator()(gzFile file) const { gzclose_r(file); }
     };
 
-    int openCompressed();
+    int openVerified();
     static la_ssize_t readFile(archive* stream, void* self, const void** block);
     static la_ssize_t readStream(archive* entries, void* self, const void** block);
 
