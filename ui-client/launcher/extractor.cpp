@@ -1,9 +1,14 @@
 #include "ui-client/launcher/extractor.h"
 
 #include <archive_entry.h>
+#include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "lib/liblogger/log.h"
 #include "lib/liblogger/printable.h"
@@ -57,6 +62,39 @@ bool OpenForListing(const Extractor& extractor, PackageReader& package) {
     return true;
 }
 
+// The folders that their owner may not write, read or search once all is unpacked. libarchive gives
+// them their permissions when it is closed, and doesn't say when that fails.
+class ClosedFolders {
+  public:
+    void add(archive_entry* entry) {
+        const mode_t mode = archive_entry_perm(entry);
+        if (archive_entry_filetype(entry) == AE_IFDIR && (mode & S_IRWXU) != S_IRWXU) {
+            folders_.emplace_back(archive_entry_pathname(entry), mode);
+        }
+    }
+
+    // Whether each that is still there has no other permissions than those of its last entry.
+    bool areClosed() const {
+        std::set<ino_t> seen;
+        for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder) {
+            struct stat status;
+            const auto& [path, mode] = *folder;
+            const bool found = lstat(path.c_str(), &status) == 0;
+            const bool open = found && S_ISDIR(status.st_mode) &&
+                              seen.insert(status.st_ino).second &&
+                              (status.st_mode & ACCESSPERMS & ~mode) != 0;
+            if (open || (!found && errno != ENOENT && errno != ENOTDIR && errno != EACCES)) {
+                LOG_MSG(ERROR, "failed to set the permissions of '%s'\n", Printable(path).c_str());
+                return false;
+            }
+        }
+        return true;
+    }
+
+  private:
+    std::vector<std::pair<std::string, mode_t>> folders_;
+};
+
 int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGuard& guard,
                  int total, int number) {
     if (archive_entry_pathname(entry) == nullptr) {
@@ -97,7 +135,8 @@ bool IsWhole(PackageReader& package, int entries) {
     return true;
 }
 
-int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_dir, int total) {
+int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_dir, int total,
+                   ClosedFolders& closed) {
     EntryGuard guard(dest_dir.c_str());
     for (int number = 1;; ++number) {
         archive_entry* entry = nullptr;
@@ -113,6 +152,7 @@ int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_
         if (ExtractEntry(package.get(), entry, writer, guard, total, number) != 0) {
             return -1;
         }
+        closed.add(entry);
     }
 }
 
@@ -143,7 +183,8 @@ int Extractor::Extract() {
                 ErrorText(package.get()).c_str());
         return -1;
     }
-    if (ExtractEntries(package, writer.get(), dest_dir, total) != 0) {
+    ClosedFolders closed;
+    if (ExtractEntries(package, writer.get(), dest_dir, total, closed) != 0) {
         return -1;
     }
     // Closing applies what was put off until now: the permissions of folders.
@@ -151,7 +192,7 @@ int Extractor::Extract() {
         LOG_MSG(ERROR, "archive_write_close failed: '%s'\n", ErrorText(writer.get()).c_str());
         return -1;
     }
-    return 0;
+    return closed.areClosed() ? 0 : -1;
 }
 
 int Extractor::Count() {
