@@ -118,11 +118,17 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
     MakeFile(info_, "[Version]\nbuild_version=1");
     MakeFile(client_, "x");
     VerInfo version;
+    const std::string app = app_;  // the sanitizers need descriptors to look at this object
+    const std::string info = info_;
+    Reading reading = Reading::Done;
+    int error = 0;
     {
         const NoDescriptors none;
-        EXPECT_EQ(load(version), Reading::Failed);
-        EXPECT_EQ(errno, EMFILE);
+        reading = LoadVersion(info.c_str(), version, app.c_str());
+        error = errno;
     }
+    EXPECT_EQ(reading, Reading::Failed);
+    EXPECT_EQ(error, EMFILE);
     EXPECT_EQ(LoadVersion("/proc/self/mem", version), Reading::Failed) << "reading it fails";
     EXPECT_EQ(version.build_version, "");
     ASSERT_EQ(chmod((app_ + "/Contents").c_str(), 0), 0);
