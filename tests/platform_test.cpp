@@ -326,6 +326,7 @@ TEST_F(SingleInstanceTest, LocksThatAreHeldByNobodyAreRemoved) {
     const std::string left = folder_ + "/.launcher-0123456789abcdef.lock";
     const std::string held = folder_ + "/.launcher-fedcba9876543210.lock";
     MakeFile(folder_ + "/other.lock");
+    MakeLink("other.lock", folder_ + "/.launcher-link.lock");
     MakeFile(left, "", 0600);
     const platform::InstanceLock lock(held);
     {
@@ -333,7 +334,7 @@ TEST_F(SingleInstanceTest, LocksThatAreHeldByNobodyAreRemoved) {
         EXPECT_FALSE(Exists(left));
         EXPECT_TRUE(Exists(held));
     }
-    EXPECT_EQ(Tree(folder_).size(), 2u);
+    EXPECT_EQ(Tree(folder_).size(), 3u);
 }
 
 // What somebody else may have put there before us.

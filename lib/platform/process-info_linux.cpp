@@ -56,11 +56,10 @@ std::string LinkTarget(const std::string& link) {
 
 void DescribeExecutable(const std::string& link, platform::ProcessInfo& info) {
     struct stat status;
-    if (stat(link.c_str(), &status) != 0) {
-        return;
+    if (stat(link.c_str(), &status) == 0) {
+        info.device = status.st_dev;
+        info.inode = status.st_ino;
     }
-    info.device = status.st_dev;
-    info.inode = status.st_ino;
     info.executable = LinkTarget(link);
     const std::string mark = " (deleted)";
     const std::size_t size = info.executable.size();

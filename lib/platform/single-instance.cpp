@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QByteArray>
@@ -44,22 +45,23 @@ class Gate {
   public:
     explicit Gate(const std::string& folder)
         : folder_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-        for (int i = 0; i < kMaxWaits && isBusy(LOCK_SH); ++i) {
+        for (int i = 0; i < kMaxWaits && !take(LOCK_SH) && errno == EWOULDBLOCK; ++i) {
             usleep(1000);
         }
     }
-    bool closeForOthers() {
-        return folder_.get() >= 0 && flock(folder_.get(), LOCK_EX | LOCK_NB) == 0;
-    }
+    bool closeForOthers() const { return take(LOCK_EX); }
 
   private:
-    bool isBusy(int lock) const {
-        return folder_.get() >= 0 && flock(folder_.get(), lock | LOCK_NB) != 0 &&
-               errno == EWOULDBLOCK;
-    }
+    bool take(int lock) const { return flock(folder_.get(), lock | LOCK_NB) == 0; }
 
     const Descriptor folder_;
 };
+
+bool IsOurFile(const fs::path& path) {
+    struct stat status;
+    return lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_uid == geteuid();
+}
 
 void RemoveLeftLocks(const fs::path& folder, const std::string& own_name) {
     std::vector<fs::path> left;
@@ -67,7 +69,7 @@ void RemoveLeftLocks(const fs::path& folder, const std::string& own_name) {
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string name = entry->path().filename();
-        if (IsLockName(name) && name != own_name) {
+        if (IsLockName(name) && name != own_name && IsOurFile(entry->path())) {
             left.push_back(entry->path());
         }
     }
@@ -77,7 +79,7 @@ void RemoveLeftLocks(const fs::path& folder, const std::string& own_name) {
 }
 
 std::unique_ptr<InstanceLock> LockIn(const std::string& folder, const std::string& name) {
-    Gate gate(folder);
+    const Gate gate(folder);
     auto lock = std::make_unique<InstanceLock>(folder + "/" + name);
     if (lock->held() && gate.closeForOthers()) {
         RemoveLeftLocks(folder, name);
