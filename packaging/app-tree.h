@@ -4,40 +4,30 @@
 #include <sys/stat.h>
 
 #include <map>
-#include <stdexcept>
 #include <string>
+#include <vector>
 
-// What keeps an application from being packed, or a package from being taken: one line that says
-// where it is, what it is and what to do about it. Bytes that would break the line are escaped.
-class PackageError : public std::runtime_error {
-  public:
-    PackageError(const std::string& where, const std::string& what_and_advice);
-};
-
-// An application folder as it was at one moment.
+// A folder and what is below it, as it was at one moment.
 struct AppTree {
     struct Node {
-        mode_t mode;
-        off_t size;
-        std::string target;  // of a link
-        std::string stamp;   // differs when the object has been changed or exchanged
+        mode_t mode;             // 0 when it can't be examined
+        off_t size;              // of a file, else 0
+        std::string target;      // of a link
+        std::string stamp;       // differs when the object has been changed or exchanged
+        std::string unreadable;  // why it can't be examined or listed; empty when it can
     };
 
     std::map<std::string, Node> nodes;  // by path below the folder, sorted by bytes
-    int build_number;
 
     bool operator==(const AppTree& other) const;
 };
 
-// Reads the application in the folder app. Throws a PackageError for the first thing that the
-// launcher couldn't install, upgrade or start on every user's machine. Of the files, only the
-// version file and the property list are opened. The error calls the folder shown_as.
-AppTree ReadAppTree(const std::string& app, const std::string& shown_as);
+// Reads the folder at path; no file in it is opened and no link followed. What can't be read is
+// among the nodes and says so.
+AppTree ReadTree(const std::string& path);
 
-// The build number in a version file. Throws a PackageError when the launcher couldn't compare it.
-int ReadBuildNumber(const std::string& info_file, const std::string& shown_as);
-
-// The path of the client below an application folder.
-std::string ClientName();
+// Takes out what a desktop leaves in the folders that it shows (.DS_Store and the like), which
+// isn't a part of any application, and returns the paths.
+std::vector<std::string> TakeOutDroppings(AppTree& tree);
 
 #endif

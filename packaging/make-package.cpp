@@ -1,5 +1,5 @@
 // Makes the package that the launcher's bundle carries out of an application folder, and checks
-// packages.
+// folders, packages and bundles.
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -10,12 +10,17 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <ctime>
 #include <exception>
+#include <filesystem>
 
 #include "lib/liblogger/printable.h"
+#include "packaging/app-check.h"
+#include "packaging/bundle-check.h"
+#include "packaging/options.h"
+#include "packaging/package-check.h"
 #include "packaging/package.h"
+#include "packaging/report.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 namespace {
@@ -40,7 +45,7 @@ void LeaveTheEnvironment() {
 // A line that is written over as the work goes on, on a terminal only.
 class ProgressLine {
   public:
-    explicit ProgressLine(const char* what) : what_(what) {}
+    explicit ProgressLine(std::string what) : what_(std::move(what)) {}
     ~ProgressLine() {
         if (percent_ >= 0) {
             static_cast<void>(std::fputs("\r\x1b[K", stderr));
@@ -52,37 +57,48 @@ class ProgressLine {
     void update(std::int64_t done, std::int64_t total) {
         const int percent = static_cast<int>(total > 0 ? done * 100 / total : 100);
         if (terminal_ && percent != percent_) {
-            static_cast<void>(std::fprintf(stderr, "\r%s: %d %%", what_, percent));
+            static_cast<void>(std::fprintf(stderr, "\r%s: %d %%", what_.c_str(), percent));
             percent_ = percent;
         }
     }
 
   private:
-    const char* const what_;
+    const std::string what_;
     const bool terminal_ = isatty(STDERR_FILENO) != 0;
     int percent_ = -1;
 };
 
-int Run(const char* first, const char* second) {
-    const bool check = std::strcmp(first, "--check") == 0;
-    PackageSummary summary;
-    {
-        ProgressLine line(second);
+Summary Check(const Options& options, const Progress& progress) {
+    const std::string& path = options.paths[0];
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        return IsBundle(path) ? CheckBundle(path, progress) : CheckFolder(path, options.package);
+    }
+    const std::string bundle = BundleOf(path);
+    return bundle.empty() ? CheckPackage(path, progress).summary : CheckBundle(bundle, progress);
+}
+
+int Run(const Options& options) {
+    Report report(options);
+    try {
+        ProgressLine line(Printable(options.paths.back()));
         const Progress progress = [&line](std::int64_t done, std::int64_t total) {
             line.update(done, total);
             return interrupted == 0;
         };
-        summary = check ? CheckPackage(second, progress) : MakePackage(first, second, progress);
+        if (options.check) {
+            report.summary = Check(options, progress);
+            RequireNewer(report.summary.build_number, options.paths[0], options.package, progress);
+        } else {
+            report.summary =
+                MakePackage(options.paths[0], options.paths[1], options.package, progress);
+        }
+    } catch (const PackageError& error) {
+        report.faults = error.faults();
+    } catch (const std::exception& error) {
+        report.faults = {{options.paths.back(), error.what(), ""}};
     }
-    if (!summary.has_checksum) {
-        static_cast<void>(std::fprintf(stderr,
-                                       "make-package: %s: has no checksum over its content, so "
-                                       "damage can go unnoticed; make it with make-package\n",
-                                       Printable(second).c_str()));
-    }
-    std::printf("%s: %sbuild %d, %zu entries\n", second, check ? "the launcher takes it: " : "",
-                summary.build_number, summary.entries);
-    return std::fflush(stdout) == 0 ? 0 : 1;
+    return report.print();
 }
 
 }  // namespace
@@ -91,20 +107,17 @@ int main(int argc, char** argv) {
     const QCoreApplication app(argc, argv);
     LeaveTheEnvironment();
     StrTable::InitStrTable();
-    if (argc != 3) {
-        static_cast<void>(
-            std::fputs("usage: make-package APP_FOLDER OUT.opk\n"
-                       "       make-package --check FILE.opk\n",
-                       stderr));
-        return 2;
+    Options options;
+    switch (ParseOptions(argc, argv, options)) {
+        case Parsed::Done:
+            return std::fflush(stdout) == 0 ? 0 : 1;
+        case Parsed::Wrong:
+            return 2;
+        case Parsed::Run:
+            break;
     }
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         static_cast<void>(std::signal(number, Interrupt));
     }
-    try {
-        return Run(argv[1], argv[2]);
-    } catch (const std::exception& error) {
-        static_cast<void>(std::fprintf(stderr, "make-package: %s\n", error.what()));
-        return 1;
-    }
+    return Run(options);
 }

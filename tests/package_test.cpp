@@ -1,120 +1,51 @@
-// The packaging tool, and the bundle that an installation lays out, through the programs
-// themselves.
-
-#include <sys/prctl.h>
-#include <sys/wait.h>
+// The packaging tool, through the program itself: making packages, and checking folders and
+// packages.
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <future>
-#include <random>
 
-#include "tests/support/installation.h"
-
-namespace fs = std::filesystem;
+#include "tests/support/packing.h"
 
 namespace {
 
-const std::string kClient = "Contents/MacOS/tarnwell-ui";
-const std::string kInfo = "Contents/Resources/INFO";
-const std::string kPlist = "Contents/Info.plist";
-const std::string kSummer = "Contents/Resources/\xC3\xA9t\xC3\xA9";
+using PackageTest = Packing;
 
-const std::string kScript = "#!/bin/sh\necho $$ >>\"$HOME/started\"\n";
-const std::string kPlistText =
-    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
-std::string InfoText(const std::string& number) {
-    return "[Version]\nmajor_version=2\nbuild_version=" + number + "\n";
-}
-
-std::string Noise(std::size_t size) {
-    std::string noise(size, 0);
-    std::generate(noise.begin(), noise.end(), std::minstd_rand());
-    return noise;
-}
-
-class PackageTest : public testing::Test {
-  protected:
-    PackageTest() {
-        makeApp(app_, false);
-        MakeFile(out_, "old");
-    }
-
-    static void makeApp(const std::string& app, bool backwards) {
-        std::vector<std::function<void()>> steps = {
-            [&] { MakeFile(app + "/" + kClient, kScript, 0755); },
-            [&] { MakeFile(app + "/Contents/MacOS/helper", Noise(200000), 0555); },
-            [&] { MakeFile(app + "/" + kInfo, InfoText("101")); },
-            [&] { MakeFile(app + "/" + kSummer, "summer", 0640); },
-            [&] { MakeFile(app + "/Contents/Resources-a", ""); },
-            [&] { MakeLink("../MacOS/../Resources", app + "/Contents/MacOS/link"); },
-            [&] { MakeLink("link/./\xC3\xA9t\xC3\xA9", app + "/Contents/MacOS/far"); },
-            [&] { MakeFile(app + "/" + kPlist, kPlistText); }};
-        if (backwards) {
-            std::reverse(steps.begin(), steps.end());
-        }
-        for (const auto& step : steps) {
-            step();
-        }
-    }
-
-    struct Result {
-        int code;
-        std::string out;
-        std::string err;
-    };
-    // What a shell in the application folder makes of a command. $MAKE is the tool, $OUT the
-    // package's path, and C, I, P and R stand for places in the application; begun waits until a
-    // package is being written.
-    Result shell(const std::string& command) {
-        const std::string line = "cd '" + app_ + "'; MAKE='" MAKE_PACKAGE "'; OUT='" + out_ +
-                                 "'; C=" + kClient + " I=" + kInfo + " P=" + kPlist +
-                                 " R=Contents/Resources; begun() { for i in $(seq 500); do "
-                                 "[ ! -e $OUT.?????? ] || break; sleep 0.01; done; }; { " +
-                                 command + "; } >'" + (folder_ / "stdout") + "' 2>'" +
-                                 (folder_ / "stderr") + "'";
-        // NOLINTNEXTLINE(cert-env33-c): the tool is called as its users call it
-        const int status = std::system(line.c_str());
-        return {WEXITSTATUS(status), ReadFile(folder_ / "stdout"), ReadFile(folder_ / "stderr")};
-    }
-    Result pack() { return shell("$MAKE . $OUT"); }
-    Result check() { return shell("$MAKE --check $OUT"); }
-
-    // Told in one line that begins like this.
-    static void expectRefusal(const Result& result, const std::string& beginning) {
-        EXPECT_EQ(result.code, 1);
-        EXPECT_EQ(result.out, "");
-        EXPECT_EQ(result.err.rfind("make-package: " + beginning, 0), 0u)
-            << result.err << "instead of " << beginning;
-        EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
-    }
-    // The package is as it was, and nothing is beside it.
-    void expectUntouched() {
-        EXPECT_EQ(Tree(folder_ / "out"), (FileTree{{"x.opk", DescribeFile(0644, "old")}}));
-    }
-
-    const Folder folder_;
-    const std::string app_ = folder_ / "app";
-    const std::string out_ = folder_ / "out/x.opk";
+struct Refusal {
+    std::string arrange;
+    std::string where;
+    std::string what;
 };
 
 TEST_F(PackageTest, TheSameTreeGivesTheSameBytes) {
-    EXPECT_EQ(pack().out, out_ + ": build 101, 11 entries\n");
-    const std::string bytes = ReadFile(out_);
-    EXPECT_EQ(shell("rm $OUT; chown -hR nobody . || test $(id -u) != 0").code, 0);
-    EXPECT_EQ(shell("find . -exec touch -h -d '1999-12-31 23:59:59' {} +").code, 0);
     makeApp(folder_ / "copy", true);
-    const std::string elsewhere = "umask 077; export LC_ALL=C TZ=Asia/Tokyo; cd ../copy; ";
-    EXPECT_EQ(shell(elsewhere + "$MAKE ../copy/ ../out/x.opk").code, 0);
-    EXPECT_TRUE(ReadFile(out_) == bytes);
-    EXPECT_EQ(shell(elsewhere + "sleep 1; $MAKE ../app $OUT").code, 0);
-    EXPECT_TRUE(ReadFile(out_) == bytes);
-    EXPECT_EQ(shell("stat -c %a $OUT").out, "644\n");
+    for (const std::string format : {"tar.zst", "tar.gz", "tar.xz", "zip"}) {
+        SCOPED_TRACE(format);
+        const std::string make = "rm -f $OUT; $MAKE --format " + format + " ";
+        const Result result = shell(make + ". $OUT; sha256sum <$OUT | sed 's/ .*//'; wc -c <$OUT");
+        const std::string bytes = ReadFile(out_);
+        const std::string size = std::to_string(bytes.size());
+        const std::string sum = result.out.substr(result.out.find("SHA-256: ") + 9, 64);
+        EXPECT_EQ(result.out, out_ + ": build 101, 11 entries, " + size +
+                                  " bytes\nSHA-256: " + sum + "\n" + sum + "\n" + size + "\n");
+        EXPECT_EQ(check().out, out_ + ": good: build 101, 11 entries, " + size +
+                                   " bytes\nSHA-256: " + sum + "\n");
+        shell("chown -hR nobody . || test $(id -u) != 0");
+        shell("find . -exec touch -h -d '1999-12-31 23:59:59' {} +");
+        const std::string elsewhere = "umask 077; export LC_ALL=C TZ=Asia/Tokyo; cd ../copy; ";
+        EXPECT_EQ(shell(elsewhere + make + "../copy/ ../out/x.opk").code, 0);
+        EXPECT_TRUE(ReadFile(out_) == bytes);
+        EXPECT_EQ(shell("stat -c %a $OUT").out, "644\n");
+    }
 }
 
 TEST_F(PackageTest, KeepsModesAndLinksAndPutsTheClientLast) {
-    shell("chmod 2750 $R; ln $C Contents/MacOS/again; $MAKE . $OUT");
+    const Result result = shell(
+        "chmod 2750 $R; ln $C Contents/MacOS/again; for i in .DS_Store ._INFO desktop.ini; do "
+        "echo x >$R/$i; done; $MAKE . $OUT");
+    EXPECT_EQ(result.err,
+              "make-package: warning: Contents/Resources/.DS_Store: left out, as it is no part of "
+              "an application\nmake-package: warning: Contents/Resources/._INFO: left out, as it "
+              "is no part of an application\nmake-package: warning: Contents/Resources/"
+              "desktop.ini: left out, as it is no part of an application\n");
     const Result list = shell("LC_ALL=C.UTF-8 bsdtar -tvf $OUT | sed 's/ .* Contents/ /'");
     EXPECT_EQ(list.out,
               "drwxr-xr-x /\n-rw-r--r-- /Info.plist\ndrwxr-xr-x /MacOS/\n-rwxr-xr-x /MacOS/again\n"
@@ -133,37 +64,43 @@ TEST_F(PackageTest, RefusesWhatWouldFailOnAUsersMachine) {
     const std::string plist =
         "printf '<plist><dict><key>CFBundleExecutable</key><string>%s</string"
         "></dict></plist>' ";
-    const struct {
-        std::string arrange;
-        std::string where;
-        std::string what;
-    } rows[] = {
-        {"rm $C", kClient, "is missing; put the client's executable there"},
-        {"mv $C $R; ln -s ../Resources/tarnwell-ui $C", kClient, "isn't a file with content"},
-        {": >$C", kClient, "isn't a file with content"},
-        {"chmod 655 $C", kClient, "isn't executable; chmod 755"},
-        {"rm $I", kInfo, "is missing; write the version file"},
-        {"echo major_version=1 >$I", kInfo, number + ", but ''"},
-        {"echo build_version=1 >$I", kInfo, number + ", but ''"},
-        {info + "12b >$I", kInfo, number + ", but '12b'"},
-        {info + "-5 >$I", kInfo, number},
-        {info + "0 >$I", kInfo, number},
-        {info + "0042 >$I", kInfo, number},
-        {info + "2147483648 >$I", kInfo, number},
-        {"rm $P", kPlist, "is missing; without it the application can't be opened"},
-        {"echo bplist00 >$P", kPlist, "isn't an XML property list with the key CFBundleExecutable"},
+    const Refusal rows[] = {
+        {"rm $C", kPackedClient, "is missing; put the client's executable there"},
+        {"mv $C $R; ln -s ../Resources/tarnwell-ui $C", kPackedClient, "isn't a file with content"},
+        {": >$C", kPackedClient, "isn't a file with content"},
+        {"chmod 655 $C", kPackedClient, "isn't executable; chmod 755"},
+        {"echo echo hello >$C", kPackedClient, "is neither a program (ELF, Mach-O) nor a script"},
+        {"echo '#!sh' >$C", kPackedClient, "is neither a program"},
+        {"printf '#!/bin/sh\\r\\n' >$C", kPackedClient, "is neither a program"},
+        {"printf '\\177ELF\\2\\1\\1\\0%08d\\1\\0\\0\\0' 0 >$C", kPackedClient,
+         "is neither a program"},  // an object file
+        {"printf '\\312\\376\\272\\276\\0\\0\\0\\064%08d' 0 >$C", kPackedClient,
+         "is neither a program"},  // a class of Java
+        {"rm $I", kPackedInfo, "is missing; write the version file"},
+        {"echo major_version=1 >$I", kPackedInfo, number + ", but ''"},
+        {"echo build_version=1 >$I", kPackedInfo, number + ", but ''"},
+        {info + "12b >$I", kPackedInfo, number + ", but '12b'"},
+        {info + "-5 >$I", kPackedInfo, number},
+        {info + "0 >$I", kPackedInfo, number},
+        {info + "0042 >$I", kPackedInfo, number},
+        {info + "2147483648 >$I", kPackedInfo, number},
+        {"truncate -s 2M $I", kPackedInfo, "isn't a file of at most 1 MiB"},
+        {"rm $P", kPackedPlist, "is missing; without it the application can't be opened"},
+        {"echo bplist00 >$P", kPackedPlist, "isn't an XML property list with the key CFBundleEx"},
         {plist + "ui >$P", "Contents/MacOS/ui", "is missing; CFBundleExecutable in"},
         {plist + "far >$P", "Contents/MacOS/far", "isn't a file with content; CFBundleExecutable"},
+        {plist + "helper >$P", "Contents/MacOS/helper", "is neither a program"},
         {"touch \"$(printf 'caf\\351\\n.')\"", "caf\\xE9\\x0A.", "isn't named in UTF-8; rename it"},
         {"touch cafe\xCC\x81", "cafe\xCC\x81", "has a name that isn't in Unicode's composed form"},
         {"touch $R/info", res + "info", "differs from 'Contents/Resources/INFO' in letter case"},
-        {"touch $R/\xC3\x89T\xC3\x89", kSummer, "differs from 'Contents/Resources/\xC3\x89T\xC3"},
-        {"mkdir contents", "contents", "differs from 'Contents' in letter case only"},
+        {"touch $R/\xC3\x89T\xC3\x89", res + "\xC3\xA9t\xC3\xA9",
+         "differs from 'Contents/Resources/\xC3\x89T\xC3"},
+        {"mkdir contents; touch contents/x", "contents", "differs from 'Contents' in letter case"},
         {"mkdir -p $(dirname " + deep + "); touch " + deep, deep, "has a path of more than 800"},
         {"mkfifo pipe", "pipe", "is a pipe, socket or device, which the launcher refuses"},
-        {"chmod u+s $C", kClient, "is set-user-id or set-group-id"},
-        {"chmod g+s $C", kClient, "is set-user-id or set-group-id"},
-        {"chmod u-r $I", kInfo, "can't be read by its owner; chmod u+r"},
+        {"chmod u+s $C", kPackedClient, "is set-user-id or set-group-id"},
+        {"chmod g+s $C", kPackedClient, "is set-user-id or set-group-id"},
+        {"chmod u-r $I", kPackedInfo, "can't be read by its owner; chmod u+r"},
         {"chmod u-w $R", "Contents/Resources", "is a folder that its owner can't read, write and"},
         {"ln -s $PWD/$I $R/a", res + "a", "is a link to an absolute path"},
         {"ln -s ../../../app/Contents $R/a", res + "a", "is a link that leads out of the app"},
@@ -172,19 +109,105 @@ TEST_F(PackageTest, RefusesWhatWouldFailOnAUsersMachine) {
         {"ln -s INFO/x $R/a", res + "a", "is a link to nothing"},
         {"ln -s ../Resources/a $R/a", res + "a", "is a link that leads in a circle"},
     };
-    for (const auto& row : rows) {
+    for (const Refusal& row : rows) {
         SCOPED_TRACE(row.arrange);
         expectRefusal(shell(row.arrange + "; $MAKE . $OUT"), "./" + row.where + ": " + row.what);
+        expectRefusal(shell("$MAKE --check ."), "./" + row.where + ": " + row.what);
         EXPECT_EQ(shell("chmod u+w $R; rm -rf ../app").code, 0);
-        makeApp(app_, false);
+        makeApp(app_);
     }
-    expectRefusal(shell("ln -s $PWD ../way; $MAKE . ../way/x.opk"),
-                  "../way/x.opk: lies in the application folder");
-    expectRefusal(shell("$MAKE . none/x.opk"), "none/x.opk: has no folder to stand in");
-    expectRefusal(shell("$MAKE . ../out"), "../out: is a folder; name the file to make");
-    expectRefusal(shell("$MAKE $OUT $OUT"), out_ + ": isn't an application folder");
-    EXPECT_EQ(shell("$MAKE .").code, 2);
-    expectUntouched();
+    EXPECT_TRUE(Tree(folder_ / "out").empty());
+}
+
+TEST_F(PackageTest, ReportsAllFaultsInOneGo) {
+    const std::string faults =
+        "1. ./Contents/MacOS/far: is a link to nothing; remove it, or add its target\n"
+        "2. ./Contents/MacOS/tarnwell-ui: isn't executable; chmod 755\n"
+        "3. ./Contents/Resources/INFO: is missing; write the version file, see docs/shipping.md\n";
+    EXPECT_EQ(shell("chmod -x $C; rm $I $R/\xC3\xA9*; $MAKE . $OUT").err,
+              "make-package: .: 3 faults\n" + faults);
+    const Result json = shell("$MAKE --json --check .");
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(json.err, "");
+    EXPECT_NE(json.out.find("\"good\": false"), std::string::npos);
+    EXPECT_NE(json.out.find("\"what\": \"isn't executable\""), std::string::npos) << json.out;
+    // One cause gives one fault: what is in a folder that can't be read isn't missing.
+    shell("rm -rf ../app");
+    makeApp(app_);
+    expectRefusal(shell("chmod 0 Contents/MacOS; $MAKE . $OUT; s=$?; chmod 755 Contents/MacOS; "
+                        "exit $s"),
+                  "./Contents/MacOS: is a folder that its owner can't read");
+}
+
+TEST_F(PackageTest, NamesTheFolderThatWasMeant) {
+    const Refusal rows[] = {
+        {"cd Contents; $MAKE . $OUT", ".", "is the Contents of an application; name the folder "},
+        {"cd ..; mv app A.app; $MAKE . x.opk; s=$?; mv A.app app; exit $s", ".",
+         "has no folder Contents; name the application in it: ./A.app"},
+        {"$MAKE $OUT.none $OUT", out_ + ".none", "can't be opened: No such file or directory"},
+        {"$MAKE $C $OUT", kPackedClient, "isn't an application folder"},
+        {"$MAKE '" BUILD "/Tarnwell.app' $OUT", BUILD "/Tarnwell.app", "is a launcher's bundle, "},
+        {"ln -s $PWD ../way; $MAKE . ../way/x.opk", "../way/x.opk", "is in the application folder"},
+        {"$MAKE . none/x.opk", "none/x.opk", "its folder can't be opened: No such file"},
+        {"$MAKE . ../out", "../out", "is a folder; name the file to make"},
+    };
+    for (const Refusal& row : rows) {
+        SCOPED_TRACE(row.arrange);
+        expectRefusal(shell(row.arrange), row.where + ": " + row.what);
+    }
+    // Another user's file, as opposed to an empty one.
+    for (const std::string& path : {kPackedInfo, kPackedPlist}) {
+        expectRefusal(shell("chmod 700 " + path + "; chown 1 " + path + " 2>&- || chmod 0 " + path +
+                            "; nobody $MAKE --check ."),
+                      "./" + path + ": can't be read");
+        shell("chmod 644 " + path);
+    }
+}
+
+TEST_F(PackageTest, WritesOverNothingButAPackage) {
+    const Refusal rows[] = {
+        {"mknod $OUT c 1 3 2>&- || mkfifo $OUT", "", "isn't a regular file; name the file to make"},
+        {"ln -s /dev/null $OUT", "", "isn't a regular file"},
+        {"ln -s none $OUT", "", "isn't a regular file"},
+        {"echo thesis >$OUT", "", "is there and is no whole package: it is no archive that the"},
+        {": >$OUT", "", "is there and is no whole package: it is empty; remove it first"},
+        {"bsdtar --format zip -cf $OUT $R", "", "is there and is no whole package: it has no cli"},
+        {"$MAKE . $OUT; truncate -s -9 $OUT", "",
+         "is there and is no whole package: it is damaged"},
+    };
+    for (const Refusal& row : rows) {
+        SCOPED_TRACE(row.arrange);
+        shell(row.arrange);
+        const std::string before = shell("stat -c '%i %F %s %Y' $OUT; ls ../out").out;
+        expectRefusal(pack(), out_ + ": " + row.what);
+        EXPECT_EQ(shell("stat -c '%i %F %s %Y' $OUT; ls ../out").out, before);
+        shell("rm $OUT");
+    }
+}
+
+TEST_F(PackageTest, WarnsWhenNoUserWouldGetTheBuild) {
+    const auto packAs = [&](const std::string& number, const std::string& options) {
+        return shell("sed -i s/build_version=.*/build_version=" + number + "/ $I; $MAKE " +
+                     options + " . $OUT");
+    };
+    const std::string raise = "; raise build_version in Contents/Resources/INFO\n";
+    EXPECT_EQ(packAs("8", "").err, "");
+    EXPECT_EQ(packAs("8", "--format zip").err, "");  // the same content
+    EXPECT_EQ(packAs("5", "").err, "make-package: warning: " + out_ +
+                                       ": was build 8, which no user would replace by build 5" +
+                                       raise);
+    EXPECT_EQ(shell("echo more >more; $MAKE . $OUT").err,
+              "make-package: warning: " + out_ +
+                  ": was build 5 too, with another content, which users of that build keep" +
+                  raise);
+    const std::string bytes = ReadFile(out_);
+    for (const std::string number : {"4", "5"}) {
+        expectRefusal(packAs(number, "--newer-than $OUT"),
+                      ".: is build " + number + ", not newer than build 5 of " + out_ + raise);
+        expectRefusal(shell("$MAKE --newer-than $OUT --check ."), ".: is build " + number);
+    }
+    EXPECT_TRUE(ReadFile(out_) == bytes);
+    EXPECT_EQ(packAs("6", "--newer-than $OUT").err, "");
 }
 
 TEST_F(PackageTest, AFailureLeavesNoHalfPackage) {
@@ -193,68 +216,79 @@ TEST_F(PackageTest, AFailureLeavesNoHalfPackage) {
     MakeFile(app_ + "/noise", Noise(16 << 20));
     expectRefusal(shell("$MAKE . $OUT & begun; kill $!; wait $!"),
                   out_ + ": was interrupted; run again");
-    expectRefusal(shell("$MAKE . $OUT & begun; touch new; wait $!"), ".: was changed while it was");
+    expectRefusal(shell("$MAKE --format zip . $OUT & begun; touch new; wait $!"),
+                  ".: was changed while it was");
     expectRefusal(shell("$MAKE . $OUT & begun; : >noise; wait $!"), "./noise: was changed while");
-    expectUntouched();
+    EXPECT_TRUE(Tree(folder_ / "out").empty());
 }
 
-TEST_F(PackageTest, ChecksWhetherTheLauncherTakesAPackage) {
+TEST_F(PackageTest, ChecksWhetherTheLauncherAcceptsAPackage) {
     EXPECT_EQ(pack().code, 0);
-    EXPECT_EQ(check().out, out_ + ": the launcher takes it: build 101, 11 entries\n");
-    shell("truncate -s -30 $OUT");
-    expectRefusal(check(), out_ + ": the launcher can't unpack it: the archive was cut off after");
-    MakeFile(out_, "text");
-    expectRefusal(check(), out_ + ": the launcher can't unpack it: ");
-    expectRefusal(shell("$MAKE --check none"), "none: isn't a file");
+    const Refusal rows[] = {
+        {": >$OUT", "", "is empty; make the package again"},
+        {"echo text >$OUT", "", "is no archive that the launcher can read: Unrecognized archive"},
+        {"head -c 9999 /dev/urandom >$OUT", "", "is "},
+        {"rm $OUT; $MAKE --format zip . $OUT; truncate -s -30 $OUT", "", "was cut off after"},
+        {"rm $OUT; $MAKE . $OUT; truncate -s -9 $OUT", "", "is damaged"},
+        {"cd ..; mv app A.app; bsdtar --format zip -cf $OUT A.app; mv A.app app", "",
+         "has A.app/ around the application; pack what is in that folder: make-package A.app"},
+    };
+    for (const Refusal& row : rows) {
+        SCOPED_TRACE(row.arrange);
+        shell(row.arrange);
+        expectRefusal(check(), out_ + ": " + row.what);
+    }
+    expectRefusal(shell("$MAKE --check none"), "none: can't be opened");
 
-    const std::vector<Entry> rest = {{kPlist, kPlistText}, {kInfo, InfoText("7")}};
-    const Entry client = {"./" + kClient, kScript, 0755};
+    const std::vector<Entry> rest = {{kPackedPlist, kPlistText}, {kPackedInfo, InfoText("7")}};
+    const Entry client = {"./" + kPackedClient, "#!/bin/sh\n", 0755};
     MakeArchive(out_, "tar.gz", {rest[0], rest[1], client});
-    EXPECT_EQ(check().out, out_ + ": the launcher takes it: build 7, 6 entries\n");
+    EXPECT_EQ(check().out.rfind(out_ + ": good: build 7, 3 entries", 0), 0u);
     EXPECT_EQ(check().err, "");
     MakeArchive(out_, "tar", {rest[0], rest[1], client});
-    EXPECT_TRUE(HasOneLine(check().err, out_ + ": has no checksum over its content"))
-        << check().err;
-    EXPECT_EQ(check().code, 0);
+    const Result result = check();
+    EXPECT_EQ(result.code, 0);
+    EXPECT_TRUE(HasOneLine(result.err, out_ + ": has no checksum over its content")) << result.err;
     MakeArchive(out_, "zip", {rest[0], {"../x", "evil"}, rest[1], client});
     expectRefusal(check(), out_ + ": the launcher can't unpack it: archive_read_extract2 failed");
     MakeArchive(out_, "zip", {client, rest[0], rest[1]});
-    expectRefusal(check(), out_ + ": doesn't end with " + kClient);
+    expectRefusal(check(), out_ + ": doesn't end with " + kPackedClient);
     MakeArchive(out_, "zip", rest);
-    expectRefusal(check(), out_ + "/" + kClient + ": is missing");
+    expectRefusal(check(), out_ + "/" + kPackedClient + ": is missing");
 }
 
-// What a user gets, from the build tree to an upgrade of the running client.
-TEST_F(PackageTest, AnInstalledBundleInstallsAndUpgrades) {
-    ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);  // the clients are ours to wait for
-    Installation installation;
-    const std::string bundle = fs::path(installation.bundle("")).parent_path();
-    fs::remove_all(bundle);
-    const std::string install = "umask 077; unset DESTDIR; '" CMAKE "' --install '" BUILD "' ";
-    ASSERT_EQ(shell(install + "--prefix " + fs::path(bundle).parent_path().native()).code, 0);
-    FileTree tree = Tree(bundle);
-    EXPECT_EQ(tree, Tree(BUILD "/Tarnwell.app"));
-    for (const auto& [name, description] : tree) {
-        const bool executable = name == "Contents/MacOS/tarnwell-launcher";
-        const std::string start = executable ? "file 0755" : "file 0644";
-        EXPECT_TRUE(description == "folder" || description.rfind(start, 0) == 0) << name;
-    }
-    EXPECT_EQ(shell("find " + bundle + " -type d ! -perm 755").out, "");
-    installation.run();
-    EXPECT_EQ(Tree(installation.app()), Tree(BUILD "/packaging/client/Tarnwell.app"));
-    const std::string pid_file = installation.user("ui.pid");
-    ASSERT_TRUE(WaitFor([&] { return ReadFile(pid_file).find('\n') != std::string::npos; }));
-    const pid_t client = std::stoi(ReadFile(pid_file).substr(4));
-    auto end = std::async(std::launch::async, [&] { return Installation::wait(client); });
+TEST_F(PackageTest, BlamesTheTemporaryFolderAndNotThePackage) {
+    ASSERT_EQ(pack().code, 0);
+    const std::string advice = "set TMPDIR to a folder with more space";
+    const std::string none = "no temporary folder can be made in it: ";
+    expectRefusal(shell("TMPDIR=/none $MAKE --check $OUT"), "/none: " + none + "No such file");
+    expectRefusal(shell("TMPDIR=$PWD/$I $MAKE --check $OUT"),
+                  app_ + "/" + kPackedInfo + ": " + none);
+    const SmallDisk disk(folder_ / "disk", "128k");
+    ASSERT_TRUE(disk.mounted());
+    const Result result = shell("TMPDIR=../disk $MAKE --check $OUT; ls ../disk");
+    EXPECT_NE(result.err.find("nothing can be written to this temporary folder: No space left"),
+              std::string::npos)
+        << result.err;
+    EXPECT_EQ(result.out, "");
+}
 
-    EXPECT_EQ(shell("sed -i s/101/2000000000/ $I; $MAKE . " + installation.package()).code, 0);
-    const std::string info = installation.bundle(kInfo);
-    expectRefusal(shell("$MAKE --check " + installation.package()), info + ": says build ");
-    EXPECT_EQ(shell("cp $I " + info + "; $MAKE --check " + installation.package()).code, 0);
-    installation.run();
-    EXPECT_EQ(end.get(), 0);
-    EXPECT_EQ(Tree(installation.app()), Tree(app_));
-    EXPECT_TRUE(installation.clientStarted());
+TEST_F(PackageTest, AnswersPeopleAndMachines) {
+    EXPECT_EQ(shell("$MAKE --help").out.rfind("usage: make-package ", 0), 0u);
+    EXPECT_EQ(shell("$MAKE --version").out, "make-package " VERSION "\n");
+    const Result json = shell("$MAKE --json . $OUT; sha256sum <$OUT | sed 's/ .*//'");
+    const std::string sum = json.out.substr(json.out.size() - 65, 64);
+    for (const std::string& part : {std::string("\"build\": 101"), std::string("\"good\": true"),
+                                    "\"sha256\": \"" + sum + "\""}) {
+        EXPECT_NE(json.out.find(part), std::string::npos) << json.out;
+    }
+    for (const std::string wrong :
+         {"", ".", ". $OUT more", "--check", "--check . $OUT", "--none . $OUT", "--format",
+          "--format rar . $OUT", "--newer-than"}) {
+        const Result result = shell("$MAKE " + wrong);
+        EXPECT_EQ(result.code, 2) << wrong;
+        EXPECT_NE(result.err.find("\nusage: make-package "), std::string::npos) << wrong;
+    }
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ bool IsFileName(const QString& text) {
 
 namespace platform {
 
-QString BundleExecutable(const QByteArray& info_plist) {
-    QXmlStreamReader xml(info_plist);
+QString PropertyListText(const QByteArray& list, const QString& wanted) {
+    QXmlStreamReader xml(list);
     if (!xml.readNextStartElement() || xml.name() != QLatin1String("plist") ||
         !xml.readNextStartElement() || xml.name() != QLatin1String("dict")) {
         return QString();
@@ -24,15 +24,19 @@ QString BundleExecutable(const QByteArray& info_plist) {
     while (xml.readNextStartElement()) {
         if (xml.name() == QLatin1String("key")) {
             key = xml.readElementText();
-        } else if (xml.name() == QLatin1String("string") &&
-                   key == QLatin1String("CFBundleExecutable")) {
-            const QString name = xml.readElementText();
-            return !xml.hasError() && IsFileName(name) ? name : QString();
+        } else if (xml.name() == QLatin1String("string") && key == wanted) {
+            const QString text = xml.readElementText();
+            return xml.hasError() ? QString() : text;
         } else {
             xml.skipCurrentElement();
         }
     }
     return QString();
+}
+
+QString BundleExecutable(const QByteArray& info_plist) {
+    const QString name = PropertyListText(info_plist, QStringLiteral("CFBundleExecutable"));
+    return IsFileName(name) ? name : QString();
 }
 
 }  // namespace platform

@@ -1,0 +1,65 @@
+#include "packaging/build-number.h"
+
+#include <QSettings>
+#include <cerrno>
+#include <cstring>
+#include <limits>
+
+#include "lib/platform/open-bundle.h"
+#include "lib/platform/regular-file.h"
+
+namespace {
+
+const std::size_t kMaxSize = std::size_t{1024} * 1024;  // bytes; the launcher reads no more
+
+bool ReadSmallFile(const std::string& file, std::string& text, Fault& fault) {
+    switch (platform::ReadRegularFile(file.c_str(), kMaxSize, text)) {
+        case platform::Reading::Done:
+            return true;
+        case platform::Reading::Missing:
+            fault.what = "is missing";
+            return false;
+        case platform::Reading::Refused:
+            fault.what = "isn't a file of at most 1 MiB";
+            return false;
+        default:
+            fault.what = std::string("can't be read: ") + std::strerror(errno);
+            return false;
+    }
+}
+
+}  // namespace
+
+bool ReadBuildNumber(const std::string& file, int& number, Fault& fault) {
+    std::string content;
+    if (!ReadSmallFile(file, content, fault)) {
+        return false;
+    }
+    // The launcher reads it like this, and takes the number up to the first other character.
+    const QSettings settings(QString::fromStdString(file), QSettings::IniFormat);
+    const QString text = settings.value(QStringLiteral("Version/build_version")).toString();
+    bool is_number = false;
+    number = text.toInt(&is_number);
+    if (is_number && number > 0 && QString::number(number) == text) {
+        return true;
+    }
+    fault.what = "has no build_version from 1 to " +
+                 std::to_string(std::numeric_limits<int>::max()) +
+                 " in its group [Version], but '" + text.toStdString() + "'";
+    fault.advice = "write the number in digits, greater than the last one shipped";
+    return false;
+}
+
+bool ReadInfoPlist(const std::string& file, QByteArray& text, Fault& fault) {
+    std::string content;
+    if (!ReadSmallFile(file, content, fault)) {
+        return false;
+    }
+    text = QByteArray::fromStdString(content);
+    if (platform::BundleExecutable(text).isEmpty()) {
+        fault.what = "isn't an XML property list with the key CFBundleExecutable";
+        fault.advice = "add the key, or convert the file with: plutil -convert xml1";
+        return false;
+    }
+    return true;
+}
