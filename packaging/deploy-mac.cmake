@@ -16,5 +16,5 @@ function(install_deployment component options)
         \"-codesign=${TARNWELL_SIGNING_IDENTITY}\" COMMAND_ERROR_IS_FATAL ANY)"
         COMPONENT ${component} ${ARGN})
 endfunction()
-install_deployment(client "" EXCLUDE_FROM_ALL)
+install_deployment(demo "" EXCLUDE_FROM_ALL)
 install_deployment(launcher "-no-plugins")

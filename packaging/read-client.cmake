@@ -1,0 +1,37 @@
+# Part of an installation, before anything is written: finds the client, which must be one that can
+# be packed, and sets what the bundle is named after.
+set(app "${default_app}")
+if(NOT "$ENV{TARNWELL_APP}" STREQUAL "")
+    set(app "$ENV{TARNWELL_APP}")
+endif()
+if(app STREQUAL "")
+    message(FATAL_ERROR "No client to carry: name its application folder in TARNWELL_APP, in the "
+        "environment or at configuration, or run scripts/make-bundle. The demonstration client is "
+        "${demo_app}")
+endif()
+get_filename_component(app "${app}" ABSOLUTE)
+
+execute_process(COMMAND "${make_package}" --check "${app}" COMMAND_ERROR_IS_FATAL ANY
+    OUTPUT_QUIET)
+execute_process(COMMAND "${make_package}" --json --check "${app}" COMMAND_ERROR_IS_FATAL ANY
+    OUTPUT_VARIABLE client_facts)
+
+# read_name(VARIABLE KEY DEFAULT): what the client's property list says, as XML wants it.
+function(read_name variable key default)
+    string(JSON value GET "${client_facts}" names ${key})
+    if(value STREQUAL "")
+        set(value "${default}")
+    endif()
+    string(REPLACE "&" "&amp;" value "${value}")
+    string(REPLACE "<" "&lt;" value "${value}")
+    string(REPLACE ">" "&gt;" value "${value}")
+    set(${variable} "${value}" PARENT_SCOPE)
+endfunction()
+string(JSON build GET "${client_facts}" build)
+read_name(name CFBundleName Tarnwell)
+read_name(display_name CFBundleDisplayName "${name}")
+string(JSON plain_name GET "${client_facts}" names CFBundleDisplayName)  # for what isn't XML
+read_name(client_identifier CFBundleIdentifier com.orvane.tarnwell)
+read_name(version CFBundleShortVersionString "${build}")
+read_name(icon_file CFBundleIconFile "")
+string(REGEX REPLACE "\\.icns$" "" icon_file "${icon_file}")

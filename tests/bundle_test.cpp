@@ -1,0 +1,188 @@
+// Bundles: what the packaging tool finds in them, and what an installation and the scripts lay out.
+
+#include <sys/prctl.h>
+
+#include <filesystem>
+#include <future>
+
+#include "tests/support/installation.h"
+#include "tests/support/packing.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string kPackage = "Contents/Resources/package/tarnwell.opk";
+
+class BundleTest : public Packing {
+  protected:
+    // In a shell as in packing.h, $B is a bundle with the client of the build tree; install puts
+    // the launcher's part into a folder.
+    Result shell(const std::string& command) const {
+        return Packing::shell("unset DESTDIR TARNWELL_APP; DEMO='" BUILD
+                              "/packaging/client/Tarnwell.app'; B=$PWD/../bundle/Tarnwell.app; "
+                              "install() { '" CMAKE "' --install '" BUILD "' \"$@\"; }; " +
+                              command);
+    }
+    Result copyBundle() const {
+        return shell("rm -rf ../bundle; mkdir ../bundle; cp -R '" BUILD "/Tarnwell.app' ../bundle");
+    }
+    const std::string bundle_ = app_ + "/../bundle/Tarnwell.app";
+};
+
+TEST_F(BundleTest, RefusesWhatWouldNotUpgradeOrStart) {
+    const std::string sed = "sed -i s/build_version=.*/build_version=7/ ";
+    const struct {
+        std::string arrange;
+        std::string where;
+        std::string what;
+    } rows[] = {
+        {"rm $B/$I", kPackedInfo, "is missing; copy the INFO of the packed application there"},
+        {"chmod 600 $B/$I", kPackedInfo, "isn't accessible to every user; chmod -R go+rX the"},
+        {"chmod 640 $B/$R/package/*", kPackage, "isn't accessible to every user"},
+        {"chmod 700 $B/Contents/MacOS", "Contents/MacOS", "isn't accessible to every user"},
+        {"chmod 744 $B/Contents/MacOS/*", "Contents/MacOS/tarnwell-launcher", "isn't accessible"},
+        {"mkdir $B/log; : >$B/log/launcher.debug", "log/launcher.debug", "is a level file, which"},
+        {sed + "$B/$I; sed -i 's,<string>100<,<string>7<,' $B/$P", kPackedInfo,
+         "says build 7, but the package is build "},
+        {"sed -i 's,<string>100<,<string>101<,' $B/$P", kPackedPlist,
+         "has the CFBundleVersion '101', but INFO says build "},
+        {"rm $B/$R/package/*", kPackage, "is missing; put the package there"},
+        {": >$B/$R/package/tarnwell.opk", kPackage, "isn't a file with content"},
+        {"truncate -s -9 $B/$R/package/*", kPackage, "is damaged"},
+        {"rm $B/$R/images/*", "Contents/Resources/images/ico_72_tarnwell.png", "is missing; put"},
+        {"rm $B/Contents/Frameworks/plugins/platforms/*", "Contents/Frameworks/plugins/platforms",
+         "has no plug-in, without which Qt ends the launcher"},
+        {"rm $B/Contents/MacOS/*", "Contents/MacOS/tarnwell-launcher", "is missing; put the"},
+        // A client for a Mac beside a launcher for Linux.
+        {"cp -R $DEMO ../mac; printf '\\317\\372\\355\\376\\7\\0\\0\\1\\3\\0\\0\\0\\2\\0\\0\\0' "
+         ">../mac/$C; $MAKE ../mac $B/$R/package/tarnwell.opk 2>&-; rm -r ../mac",
+         kPackage, "its client is a Mac program (Mach-O), but the launcher is a Linux program"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.arrange);
+        copyBundle();
+        shell(row.arrange);
+        expectRefusal(shell("$MAKE --check $B"), bundle_ + "/" + row.where + ": " + row.what);
+    }
+    copyBundle();
+    EXPECT_EQ(shell("$MAKE --check $B").out.rfind(bundle_ + ": good: build ", 0), 0u);
+    // The package in a bundle stands for the bundle.
+    EXPECT_EQ(shell("rm $B/$I; $MAKE --check $B/$R/package/tarnwell.opk").code, 1);
+}
+
+TEST_F(BundleTest, AnInstallationNeedsAClient) {
+    const Result result = shell("install --prefix ../bundle");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_NE(result.err.find("No client to carry"), std::string::npos) << result.err;
+    EXPECT_FALSE(Exists(bundle_));
+    EXPECT_EQ(shell("chmod -x $C; TARNWELL_APP=. install --prefix ../bundle").code, 1);
+    EXPECT_FALSE(Exists(bundle_));
+}
+
+// What a user gets, from the build tree to an upgrade of the running client.
+TEST_F(BundleTest, AnInstalledBundleInstallsAndUpgrades) {
+    ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);  // the clients are ours to wait for
+    Installation installation;
+    const std::string bundle = fs::path(installation.bundle("")).parent_path();
+    const std::string prefix = fs::path(bundle).parent_path();
+    fs::remove_all(bundle);
+    ASSERT_EQ(shell("umask 077; TARNWELL_APP=$DEMO install --prefix " + prefix).code, 0);
+    FileTree tree = Tree(bundle);
+    EXPECT_EQ(tree, Tree(BUILD "/Tarnwell.app"));
+    for (const auto& [name, description] : tree) {
+        const bool executable = name == "Contents/MacOS/tarnwell-launcher";
+        const std::string start = executable ? "file 0755" : "file 0644";
+        EXPECT_TRUE(description == "folder" || description.rfind(start, 0) == 0) << name;
+    }
+    EXPECT_EQ(shell("find " + bundle + " -type d ! -perm 755").out, "");
+    installation.run();
+    EXPECT_EQ(Tree(installation.app()), Tree(BUILD "/packaging/client/Tarnwell.app"));
+    const std::string pid_file = installation.user("ui.pid");
+    ASSERT_TRUE(WaitFor([&] { return ReadFile(pid_file).find('\n') != std::string::npos; }));
+    const pid_t client = std::stoi(ReadFile(pid_file).substr(4));
+    auto end = std::async(std::launch::async, [&] { return Installation::wait(client); });
+
+    EXPECT_EQ(shell("sed -i s/101/2000000000/ $I; cp -R $DEMO/$R/images $R; TARNWELL_BUILD='" BUILD
+                    "' '" SOURCE "/scripts/make-bundle' . " +
+                    prefix)
+                  .code,
+              0);
+    installation.run();
+    EXPECT_EQ(end.get(), 0);
+    EXPECT_EQ(Tree(installation.app()), Tree(app_));
+    EXPECT_TRUE(installation.clientStarted());
+}
+
+TEST_F(BundleTest, TakesNamesNumberAndIconsFromTheClient) {
+    const auto makeBundle = [&](const std::string& options) {
+        return shell("TARNWELL_BUILD='" BUILD "' '" SOURCE "/scripts/make-bundle' " + options +
+                     " . ../bundle");
+    };
+    Result result = makeBundle("");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_NE(result.err.find("the launcher's dialog there"), std::string::npos) << result.err;
+    EXPECT_TRUE(Tree(folder_ / "bundle").empty());
+
+    MakeFile(app_ + "/Contents/Resources/images/ico_72_tarnwell.png", "icon");
+    MakeFile(app_ + "/Contents/Resources/sync.icns", "icons", 0600);
+    std::string plist = "<plist><dict>";
+    for (const auto& [key, value] : {std::pair("CFBundleExecutable", "tarnwell-ui"),
+                                     {"CFBundleIconFile", "sync.icns"},
+                                     {"CFBundleIdentifier", "org.example.sync"},
+                                     {"CFBundleName", "Up &amp; Down"},
+                                     {"CFBundleShortVersionString", "4.2"}}) {
+        plist += std::string("<key>") + key + "</key><string>" + value + "</string>";
+    }
+    MakeFile(app_ + "/" + kPackedPlist, plist + "</dict></plist>");
+    result = makeBundle("");
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(result.out.rfind("../bundle/Tarnwell.app: good: build 101, 14 entries", 0), 0u);
+    const std::string made = ReadFile(bundle_ + "/" + kPackedPlist);
+    for (const std::string value : {"tarnwell-launcher", "sync", "org.example.sync.launcher",
+                                    "Up &amp; Down", "4.2", "101"}) {
+        EXPECT_NE(made.find("<string>" + value + "</string>"), std::string::npos) << made;
+    }
+    EXPECT_EQ(ReadFile(bundle_ + "/" + kPackedInfo), InfoText("101"));
+    EXPECT_EQ(ReadFile(bundle_ + "/Contents/Resources/sync.icns"), "icons");
+
+    // A bundle that is there is replaced as a whole, and nothing else is.
+    EXPECT_EQ(shell("mkdir $B/log; : >$B/log/launcher.debug").code, 0);
+    result = makeBundle("");
+    EXPECT_NE(result.err.find("warning: no user of the bundle that is replaced"), std::string::npos)
+        << result.err;
+    EXPECT_FALSE(Exists(bundle_ + "/log"));
+    EXPECT_EQ(makeBundle("--newer-than $B/$R/package/tarnwell.opk").code, 1);
+    EXPECT_EQ(shell("rm -r $B/*; echo mine >$B/mine").code, 0);
+    EXPECT_EQ(makeBundle("").code, 1);
+    EXPECT_EQ(Tree(folder_ / "bundle").size(), 2u);
+}
+
+TEST_F(BundleTest, TheInstalledToolWorksAwayFromTheSources) {
+    EXPECT_EQ(shell("install --component tools --prefix ../tools").code, 0);
+    const Result result = shell("cd /; env -i \"$OLDPWD/../tools/bin/make-package\" $DEMO $OUT");
+    EXPECT_EQ(result.code, 0) << result.err;
+}
+
+// What a Linux desktop is given.
+TEST_F(BundleTest, ADesktopCanShowAndStartIt) {
+    ASSERT_EQ(
+        shell("umask 077; TARNWELL_APP=$DEMO install --component desktop --prefix ../usr").code, 0);
+    EXPECT_EQ(shell("desktop-file-validate ../usr/share/applications/*.desktop").out, "");
+    const Result result =
+        shell("appstreamcli validate --no-net ../usr/share/metainfo/*.metainfo.xml");
+    EXPECT_EQ(result.code, 0) << result.out;
+    for (const int size : {16, 32, 48, 72, 128, 256, 512}) {
+        const std::string name = std::to_string(size) + "x" + std::to_string(size);
+        const std::string icon =
+            ReadFile(folder_ / "usr/share/icons/hicolor/" + name + "/apps/com.orvane.tarnwell.png");
+        ASSERT_GT(icon.size(), 24u) << name;
+        EXPECT_EQ(static_cast<unsigned char>(icon[18]) << 8 | static_cast<unsigned char>(icon[19]),
+                  size);
+    }
+    EXPECT_EQ(shell("readlink ../usr/bin/tarnwell").out,
+              "../lib/tarnwell/Tarnwell.app/Contents/MacOS/tarnwell-launcher\n");
+    EXPECT_EQ(shell("find ../usr ! -perm -a=r").out, "");
+}
+
+}  // namespace
