@@ -11,11 +11,15 @@ if(NOT EXISTS "${dialog_icon}")
     message(FATAL_ERROR "${dialog_icon} is missing; put the icon of the launcher's dialog there, "
         "72 by 72 pixels")
 endif()
-file(INSTALL "${dialog_icon}" DESTINATION "${resources}/images" PERMISSIONS ${readable})
-file(INSTALL "${app}/Contents/Resources/INFO" DESTINATION "${resources}" PERMISSIONS ${readable})
+
+# copy(FROM TO): file(INSTALL) would put DESTDIR in front of a path that has it.
+function(copy from to)
+    configure_file("${from}" "${resources}/${to}" COPYONLY FILE_PERMISSIONS ${readable})
+endfunction()
+copy("${dialog_icon}" images/ico_72_tarnwell.png)
+copy("${app}/Contents/Resources/INFO" INFO)
 if(NOT icon_file STREQUAL "")
-    file(INSTALL "${app}/Contents/Resources/${icon_file}.icns" DESTINATION "${resources}"
-        PERMISSIONS ${readable})
+    copy("${app}/Contents/Resources/${icon_file}.icns" "${icon_file}.icns")
 endif()
 configure_file("${templates}/Info.plist.in" "${bundle}/Contents/Info.plist" @ONLY
     FILE_PERMISSIONS ${readable})

@@ -24,8 +24,8 @@ endfunction()
 function(add_icon file size)
     set(folder "${root}/share/icons/hicolor/${size}x${size}/apps")
     make_folder("${folder}")
-    file(INSTALL "${file}" DESTINATION "${folder}" RENAME "${client_identifier}.png"
-        PERMISSIONS ${readable})
+    configure_file("${file}" "${folder}/${client_identifier}.png" COPYONLY
+        FILE_PERMISSIONS ${readable})
 endfunction()
 
 make_folder("${root}/bin")

@@ -18,15 +18,15 @@ set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_BINARY_DIR}/debian-version.cmake"
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tarnwell)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Keeps files in sync with a server")
-set(CPACK_PACKAGE_DESCRIPTION "This package has the launcher, which installs the client for each user\
- in the home folder, keeps it up to date and starts it.")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_PACKAGE_DESCRIPTION "The launcher in this package installs the client in each user's home folder,\n\
+keeps it up to date and starts it.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /)
 set(CPACK_INSTALL_CMAKE_PROJECTS
-    "${PROJECT_BINARY_DIR};tarnwell-launcher;launcher;/lib/tarnwell"
-    "${PROJECT_BINARY_DIR};tarnwell-launcher;desktop;/")
+    "${PROJECT_BINARY_DIR};tarnwell-launcher;launcher;/usr/lib/tarnwell"
+    "${PROJECT_BINARY_DIR};tarnwell-launcher;desktop;/usr")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "${TARNWELL_DEPENDS}")
-set(CPACK_STRIP_FILES OFF)  # would change the signature of what is signed
+set(CPACK_STRIP_FILES ON)
 include(CPack)
