@@ -1,5 +1,6 @@
-# Puts the frameworks into both applications as they are installed, and signs them. The client gets
-# its plug-ins where Qt looks for them by itself, the launcher has its own where it looks.
+# Puts the frameworks into both applications as they are installed, adds their licences to the
+# bundle, and signs. The client gets its plug-ins where Qt looks for them by itself, the launcher has
+# its own where it looks.
 find_program(MACDEPLOYQT macdeployqt REQUIRED HINTS "${Qt5_DIR}/../../../bin")
 set(TARNWELL_SIGNING_IDENTITY "-" CACHE STRING "Certificate to sign with; - signs for this Mac only")
 
@@ -10,11 +11,18 @@ string(REGEX MATCH "^[0-9]+" icu_major "${ICU_VERSION}")
 install(FILES "${icu_data}" RENAME libicudata.${icu_major}.dylib
     DESTINATION Tarnwell.app/Contents/Frameworks COMPONENT launcher)
 
-function(install_deployment component options)
-    install(CODE "execute_process(COMMAND \"${MACDEPLOYQT}\"
-        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Tarnwell.app\" ${options}
-        \"-codesign=${TARNWELL_SIGNING_IDENTITY}\" COMMAND_ERROR_IS_FATAL ANY)"
+# install_command(COMPONENT COMMAND [EXCLUDE_FROM_ALL]): with the application's path after it.
+function(install_command component command)
+    install(CODE "execute_process(COMMAND ${command}
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Tarnwell.app\" COMMAND_ERROR_IS_FATAL ANY)"
         COMPONENT ${component} ${ARGN})
 endfunction()
-install_deployment(demo "" EXCLUDE_FROM_ALL)
-install_deployment(launcher "-no-plugins")
+
+set(sign "codesign --force --deep --options runtime --sign \"${TARNWELL_SIGNING_IDENTITY}\"")
+install_command(demo "\"${MACDEPLOYQT}\"" EXCLUDE_FROM_ALL)
+install_command(demo "${sign}" EXCLUDE_FROM_ALL)
+install(CODE "execute_process(COMMAND \"${MACDEPLOYQT}\"
+    \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Tarnwell.app\" -no-plugins COMMAND_ERROR_IS_FATAL ANY)
+    set(kegs \"${Qt5_DIR}/../../../..\")" COMPONENT launcher)
+install(SCRIPT add-licences-mac.cmake COMPONENT launcher)
+install_command(launcher "${sign}")

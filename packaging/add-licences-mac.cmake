@@ -1,0 +1,25 @@
+# Part of an installation on a Mac: copies the licence texts of each library in the bundle from the
+# folder that Homebrew has installed it in, one of those in kegs. A library without any is an error.
+set(bundle "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Tarnwell.app")
+file(GLOB libraries "${bundle}/Contents/Frameworks/*.dylib"
+    "${bundle}/Contents/Frameworks/*.framework")
+foreach(library IN LISTS libraries)
+    get_filename_component(name "${library}" NAME)
+    string(REGEX REPLACE "[.].*" "" short "${name}")
+    file(GLOB found "${kegs}/*/lib/${name}" "${kegs}/*/lib/${short}.*")
+    set(texts)
+    foreach(file IN LISTS found)
+        get_filename_component(keg "${file}/../.." ABSOLUTE)
+        file(GLOB keg_texts "${keg}/LICEN[CS]E*" "${keg}/COPYING*" "${keg}/COPYRIGHT*")
+        list(APPEND texts ${keg_texts})
+    endforeach()
+    if(NOT texts)
+        message(FATAL_ERROR "No licence text of ${name} below ${kegs}; put one there")
+    endif()
+    list(REMOVE_DUPLICATES texts)
+    foreach(text IN LISTS texts)
+        get_filename_component(text_name "${text}" NAME)
+        configure_file("${text}" "${bundle}/Contents/Resources/licences/${short}-${text_name}"
+            COPYONLY FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+    endforeach()
+endforeach()
