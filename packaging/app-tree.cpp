@@ -37,13 +37,13 @@ Node Describe(const std::string& path) {
 }
 
 // Adds what is in the folder to the nodes; returns why it can't be listed.
-std::string ReadFolder(const std::string& root, const std::string& folder,
+std::string ReadFolder(const fs::path& root, const std::string& folder,
                        std::map<std::string, Node>& nodes) {
     std::error_code error;
-    for (fs::directory_iterator entry(root + "/" + folder, error), end; !error && entry != end;
+    for (fs::directory_iterator entry(root / folder, error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string path = folder + entry->path().filename().native();
-        Node& node = nodes[path] = Describe(root + "/" + path);
+        Node& node = nodes[path] = Describe(root / path);
         if (S_ISDIR(node.mode)) {
             node.unreadable = ReadFolder(root, path + "/", nodes);
         }

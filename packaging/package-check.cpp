@@ -84,9 +84,9 @@ CheckedPackage CheckPackage(const std::string& file, const Progress& progress) {
                                    "unnoticed; make it with make-package");
     }
     for (const std::string& path : application.left_out) {
-        summary.warnings.push_back(file + ": carries " + path +
-                                   ", which is no part of an application; make it with "
-                                   "make-package");
+        summary.warnings.push_back(
+            Text({file, "carries " + path + ", which is no part of an application",
+                  "make it with make-package"}));
     }
     return {summary, application.client};
 }

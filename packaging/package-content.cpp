@@ -21,9 +21,10 @@ const std::size_t kMaxInfo = std::size_t{1024} * 1024;  // bytes
 const int kBlockSize = 65536;
 
 // Reads one package.
-class Reading {
+class Scan {
   public:
-    Reading(const std::string& file, const Progress& progress) : file_(file), progress_(progress) {}
+    Scan(std::string file, const Progress& progress)
+        : file_(std::move(file)), progress_(progress) {}
 
     PackageContent read() {
         if (!reader_.allocated() ||
@@ -146,7 +147,7 @@ PackageContent ReadPackage(const std::string& file, const Progress& progress) {
     if (fs::file_size(file, error) == 0) {
         throw PackageError(file, "is empty", "make the package again");
     }
-    return Reading(file, progress).read();
+    return Scan(file, progress).read();
 }
 
 std::int64_t SizeOf(const std::string& file) {

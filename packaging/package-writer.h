@@ -22,6 +22,7 @@ class PackageWriter {
     // files' sizes, for the progress.
     PackageWriter(const std::string& format, int fd, std::string shown_as, const Progress& progress,
                   std::int64_t total);
+    ~PackageWriter() = default;
     PackageWriter(const PackageWriter&) = delete;
     PackageWriter& operator=(const PackageWriter&) = delete;
 

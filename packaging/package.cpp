@@ -20,7 +20,7 @@ fs::path ResolveOut(const std::string& app, const std::string& out) {
         throw PackageError(out, "its folder can't be opened: " + error.message(),
                            "make the folder");
     }
-    const fs::path path = folder / fs::path(out).filename();
+    fs::path path = folder / fs::path(out).filename();
     const fs::file_type type = fs::symlink_status(path, error).type();
     if (!path.has_filename() || type == fs::file_type::directory) {
         throw PackageError(out, "is a folder", "name the file to make");

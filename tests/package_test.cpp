@@ -72,9 +72,9 @@ TEST_F(PackageTest, RefusesWhatWouldFailOnAUsersMachine) {
         {"echo echo hello >$C", kPackedClient, "is neither a program (ELF, Mach-O) nor a script"},
         {"echo '#!sh' >$C", kPackedClient, "is neither a program"},
         {"printf '#!/bin/sh\\r\\n' >$C", kPackedClient, "is neither a program"},
-        {"printf '\\177ELF\\2\\1\\1\\0%08d\\1\\0\\0\\0' 0 >$C", kPackedClient,
+        {R"(printf '\177ELF\2\1\1\0%08d\1\0\0\0' 0 >$C)", kPackedClient,
          "is neither a program"},  // an object file
-        {"printf '\\312\\376\\272\\276\\0\\0\\0\\064%08d' 0 >$C", kPackedClient,
+        {R"(printf '\312\376\272\276\0\0\0\064%08d' 0 >$C)", kPackedClient,
          "is neither a program"},  // a class of Java
         {"rm $I", kPackedInfo, "is missing; write the version file"},
         {"echo major_version=1 >$I", kPackedInfo, number + ", but ''"},
@@ -279,7 +279,7 @@ TEST_F(PackageTest, AnswersPeopleAndMachines) {
     const Result json = shell("$MAKE --json . $OUT; sha256sum <$OUT | sed 's/ .*//'");
     const std::string sum = json.out.substr(json.out.size() - 65, 64);
     for (const std::string& part : {std::string("\"build\": 101"), std::string("\"good\": true"),
-                                    "\"sha256\": \"" + sum + "\""}) {
+                                    R"("sha256": ")" + sum + "\""}) {
         EXPECT_NE(json.out.find(part), std::string::npos) << json.out;
     }
     for (const std::string wrong :

@@ -20,8 +20,8 @@ bool OpenBundle(const std::string& path);
 // can't be read. Threads: any.
 QString BundleExecutable(const QByteArray& info_plist);
 
-// The string that a top-level key of a property list (XML) has; empty when it has none, and when the
-// list can't be read that far. Threads: any.
+// The string that a top-level key of a property list (XML) has; empty when it has none, and when
+// the list can't be read that far. Threads: any.
 QString PropertyListText(const QByteArray& list, const QString& wanted);
 
 }  // namespace platform
