@@ -255,6 +255,12 @@ TEST_F(PackageTest, ChecksWhetherTheLauncherAcceptsAPackage) {
     expectRefusal(check(), out_ + ": doesn't end with " + kPackedClient);
     MakeArchive(out_, "zip", rest);
     expectRefusal(check(), out_ + "/" + kPackedClient + ": is missing");
+    // Nothing is left of a folder that its owner can't write to.
+    MakeArchive(out_, "zip", {{"ro/", "", 0555}, {"ro/x"}, rest[0], rest[1], client});
+    const std::string as_nobody = "mkdir -m 777 ../tmp; export TMPDIR=$PWD/../tmp; nobody ";
+    expectRefusal(shell(as_nobody + "$MAKE --check $OUT"),
+                  out_ + "/ro: is a folder that its owner");
+    EXPECT_EQ(shell("ls ../tmp").out, "");
 }
 
 TEST_F(PackageTest, BlamesTheTemporaryFolderAndNotThePackage) {
