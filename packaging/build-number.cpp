@@ -1,12 +1,13 @@
 #include "packaging/build-number.h"
 
-#include <QSettings>
+#include <QString>
 #include <cerrno>
 #include <cstring>
 #include <limits>
 
 #include "lib/platform/open-bundle.h"
 #include "lib/platform/regular-file.h"
+#include "ui-client/launcher/version-file.h"
 
 namespace {
 
@@ -35,9 +36,13 @@ bool ReadBuildNumber(const std::string& file, int& number, Fault& fault) {
     if (!ReadSmallFile(file, content, fault)) {
         return false;
     }
-    // The launcher reads it like this, and takes the number up to the first other character.
-    const QSettings settings(QString::fromStdString(file), QSettings::IniFormat);
-    const QString text = settings.value(QStringLiteral("Version/build_version")).toString();
+    VerInfo version;
+    if (LoadVersion(file.c_str(), version) != platform::Reading::Done) {
+        fault.what = "can't be read";
+        return false;
+    }
+    // The launcher takes the number up to the first other character.
+    const QString text = QString::fromUtf8(version.build_version.c_str());
     bool is_number = false;
     number = text.toInt(&is_number);
     if (is_number && number > 0 && QString::number(number) == text) {

@@ -1,7 +1,6 @@
 #include "packaging/package-content.h"
 
 #include <QCryptographicHash>
-#include <QTemporaryFile>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "lib/install-layout.h"
+#include "lib/platform/memory-file.h"
 #include "packaging/build-number.h"
 #include "packaging/fault.h"
 #include "ui-client/launcher/package-reader.h"
@@ -119,11 +119,9 @@ class Scan {
             all.addData(digest);
         }
         content_.digest = all.result().toStdString();
-        QTemporaryFile copy;
+        const platform::MemoryFile copy(info_);
         Fault ignored;
-        if (copy.open() && copy.write(info_.c_str(), static_cast<qint64>(info_.size())) >= 0 &&
-            copy.flush() &&
-            !ReadBuildNumber(copy.fileName().toStdString(), content_.build_number, ignored)) {
+        if (!ReadBuildNumber(copy.path(), content_.build_number, ignored)) {
             content_.build_number = 0;
         }
     }

@@ -33,14 +33,7 @@ TemporaryFolder::TemporaryFolder() {
 }
 
 TemporaryFolder::~TemporaryFolder() {
-    std::error_code error;  // what can't be made accessible can't be removed either
-    for (fs::recursive_directory_iterator entry(path_, error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (entry->is_directory(error) && !entry->is_symlink(error)) {
-            fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, error);
-        }
-    }
-    FSRemove(path_, false);
+    static_cast<void>(FSRemoveOwnTree(path_));
 }
 
 void TemporaryFolder::requireSpace() const {
