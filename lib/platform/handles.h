@@ -44,11 +44,14 @@ class Descriptor {
     int fd_;
 };
 
-// How a folder is opened only to name what is in it, for which it needn't be readable.
-#ifdef __APPLE__
+// How a folder is opened only to name what is in it. It needn't be readable for that, except on
+// macOS 11 and 12.
+#if !defined(__APPLE__)
+const int kOpenToPass = O_PATH;
+#elif __MAC_OS_X_VERSION_MIN_REQUIRED >= 130000
 const int kOpenToPass = O_SEARCH;
 #else
-const int kOpenToPass = O_PATH;
+const int kOpenToPass = O_RDONLY;
 #endif
 
 struct DirCloser {
