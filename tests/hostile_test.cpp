@@ -122,8 +122,9 @@ class HostileTest : public testing::Test {
             std::ostringstream text;
             text << std::oct << "mode " << status.st_mode;
             if (path != dest_) {
-                text << std::dec << ", " << status.st_nlink << " links, changed "
-                     << status.st_ctim.tv_sec << '.' << status.st_ctim.tv_nsec << ": "
+                const timespec changed = ChangeTime(status);
+                text << std::dec << ", " << status.st_nlink << " links, changed " << changed.tv_sec
+                     << '.' << changed.tv_nsec << ": "
                      << (S_ISREG(status.st_mode) ? ReadFile(path) : "");
             }
             tree[path] = text.str();

@@ -6,9 +6,11 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <string>
 
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 
 inline mode_t ModeOf(const std::string& path) {
     struct stat status;
@@ -28,14 +30,16 @@ class FileOpTest : public testing::Test {
         MakeLink("nowhere", "kinds/dangling");
         MakeLink("loop", "kinds/loop");
         mkfifo("kinds/pipe", 0600);
-        sockaddr_un address{AF_UNIX, "kinds/socket"};
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strcpy(address.sun_path, "kinds/socket");
         const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
         bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address);
         close(fd);
     }
 
     Folder folder_;
-    Folder other_volume_{"/dev/shm"};
+    Folder other_volume_{AnotherVolume().empty() ? "/tmp" : AnotherVolume()};
 };
 
 #endif

@@ -3,9 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <fcntl.h>
-#include <sched.h>
 #include <spawn.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -32,7 +30,8 @@ void Check(bool ok, const std::string& what) {
 
 }  // namespace
 
-Folder::Folder(const std::string& parent) : path_(parent + "/tarnwell-test-XXXXXX") {
+Folder::Folder(const std::string& parent)
+    : path_(fs::canonical(parent).string() + "/tarnwell-test-XXXXXX") {
     Check(mkdtemp(path_.data()) != nullptr, "can't make a folder in " + parent);
     Check(chmod(path_.c_str(), 0755) == 0, "can't open " + path_);
 }
@@ -148,11 +147,14 @@ FileTree Tree(const std::string& path, bool folder_modes) {
 
 AsNobody::AsNobody() : active_(getuid() == 0) {
     const uid_t nobody = 65534;
-    Check(!active_ || setresuid(nobody, nobody, 0) == 0, "can't become another user");
+    const uid_t unchanged = static_cast<uid_t>(-1);
+    // In two steps the saved user id stays root's, also where there is no setresuid().
+    Check(!active_ || (setreuid(nobody, unchanged) == 0 && seteuid(nobody) == 0),
+          "can't become another user");
 }
 
 AsNobody::~AsNobody() {
-    if (active_ && setresuid(0, 0, 0) != 0) {
+    if (active_ && (seteuid(0) != 0 || setreuid(0, 0) != 0)) {
         std::abort();
     }
 }
@@ -166,19 +168,6 @@ FewDescriptors::FewDescriptors() {
 
 FewDescriptors::~FewDescriptors() {
     setrlimit(RLIMIT_NOFILE, &saved_);
-}
-
-SmallDisk::SmallDisk(const std::string& path, const char* size) : path_(path) {
-    MakeFolder(path);
-    mounted_ = (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
-               mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-               mount("none", path.c_str(), "tmpfs", 0, ("size=" + std::string(size)).c_str()) == 0;
-}
-
-SmallDisk::~SmallDisk() {
-    if (mounted_) {
-        umount2(path_.c_str(), MNT_DETACH);
-    }
 }
 
 bool WaitFor(const std::function<bool()>& condition) {
@@ -215,7 +204,9 @@ std::string CaptureStderr(const std::function<void()>& code) {
 
 void MakeArchive(const std::string& path, const std::string& format,
                  const std::vector<Entry>& entries) {
-    setlocale(LC_CTYPE, "C.UTF-8");  // names are UTF-8
+    // Names are UTF-8. The second is macOS's name for it.
+    Check(setlocale(LC_CTYPE, "C.UTF-8") != nullptr || setlocale(LC_CTYPE, "UTF-8") != nullptr,
+          "no UTF-8 in the C library");
     archive* const out = archive_write_new();
     const std::map<std::string, std::pair<const char*, const char*>> formats = {
         {"zip", {"zip", nullptr}},       {"7z", {"7zip", nullptr}},

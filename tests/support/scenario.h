@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/system.h"
+
 // A small vocabulary for tests on real files. Whatever can't be arranged throws, which fails the
 // test with the reason.
 
@@ -69,22 +71,6 @@ class FewDescriptors {
 
   private:
     rlimit saved_;
-};
-
-// A small disk in memory on this folder, where this process and its children alone see it. Not
-// every user may mount one.
-class SmallDisk {
-  public:
-    SmallDisk(const std::string& path, const char* size);
-    ~SmallDisk();
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-    bool mounted() const { return mounted_; }
-
-  private:
-    const std::string path_;
-    bool mounted_;
 };
 
 // Waits until the condition holds; false after a minute.
