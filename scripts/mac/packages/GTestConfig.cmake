@@ -1,0 +1,10 @@
+# GoogleTest from its sources, which Debian's package has.
+set(googletest /usr/src/googletest/googletest)
+add_library(gtest STATIC "${googletest}/src/gtest-all.cc")
+add_library(gtest_main STATIC "${googletest}/src/gtest_main.cc")
+target_include_directories(gtest SYSTEM PUBLIC "${googletest}/include" PRIVATE "${googletest}")
+target_link_libraries(gtest_main PUBLIC gtest)
+foreach(part IN ITEMS gtest gtest_main)
+    set_target_properties(${part} PROPERTIES COMPILE_OPTIONS "-w")
+    add_library(GTest::${part} ALIAS ${part})
+endforeach()
