@@ -11,7 +11,7 @@
 #include "lib/libclient/file-op-internal.h"
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
-#include "lib/platform/copy-range.h"
+#include "lib/platform/copy-within-system.h"
 #include "lib/platform/durability.h"
 
 #define LOG_SOURCE "file-op"  // the tag of all file operations, not this source's name
@@ -45,24 +45,8 @@ int WriteAll(int fd, const char* bytes, std::size_t size) {
     return 0;
 }
 
-// Lets the system copy, which needn't bring the bytes into this process. false when something may
-// be left to copy.
-bool CopyWithinSystem(int from, int to) {
-    bool copied = false;
-    for (;;) {
-        const ssize_t size = platform::CopyRange(from, to, kCopySize);
-        if (size <= 0) {
-            return size == 0 && copied;
-        }
-        if (size == kCopySize) {
-            platform::StartWriting(to);  // goes on while the next chunk is copied
-        }
-        copied = true;
-    }
-}
-
 int CopyBytes(int from, int to) {
-    if (CopyWithinSystem(from, to)) {
+    if (platform::CopyWithinSystem(from, to)) {
         return 0;
     }
     struct Free {

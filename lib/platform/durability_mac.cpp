@@ -36,8 +36,11 @@ int SyncVolume(const char* path) {
     if (error == ENOTSUP || error == EINVAL) {
         error = sync_volume_np(path, SYNC_VOLUME_WAIT);
     }
+    if (error == 0) {
+        return 0;
+    }
     errno = error;
-    return error == 0 ? 0 : -1;
+    return -1;
 }
 
 // The system has no such request.
