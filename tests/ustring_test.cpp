@@ -1,6 +1,8 @@
 #include "ustring/ustring.h"
 
+#include <cstdlib>
 #include <iostream>
+#include <new>
 #include <random>
 #include <string>
 #include <vector>
@@ -11,7 +13,33 @@
 // ends the process with a message when they differ.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
+// The linker redirects the string type's allocations to here.
+static int allocations_until_failure = -1;  // negative when none is to fail
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker's names
+extern "C" void* __real_malloc(std::size_t size);
+extern "C" void* __wrap_malloc(std::size_t size) {
+    return allocations_until_failure-- == 0 ? nullptr : __real_malloc(size);
+}
+extern "C" void* __real_realloc(void* buffer, std::size_t size);
+extern "C" void* __wrap_realloc(void* buffer, std::size_t size) {
+    return allocations_until_failure-- == 0 ? nullptr : __real_realloc(buffer, size);
+}
+// NOLINTEND(bugprone-reserved-identifier)
+
 namespace {
+
+// Runs the code with its n-th allocation, counted from 0, failing. False when that was reached.
+template <typename Code>
+bool RunsWithout(int allocation, const Code& code) {
+    allocations_until_failure = allocation;
+    try {
+        code();
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    allocations_until_failure = -1;
+    return true;
+}
 
 using Units = std::vector<unsigned short>;
 
@@ -81,6 +109,19 @@ TEST(UString, Normalizes) {
     EXPECT_EQ(ustring(kAccented).normalize(ustring::NFD), kDecomposed);
     EXPECT_EQ(ustring(kDecomposed).normalize(ustring::NFC), kAccented);
     EXPECT_EQ(CaptureStderr([] { EXPECT_TRUE(ustring().normalize(ustring::NFC).empty()); }), "");
+}
+
+TEST(UString, ReturnsBothForms) {
+    using Make = ustring (*)(const ustring& text);
+    for (const Make make :
+         {Make([](const ustring& text) { return text.normalize(ustring::NFC); }),
+          Make([](const ustring& text) { return text.normalize(ustring::NFD); }),
+          Make([](const ustring& text) { return text + Units{'x', 0}.data(); }),
+          Make([](const ustring& text) { return text + Units{'x'}.front(); })}) {
+        ustring made = make("bibliothe\xCC\x80que");
+        const ustring result = std::move(made);
+        EXPECT_TRUE(RunsWithout(0, [&] { result.c_str_utf16(); })) << result;
+    }
 }
 
 TEST(UString, HoldsTextFarBeyondItsFirstBuffers) {

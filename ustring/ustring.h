@@ -29,7 +29,6 @@
 //
 // Threads: one object belongs to one thread at a time, even for reading, because c_str_utf16() and
 // normalize() may build the UTF-16 form. Distinct objects are independent.
-// NOLINTNEXTLINE(cppcoreguidelines-special-member-functions): to move out is to make new buffers
 class ustring {
   public:
     using size_type = std::size_t;
@@ -39,6 +38,8 @@ class ustring {
 
     ustring();
     ustring(const ustring& other);  // copies the UTF-8 form only
+    // Takes both forms. The other one is empty then and has new buffers.
+    ustring(ustring&& other);  // NOLINT(performance-noexcept-move-constructor): they may not be had
     // NOLINTBEGIN(google-explicit-constructor): a text may stand wherever a ustring is expected
     ustring(const char* bytes);
     ustring(const unsigned short* units);
@@ -184,6 +185,7 @@ class ustring {
     ustring& append_bytes(const char* bytes, size_type n);
     ustring& assign_units(const unsigned short* units, size_type n);
     ustring& append_units(const unsigned short* units, size_type n);
+    void set_normalized(const ustring& source, normalization_form form);
     std::string_view view() const { return std::string_view(data, data_len); }
 
     char* data;                     // NUL-terminated UTF-8, never null while the object lives
