@@ -52,9 +52,11 @@ Units UnitsOf(const ustring& text) {
     return Units(begin, end);
 }
 
-const char kAccented[] = "\xC3\xA9";       // e with acute, one character
-const char kDecomposed[] = "e\xCC\x81";    // the same as two
+const char kAccented[] = "\xC3\xA9";     // e with acute, one character
+const char kDecomposed[] = "e\xCC\x81";  // the same as two
+const char kDecomposedWord[] = "bibliothe\xCC\x80que";
 const char kEmoji[] = "\xF0\x9F\x98\x80";  // outside the basic plane
+const Units kX = {'x', 0};
 
 TEST(UString, AgreesWithItsModel) {
     std::streambuf* const shown = std::cerr.rdbuf(nullptr);  // what ICU refuses is told there
@@ -112,16 +114,79 @@ TEST(UString, Normalizes) {
 }
 
 TEST(UString, ReturnsBothForms) {
-    using Make = ustring (*)(const ustring& text);
-    for (const Make make :
-         {Make([](const ustring& text) { return text.normalize(ustring::NFC); }),
-          Make([](const ustring& text) { return text.normalize(ustring::NFD); }),
-          Make([](const ustring& text) { return text + Units{'x', 0}.data(); }),
-          Make([](const ustring& text) { return text + Units{'x'}.front(); })}) {
-        ustring made = make("bibliothe\xCC\x80que");
+    ustring (*const makes[])(const ustring& text) = {
+        [](const ustring& text) { return text.normalize(ustring::NFC); },
+        [](const ustring& text) { return text.normalize(ustring::NFD); },
+        [](const ustring& text) { return text + kX.data(); },
+        [](const ustring& text) { return text + kX[0]; }};
+    for (const auto make : makes) {
+        ustring made = make(kDecomposedWord);
         const ustring result = std::move(made);
         EXPECT_TRUE(RunsWithout(0, [&] { result.c_str_utf16(); })) << result;
     }
+}
+
+// A way to change a string; the results of the tests name it by its place in their tables.
+using Change = void (*)(ustring& text, const unsigned short* own);
+
+TEST(UString, BuildsTheUtf16FormBeforeItChanges) {
+    const Change changes[] = {[](ustring& text, auto) { text = kX.data(); },
+                              [](ustring& text, auto) { text.assign(kX.data(), 1); },
+                              [](ustring& text, auto) { text = kX[0]; },
+                              [](ustring& text, auto) { text.assign(kX[0], 1); },
+                              [](ustring& text, auto) { text += kX.data(); },
+                              [](ustring& text, auto) { text.append(kX[0], 1); }};
+    for (const Change& change : changes) {
+        ustring text("ill-formed: \xFF");
+        EXPECT_EQ(CaptureStderr([&] { change(text, nullptr); }),
+                  "Warning: u_strFromUTF8: error code 10 at line 921\n");
+        EXPECT_EQ(text, "x") << &change - changes;
+    }
+}
+
+TEST(UString, FindsItsUnitsInAFormThatWasDropped) {
+    const std::pair<Change, const char*> changes[] = {
+        {[](ustring& text, auto own) { text = own; }, "a text!"},
+        {[](ustring& text, auto own) { text.assign(own, 6); }, "a text"},
+        {[](ustring& text, auto own) { text.assign(own + 2, 4); }, "text"},
+        {[](ustring& text, auto own) { text += own; }, "a text!a text!"},
+        {[](ustring& text, auto own) { text.append(own, 2); }, "a text!a "},
+        {[](ustring& text, auto own) { text.append(own + 2, ustring::npos); }, "a text!text!"}};
+    for (const auto& [change, expected] : changes) {
+        ustring text("a text");
+        const unsigned short* const own = text.c_str_utf16();
+        text += '!';
+        change(text, own);
+        EXPECT_EQ(text, expected);
+    }
+}
+
+TEST(UString, StaysAsItWasWhenMemoryRunsOut) {
+    const Change changes[] = {[](ustring& text, auto) { text = "a longer text than this one"; },
+                              [](ustring& text, auto) { text.assign(text, 1, 2); },
+                              [](ustring& text, auto) { text.assign('x', 40); },
+                              [](ustring& text, auto) { text.append('x', 1); },
+                              [](ustring& text, auto own) { text.assign(own, 2); },
+                              [](ustring& text, auto) { text = kX.data(); },
+                              [](ustring& text, auto) { text.assign(kX[0], 40); },
+                              [](ustring& text, auto) { text.append(kX[0], 40); },
+                              [](ustring& text, auto) { text = text + kX.data(); },
+                              [](ustring& text, auto) { text = text.normalize(ustring::NFC); }};
+    for (const Change& change : changes) {
+        int allocation = 0;
+        for (bool done = false; !done; ++allocation) {
+            ustring text(kDecomposedWord);
+            const unsigned short* const own = text.c_str_utf16();
+            done = RunsWithout(allocation, [&] { change(text, own); });
+            EXPECT_TRUE(done || text == kDecomposedWord) << &change - changes << ": " << text;
+            EXPECT_EQ(UnitsOf(text), UnitsOf(text.c_str())) << &change - changes;
+        }
+        EXPECT_GT(allocation, 1) << &change - changes << " allocates nothing";
+    }
+    ustring text("kept");
+    EXPECT_THROW(text.append('x', ustring::npos), std::bad_alloc);
+    EXPECT_THROW(text.assign(kX[0], ustring::npos / 2), std::bad_alloc);
+    EXPECT_EQ(text, "kept");
 }
 
 TEST(UString, HoldsTextFarBeyondItsFirstBuffers) {

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <istream>
+#include <limits>
 #include <new>
 #include <ostream>
 #include <stdexcept>
@@ -73,6 +74,15 @@ template <typename Unit>
 bool PointsInto(const Unit* pointer, const Unit* buffer, std::size_t length) {
     const std::less<const Unit*> before;
     return !before(pointer, buffer) && !before(buffer + length, pointer);
+}
+
+// The size of a buffer for a text that grows by n units. bad_alloc where no buffer is so large.
+template <typename Unit>
+std::size_t Needed(std::size_t length, std::size_t n) {
+    if (n >= std::numeric_limits<std::ptrdiff_t>::max() / sizeof(Unit) - length) {
+        throw std::bad_alloc();
+    }
+    return length + n + 1;
 }
 
 class ByteSet {
@@ -265,7 +275,12 @@ int ustring::convert_from_wdata() {
     int32_t length = 0;
     UErrorCode error = U_ZERO_ERROR;
     u_strToUTF8(nullptr, 0, &length, wdata, -1, &error);
-    realloc_data(static_cast<size_type>(length) + 1, Replaced);
+    try {
+        realloc_data(static_cast<size_type>(length) + 1, Replaced);
+    } catch (const std::bad_alloc&) {
+        clear_wdata();  // the UTF-8 form has stayed as it was
+        throw;
+    }
     error = U_ZERO_ERROR;
     u_strToUTF8(data, static_cast<int32_t>(data_cap), &length, wdata, -1, &error);
     if (U_FAILURE(error)) {
@@ -276,6 +291,13 @@ int ustring::convert_from_wdata() {
     data_len = static_cast<size_type>(length);
     data[data_len] = 0;
     return 0;
+}
+
+// Ends the UTF-16 text after len units and rebuilds the UTF-8 form.
+void ustring::set_wdata_len(size_type len) {
+    wdata_len = len;
+    wdata[len] = 0;
+    convert_from_wdata();
 }
 
 void ustring::build_wdata() const {
@@ -335,25 +357,26 @@ ustring& ustring::assign(const std::string& bytes, size_type pos, size_type n) {
 }
 
 ustring& ustring::assign(char byte, size_type n) {
-    realloc_data(n + 1, Replaced);
+    realloc_data(Needed<char>(0, n), Replaced);
     std::memset(data, byte, n);
     set_data_len(n);
     return *this;
 }
 
-// The units must not lie in this object's buffer, except at its start.
+// At most n units of this object's own UTF-16 form, from where an argument points. It may have got
+// its pointer before the form was dropped.
+std::vector<unsigned short> ustring::own_units(const unsigned short* from, size_type n) const {
+    const auto offset = static_cast<size_type>(from - wdata);
+    build_wdata();  // may move the buffer
+    const size_type pos = std::min(offset, wdata_len);
+    return std::vector<unsigned short>(wdata + pos, wdata + pos + std::min(n, wdata_len - pos));
+}
+
+// The UTF-16 form is there, and the units don't lie in its buffer.
 ustring& ustring::assign_units(const unsigned short* units, size_type n) {
-    const bool own = units == wdata;
-    if (own && n >= wdata_len) {
-        return *this;
-    }
-    realloc_wdata(n + 1);  // keeps the first n units, but may move them
-    if (!own) {
-        std::copy_n(units, n, wdata);
-    }
-    wdata[n] = 0;
-    wdata_len = n;
-    convert_from_wdata();
+    realloc_wdata(n + 1, Replaced);
+    std::copy_n(units, n, wdata);
+    set_wdata_len(n);
     return *this;
 }
 
@@ -362,17 +385,20 @@ ustring& ustring::assign(const unsigned short* units) {
 }
 
 ustring& ustring::assign(const unsigned short* units, size_type n) {
-    const size_type length = BoundedLength(units, n);
-    if (units != wdata && PointsInto<unsigned short>(units, wdata, wdata_len)) {
-        const std::vector<unsigned short> copy(units, units + length);
-        return assign_units(copy.data(), length);
+    if (PointsInto<unsigned short>(units, wdata, wdata_cap - 1)) {
+        const auto own = own_units(units, n);
+        return own.size() == wdata_len ? *this : assign_units(own.data(), own.size());
     }
-    return assign_units(units, length);
+    build_wdata();
+    return assign_units(units, BoundedLength(units, n));
 }
 
 ustring& ustring::assign(unsigned short unit, size_type n) {
-    clear();
-    return append(unit, n);
+    build_wdata();
+    realloc_wdata(Needed<unsigned short>(0, n), Replaced);
+    std::fill_n(wdata, n, unit);
+    set_wdata_len(n);
+    return *this;
 }
 
 // The bytes may lie in this object's buffer, which can move when it grows.
@@ -407,22 +433,17 @@ ustring& ustring::append(const std::string& bytes, size_type pos, size_type n) {
 }
 
 ustring& ustring::append(char byte, size_type n) {
-    realloc_data(data_len + n + 1);
+    realloc_data(Needed<char>(data_len, n));
     std::memset(data + data_len, byte, n);
     set_data_len(data_len + n);
     return *this;
 }
 
-// The units may lie in this object's buffer, which can move when it grows.
+// The UTF-16 form is there, and the units don't lie in its buffer.
 ustring& ustring::append_units(const unsigned short* units, size_type n) {
-    const bool own = PointsInto<unsigned short>(units, wdata, wdata_len);
-    const std::ptrdiff_t offset = own ? units - wdata : 0;
-    build_wdata();
     realloc_wdata(wdata_len + n + 1);
-    std::copy_n(own ? wdata + offset : units, n, wdata + wdata_len);
-    wdata_len += n;
-    wdata[wdata_len] = 0;
-    convert_from_wdata();
+    std::copy_n(units, n, wdata + wdata_len);
+    set_wdata_len(wdata_len + n);
     return *this;
 }
 
@@ -431,16 +452,19 @@ ustring& ustring::append(const unsigned short* units) {
 }
 
 ustring& ustring::append(const unsigned short* units, size_type n) {
+    if (PointsInto<unsigned short>(units, wdata, wdata_cap - 1)) {
+        const auto own = own_units(units, n);
+        return append_units(own.data(), own.size());
+    }
+    build_wdata();
     return append_units(units, BoundedLength(units, n));
 }
 
 ustring& ustring::append(unsigned short unit, size_type n) {
     build_wdata();
-    realloc_wdata(wdata_len + n + 1);
+    realloc_wdata(Needed<unsigned short>(wdata_len, n));
     std::fill_n(wdata + wdata_len, n, unit);
-    wdata_len += n;
-    wdata[wdata_len] = 0;
-    convert_from_wdata();
+    set_wdata_len(wdata_len + n);
     return *this;
 }
 
@@ -566,9 +590,7 @@ void ustring::set_normalized(const ustring& source, normalization_form form) {
         clear();
         return;
     }
-    wdata_len = static_cast<size_type>(length);
-    wdata[wdata_len] = 0;
-    convert_from_wdata();
+    set_wdata_len(static_cast<size_type>(length));
 }
 
 ustring ustring::joined(std::string_view a, std::string_view b) {

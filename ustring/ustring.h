@@ -8,6 +8,7 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The string type of every path, key, value and version text.
 //
@@ -181,8 +182,10 @@ class ustring {
 
     void build_wdata() const;
     void set_data_len(size_type len);
+    void set_wdata_len(size_type len);
     ustring& assign_bytes(const char* bytes, size_type n);
     ustring& append_bytes(const char* bytes, size_type n);
+    std::vector<unsigned short> own_units(const unsigned short* from, size_type n) const;
     ustring& assign_units(const unsigned short* units, size_type n);
     ustring& append_units(const unsigned short* units, size_type n);
     void set_normalized(const ustring& source, normalization_form form);
