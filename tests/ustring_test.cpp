@@ -189,6 +189,17 @@ TEST(UString, StaysAsItWasWhenMemoryRunsOut) {
     EXPECT_EQ(text, "kept");
 }
 
+TEST(UString, KeepsABufferThatItFillsByHalf) {
+    ustring text("0123456789");
+    const void* const units = text.c_str_utf16();
+    const void* const bytes = text.c_str();
+    EXPECT_EQ(text.assign(text, 2, ustring::npos).c_str(), bytes);
+    EXPECT_EQ(text.assign(text.c_str() + 1, 4).c_str(), bytes);
+    EXPECT_EQ(text, "3456");
+    EXPECT_EQ(text.assign(kX[0], 4).c_str_utf16(), units);
+    EXPECT_EQ(text.c_str(), bytes);
+}
+
 TEST(UString, HoldsTextFarBeyondItsFirstBuffers) {
     ustring text;
     std::string expected;

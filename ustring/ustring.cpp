@@ -330,9 +330,8 @@ ustring& ustring::assign_bytes(const char* bytes, size_type n) {
 
 ustring& ustring::assign(const ustring& other, size_type pos, size_type n) {
     if (this == &other) {
-        ustring part = other.substr(pos, n);
-        swap(part);
-        return *this;
+        const ustring part = substr(pos, n);
+        return assign_bytes(part.data, part.data_len);
     }
     if (pos > other.data_len) {
         throw std::out_of_range("substr");
@@ -347,7 +346,7 @@ ustring& ustring::assign(const char* bytes) {
 ustring& ustring::assign(const char* bytes, size_type n) {
     const size_type length = BoundedLength(bytes, n);
     if (bytes != data && PointsInto<char>(bytes, data, data_len)) {
-        return *this = ustring(std::string_view(bytes, length));
+        return assign(ustring(std::string_view(bytes, length)), 0, npos);
     }
     return assign_bytes(bytes, length);
 }
