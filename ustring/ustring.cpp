@@ -33,8 +33,9 @@ void Warn(const char* function, UErrorCode error, int line) {
     static_cast<void>(std::fflush(stderr));
 }
 
-bool Fits(std::size_t need, std::size_t capacity) {
-    return need <= capacity && capacity / 2 <= need;
+// A buffer is kept while the text fits and fills at least half of it.
+std::size_t NewCapacity(std::size_t capacity, std::size_t need) {
+    return need <= capacity && capacity / 2 <= need ? capacity : need;
 }
 
 // A buffer of another size, with what fits into it of the content. The old one stays on failure.
@@ -54,6 +55,18 @@ Unit* Renew(Unit* buffer, std::size_t need) {
     Unit* const fresh = Resize<Unit>(nullptr, need);
     std::free(buffer);
     return fresh;
+}
+
+// ICU's own object, or null after a warning.
+const UNormalizer2* Normalizer(ustring::normalization_form form) {
+    const UNormalization2Mode mode = form == ustring::NFC ? UNORM2_COMPOSE : UNORM2_DECOMPOSE;
+    UErrorCode error = U_ZERO_ERROR;
+    const UNormalizer2* const normalizer = unorm2_getInstance(nullptr, "nfc", mode, &error);
+    if (U_FAILURE(error) || normalizer == nullptr) {
+        Warn("unorm2_getInstance", error, kInstanceLine);
+        return nullptr;
+    }
+    return normalizer;
 }
 
 // The length of an array that ends at its first zero or after n elements.
@@ -153,13 +166,11 @@ std::string Part(const std::string& bytes, std::size_t pos, std::size_t n) {
 
 }  // namespace
 
-ustring::ustring() : ustring(kFirstCapacity, kFirstCapacity) {}
+ustring::ustring() : ustring(Unallocated()) {
+    init(kFirstCapacity);
+}
 
 ustring::ustring(const ustring& other) : ustring(other.view()) {}
-
-ustring::ustring(ustring&& other) : ustring() {
-    swap(other);
-}
 
 ustring::ustring(const char* bytes) : ustring(std::string_view(bytes)) {}
 
@@ -169,20 +180,27 @@ ustring::ustring(const unsigned short* units) : ustring() {
 
 ustring::ustring(const std::string& bytes) : ustring(bytes.c_str()) {}
 
-ustring::ustring(std::string_view bytes) : ustring(bytes.size() + 1, kFirstCapacity) {
-    std::copy_n(bytes.data(), bytes.size(), data);
-    set_data_len(bytes.size());
-}
+ustring::ustring(std::string_view bytes) : ustring(bytes, std::string_view()) {}
 
 ustring::ustring(char byte) : ustring() {
     assign(byte, 1);
 }
 
-// Empty, with the capacities of a new object that has been sized for so much then.
-ustring::ustring(size_type data_need, size_type wdata_need) {
-    init(Fits(data_need, kFirstCapacity) ? kFirstCapacity : data_need,
-         Fits(wdata_need, kFirstCapacity) ? kFirstCapacity : wdata_need);
+// A copy of a, to which b is appended, in one step.
+ustring::ustring(std::string_view a, std::string_view b) : ustring(Unallocated()) {
+    data_cap = NewCapacity(data_cap, a.size() + 1);  // that of the copy
+    init(a.size() + b.size() + 1);
+    b.copy(data + a.copy(data, a.size()), b.size());
+    set_data_len(a.size() + b.size());
 }
+
+ustring::ustring(Unallocated)
+    : data(nullptr),
+      data_len(0),
+      data_cap(kFirstCapacity),
+      wdata(nullptr),
+      wdata_len(0),
+      wdata_cap(kFirstCapacity) {}
 
 ustring::~ustring() {
     std::free(data);
@@ -196,30 +214,26 @@ ustring& ustring::operator=(ustring&& other) noexcept {
     return *this;
 }
 
-void ustring::init(size_type new_data_cap, size_type new_wdata_cap) {
-    data = Renew<char>(nullptr, new_data_cap);
-    try {
-        wdata = Renew<unsigned short>(nullptr, new_wdata_cap);
-    } catch (const std::bad_alloc&) {
-        std::free(data);
-        throw;
-    }
-    data_cap = new_data_cap;
-    wdata_cap = new_wdata_cap;
+// Allocates both buffers of an empty text.
+void ustring::init(size_type data_need) {
+    realloc_data(data_need);
+    realloc_wdata(kFirstCapacity);
     clear();
 }
 
 void ustring::realloc_data(size_type need, Content content) {
-    if (!Fits(need, data_cap)) {
-        data = content == Kept ? Resize(data, need) : Renew(data, need);
-        data_cap = need;
+    const size_type capacity = NewCapacity(data_cap, need);
+    if (capacity != data_cap || data == nullptr) {
+        data = content == Kept ? Resize(data, capacity) : Renew(data, capacity);
+        data_cap = capacity;
     }
 }
 
 void ustring::realloc_wdata(size_type need, Content content) const {
-    if (!Fits(need, wdata_cap)) {
-        wdata = content == Kept ? Resize(wdata, need) : Renew(wdata, need);
-        wdata_cap = need;
+    const size_type capacity = NewCapacity(wdata_cap, need);
+    if (capacity != wdata_cap || wdata == nullptr) {
+        wdata = content == Kept ? Resize(wdata, capacity) : Renew(wdata, capacity);
+        wdata_cap = capacity;
     }
 }
 
@@ -562,54 +576,38 @@ bool ustring::is_valid(const ustring& text) {
 }
 
 ustring ustring::normalize(const ustring& source, normalization_form form) {
-    ustring result;
-    if (!source.empty()) {
-        result.set_normalized(source, form);
-    }
-    return result;
-}
-
-void ustring::set_normalized(const ustring& source, normalization_form form) {
-    UErrorCode error = U_ZERO_ERROR;
-    const UNormalizer2* const normalizer =
-        unorm2_getInstance(nullptr, "nfc", form == NFC ? UNORM2_COMPOSE : UNORM2_DECOMPOSE, &error);
-    if (U_FAILURE(error) || normalizer == nullptr) {
-        Warn("unorm2_getInstance", error, kInstanceLine);
-        return;
+    ustring result{Unallocated()};
+    const UNormalizer2* const normalizer = source.empty() ? nullptr : Normalizer(form);
+    if (normalizer == nullptr) {
+        result.init(kFirstCapacity);
+        return result;
     }
     source.build_wdata();
+    UErrorCode error = U_ZERO_ERROR;
     const int32_t needed = unorm2_normalize(normalizer, source.wdata, -1, nullptr, 0, &error);
-    realloc_wdata(static_cast<size_type>(needed) + 1, Replaced);
+    result.realloc_wdata(static_cast<size_type>(needed) + 1);
     error = U_ZERO_ERROR;
     source.build_wdata();
-    const int32_t length = unorm2_normalize(normalizer, source.wdata, -1, wdata,
-                                            static_cast<int32_t>(wdata_cap), &error);
+    int32_t length = unorm2_normalize(normalizer, source.wdata, -1, result.wdata,
+                                      static_cast<int32_t>(result.wdata_cap), &error);
     if (U_FAILURE(error)) {
         Warn("unorm2_normalize", error, kNormalizeLine);
-        clear();
-        return;
+        length = 0;
     }
-    set_wdata_len(static_cast<size_type>(length));
-}
-
-ustring ustring::joined(std::string_view a, std::string_view b) {
-    ustring result(a.size() + b.size() + 1, kFirstCapacity);
-    std::memcpy(result.data, a.data(), a.size());
-    std::memcpy(result.data + a.size(), b.data(), b.size());
-    result.set_data_len(a.size() + b.size());
+    result.set_wdata_len(static_cast<size_type>(length));
     return result;
 }
 
 ustring operator+(const ustring& a, const ustring& b) {
-    return ustring::joined(a.view(), b.view());
+    return ustring(a.view(), b.view());
 }
 
 ustring operator+(const ustring& a, const char* b) {
-    return ustring::joined(a.view(), b);
+    return ustring(a.view(), b);
 }
 
 ustring operator+(const ustring& a, char b) {
-    return ustring::joined(a.view(), std::string_view(&b, 1));
+    return ustring(a.view(), std::string_view(&b, 1));
 }
 
 ustring operator+(const ustring& a, const unsigned short* b) {

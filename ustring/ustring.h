@@ -39,8 +39,9 @@ class ustring {
 
     ustring();
     ustring(const ustring& other);  // copies the UTF-8 form only
-    // Takes both forms. The other one is empty then and has new buffers.
-    ustring(ustring&& other);  // NOLINT(performance-noexcept-move-constructor): they may not be had
+    // Moves both forms. The other object is empty afterwards and has new buffers.
+    // NOLINTNEXTLINE(performance-noexcept-move-constructor): it allocates them
+    ustring(ustring&& other) : ustring() { swap(other); }
     // NOLINTBEGIN(google-explicit-constructor): a text may stand wherever a ustring is expected
     ustring(const char* bytes);
     ustring(const unsigned short* units);
@@ -165,8 +166,12 @@ class ustring {
     static ustring normalize(const ustring& source, normalization_form form);
 
   private:
-    ustring(size_type data_need, size_type wdata_need);
-    void init(size_type new_data_cap, size_type new_wdata_cap);
+    // Without buffers, which no other object is: for constructors and results, which size them
+    // next.
+    struct Unallocated {};
+    explicit ustring(Unallocated);
+    ustring(std::string_view a, std::string_view b);
+    void init(size_type data_need);
     int convert_from_data() const;
     int convert_from_wdata();
     enum Content { Kept, Replaced };
@@ -175,7 +180,6 @@ class ustring {
     void clear_data();
     void clear_wdata() const;
 
-    static ustring joined(std::string_view a, std::string_view b);
     friend ustring operator+(const ustring& a, const ustring& b);
     friend ustring operator+(const ustring& a, const char* b);
     friend ustring operator+(const ustring& a, char b);
@@ -188,7 +192,6 @@ class ustring {
     std::vector<unsigned short> own_units(const unsigned short* from, size_type n) const;
     ustring& assign_units(const unsigned short* units, size_type n);
     ustring& append_units(const unsigned short* units, size_type n);
-    void set_normalized(const ustring& source, normalization_form form);
     std::string_view view() const { return std::string_view(data, data_len); }
 
     char* data;                     // NUL-terminated UTF-8, never null while the object lives
