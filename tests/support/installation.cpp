@@ -308,3 +308,16 @@ FileTree Installation::expectedApp(const std::string& number, Shape shape,
     }
     return tree;
 }
+
+bool Logged(const Installation::Result& result, const std::string& fragment) {
+    return !LinesWith(result.log, fragment).empty();
+}
+
+void InstallationTest::startFrom(const std::string& number) {
+    fs::remove_all(installation_.user());
+    installation_.install(number);
+}
+
+void InstallationTest::expectBuild(const std::string& number) {
+    EXPECT_EQ(Tree(installation_.app()), installation_.expectedApp(number));
+}

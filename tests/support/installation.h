@@ -90,4 +90,15 @@ class Installation {
     bool nobody_ = false;
 };
 
+bool Logged(const Installation::Result& result, const std::string& fragment);
+
+class InstallationTest : public testing::Test {
+  protected:
+    // Begins anew, with an application of this build as an earlier run would have left it.
+    void startFrom(const std::string& number);
+    void expectBuild(const std::string& number);
+
+    Installation installation_;
+};
+
 #endif
