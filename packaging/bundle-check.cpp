@@ -40,17 +40,22 @@ class BundleCheck {
   private:
     // Other users of the machine run the bundle too.
     void checkAccess() {
+        struct stat status;
+        if (stat(bundle_.c_str(), &status) == 0) {
+            checkAccess(".", status.st_mode);
+        }
         for (const auto& [path, node] : tree_.nodes) {
-            const mode_t needed = S_ISDIR(node.mode)                           ? S_IROTH | S_IXOTH
-                                  : S_ISREG(node.mode) && isProgram(node.mode) ? S_IROTH | S_IXOTH
-                                                                               : S_IROTH;
-            if (!S_ISLNK(node.mode) && !check_.isFaulty(path) && (node.mode & needed) != needed) {
-                check_.add(path, "isn't accessible to every user", "chmod -R go+rX the bundle");
-            }
+            checkAccess(path, node.mode);
         }
     }
 
-    static bool isProgram(mode_t mode) { return (mode & S_IXUSR) != 0; }
+    void checkAccess(const std::string& path, mode_t mode) {
+        const bool executable = S_ISDIR(mode) || (mode & S_IXUSR) != 0;
+        const mode_t needed = executable ? S_IROTH | S_IXOTH : S_IROTH;
+        if (!S_ISLNK(mode) && !check_.isFaulty(path) && (mode & needed) != needed) {
+            check_.add(path, "isn't accessible to every user", "chmod -R go+rX the bundle");
+        }
+    }
 
     void checkVersions() {
         Fault fault;

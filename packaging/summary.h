@@ -18,7 +18,7 @@ struct Summary {
     std::vector<std::string> warnings;  // each a line
 };
 
-// Told how much of the work is done; returns whether to go on.
+// Is called with how much of the work is done; returns whether to go on.
 using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
 
 #endif

@@ -6,7 +6,7 @@ namespace {
 
 // A Mac takes paths of 1023 bytes; this leaves 223 for the home folder and .Tarnwell/Tarnwell.app.
 const std::size_t kMaxPath = 800;
-const int kMaxLinks = 32;  // on the way of one path; a Mac follows no more
+const int kMaxLinks = 32;  // in one path; a Mac follows no more
 
 std::string FolderOf(const std::string& name) {
     const std::size_t end = name.rfind('/');

@@ -40,6 +40,7 @@ TEST_F(BundleTest, RefusesWhatWouldNotUpgradeOrStart) {
         {"rm $B/$I", kPackedInfo, "is missing; copy the INFO of the packed application there"},
         {"chmod 600 $B/$I", kPackedInfo, "isn't accessible to every user; chmod -R go+rX the"},
         {"chmod 640 $B/$R/package/*", kPackage, "isn't accessible to every user"},
+        {"chmod 700 $B", ".", "isn't accessible to every user"},
         {"chmod 700 $B/Contents/MacOS", "Contents/MacOS", "isn't accessible to every user"},
         {"chmod 744 $B/Contents/MacOS/*", "Contents/MacOS/tarnwell-launcher", "isn't accessible"},
         {"mkdir $B/log; : >$B/log/launcher.debug", "log/launcher.debug", "is a level file, which"},
