@@ -74,6 +74,7 @@ void CopyTree(const std::string& from, const std::string& to) {
     std::string words[] = {"cp", "-a", from, to};
     char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(),
                                nullptr};
+    extern char** environ;  // which no header of macOS declares
     pid_t pid = 0;
     int status = 0;
     Check(posix_spawnp(&pid, "cp", nullptr, nullptr, arguments, environ) == 0 &&

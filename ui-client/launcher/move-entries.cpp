@@ -79,7 +79,7 @@ class EntryMove : private file_op::Walk {
     // half can have been unlocked for its owner. The newer one, if empty, can have been made just
     // before the kill, for its owner alone.
     mode_t mergedMode() const {
-        const mode_t others = 07077;
+        const mode_t others = 07777 & ~S_IRWXU;
         const mode_t mode = to_.mode() & (chain_.mode() | others);
         const mode_t missing = chain_.mode() & ~to_.mode() & others;
         return missing != 0 && IsEmptyFolder(to_.at(".")) ? mode | missing : mode;
