@@ -19,8 +19,9 @@ const std::regex kLayers[] = {
     std::regex("lib/liblogger/.*"),
     std::regex("lib/libclient/.*"),
     std::regex("ui-client/launcher/(translations/.*|(archive-handles|client-file|entry-guard|"
-               "move-entries|notify-adapter|upgrade-journal|version-file)\\..*)"),
-    std::regex("ui-client/launcher/(app-replacement|extractor|package-reader)\\..*"),
+               "move-entries|notify-adapter|running-client|upgrade-journal|version-file)\\..*)"),
+    std::regex(
+        "ui-client/launcher/(app-replacement|content-checksum|extractor|package-reader)\\..*"),
     std::regex("ui-client/launcher/tarnwell-service.*"),
     std::regex("ui-client/launcher/mac/.*"),
     std::regex("ui-client/launcher/(launcher|progress-dialog)\\..*"),

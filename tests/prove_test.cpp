@@ -120,6 +120,7 @@ void KillAndCopy(Case& c) {
     CopyTree(user, user + ".copy");
     RemoveTree(user);
     fs::rename(user + ".copy", user);
+    c.trial.may_doubt = true;
     c.trial.recover();
 }
 

@@ -60,6 +60,9 @@ class UpgradeTrial {
     FileTree new_app;
     std::string doing;        // for messages
     bool has_failed = false;  // a check, since arrange()
+    // After a copy, an old application that can't be recognised keeps its record until a package
+    // has replaced it.
+    bool may_doubt = false;
 
   private:
     void mountOverlay();

@@ -68,8 +68,6 @@ ustring AppReplacement::backup() const {
     return GetAppBackupDir(app_, record_.backup);
 }
 
-// == One at a time
-
 void AppReplacement::Lock() {
     const std::string path((folder_ + "/.upgrade.lock").c_str());
     const auto deadline = std::chrono::steady_clock::now() + kLockPatience;
@@ -87,8 +85,6 @@ bool AppReplacement::MayStart() const {
     UpgradeJournal::Record ignored;
     return !lock_->heldElsewhere() || journal_.read(ignored) == UpgradeJournal::Finding::Nothing;
 }
-
-// == After an upgrade that was cut off
 
 void AppReplacement::Recover() {
     condition_ = Condition::Blocked;
@@ -128,7 +124,7 @@ AppReplacement::Condition AppReplacement::RecoverInstalled() {
     if (record_.backup != UpgradeJournal::kNone && IsComplete(backup())) {
         LOG_MSG(WARNING, "the new application is gone, rollback to old installation '%s'\n",
                 backup().c_str());
-        return RestoreBackup(false) ? Settle() : Condition::Blocked;
+        return RestoreBackup(true) ? Settle() : Condition::Blocked;
     }
     journal_.remove();
     return Condition::Settled;
@@ -136,23 +132,28 @@ AppReplacement::Condition AppReplacement::RecoverInstalled() {
 
 AppReplacement::Condition AppReplacement::RecoverReplacing() {
     std::uint64_t object = 0;
-    std::uint64_t aside_object = 0;
     const Presence in_place = LookAt(app_, &object);
     const Presence part = LookAt(part_);
     const bool has_backup = record_.backup != UpgradeJournal::kNone;
-    const Presence aside = has_backup ? LookAt(backup(), &aside_object) : Presence::NotThere;
+    const Presence aside = has_backup ? LookAt(backup()) : Presence::NotThere;
     if (in_place == Presence::CantTell || part == Presence::CantTell ||
         aside == Presence::CantTell) {
         return Condition::Blocked;
     }
     // Backup names are free when a record names them, and the part is renamed to become the backup,
-    // so what is at either of the two is the old application.
-    if (aside == Presence::There || part == Presence::There) {
+    // so what is at either of the two is the old application. One that may be incomplete and has
+    // no client is none.
+    const bool is_none = record_.object == 0 && in_place == Presence::There &&
+                         aside == Presence::There &&
+                         FindStartableClient(backup().c_str()) == Presence::NotThere;
+    if (is_none) {
+        record_.leftovers |= 1U << record_.backup;
+        FSRemoveOwnTree(backup());
+    } else if (aside == Presence::There || part == Presence::There) {
         LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
                 aside == Presence::There ? backup().c_str() : part_.c_str());
         const bool may_remove =
-            IsComplete(backup()) || (aside_object == record_.object &&
-                                     FindStartableClient(app_.c_str()) == Presence::NotThere);
+            IsComplete(backup()) || FindStartableClient(app_.c_str()) == Presence::NotThere;
         const bool restored =
             aside == Presence::There ? RestoreBackup(may_remove) : RestoreEntries();
         return restored ? Settle() : Condition::Blocked;
@@ -192,8 +193,6 @@ AppReplacement::Condition AppReplacement::Settle() {
     }
     return Condition::Settled;
 }
-
-// == Moving the old application aside
 
 int AppReplacement::Begin() {
     if (condition_ == Condition::Blocked) {
@@ -293,8 +292,6 @@ bool AppReplacement::RestoreEntries() {
     return Identify(object) && rmdir(part_.c_str()) == 0;
 }
 
-// == The two ends
-
 int AppReplacement::Commit() {
     if (must_have_client_ && !IsComplete(app_)) {
         LOG_MSG(ERROR, "the package has no client\n");
@@ -362,8 +359,13 @@ bool AppReplacement::Identify(std::uint64_t object) {
 }
 
 // Takes what is in the application's place away, to a free backup name that the record names from
-// before.
+// before. If that is complete, what was set aside earlier isn't needed any more.
 bool AppReplacement::SetAside() {
+    for (int n = 0; n < UpgradeJournal::kMaxBackups && IsComplete(app_); ++n) {
+        if ((record_.leftovers >> n & 1) != 0 && n != record_.backup) {
+            FSRemoveOwnTree(GetAppBackupDir(app_, n));
+        }
+    }
     for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {
         const ustring name = GetAppBackupDir(app_, n);
         if (n == record_.backup || !Is(Presence::NotThere, name)) {

@@ -18,8 +18,8 @@
 //   1. Looking at a path says "there", "not there" or "can't tell". "Can't tell" never leads to
 //      removing something, unpacking over it, or dropping the record: everything stays as it is.
 //   2. A tree is removed only when this run has created it or has seen a complete application
-//      elsewhere, or when it is no application and the old one is recognised by its inode. What
-//      could be the only application is set aside under a free backup name instead.
+//      elsewhere, or when it has no client, so that it is no application, and the old one is there.
+//      What could be the only application is set aside under a free backup name instead.
 //   3. Nothing is unpacked without a durable record, a first installation included. What is in the
 //      application's place under such a record is never taken for installed.
 //   4. The record changes atomically.

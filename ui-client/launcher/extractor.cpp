@@ -66,9 +66,12 @@ bool OpenForListing(const Extractor& extractor, PackageReader& package) {
 // them their permissions when it is closed, and doesn't say when that fails.
 class ClosedFolders {
   public:
+    // Before the entry is written: one that is there already keeps the permissions that it has.
     void add(archive_entry* entry) {
         const mode_t mode = archive_entry_perm(entry);
-        if (archive_entry_filetype(entry) == AE_IFDIR && (mode & S_IRWXU) != S_IRWXU) {
+        struct stat status;
+        if (archive_entry_filetype(entry) == AE_IFDIR && (mode & S_IRWXU) != S_IRWXU &&
+            lstat(archive_entry_pathname(entry), &status) != 0) {
             folders_.emplace_back(archive_entry_pathname(entry), mode);
         }
     }
@@ -96,7 +99,7 @@ class ClosedFolders {
 };
 
 int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGuard& guard,
-                 int total, int number) {
+                 ClosedFolders& closed, int total, int number) {
     if (archive_entry_pathname(entry) == nullptr) {
         LOG_MSG(ERROR, "archive_entry_pathname failed");
         return -1;
@@ -106,6 +109,7 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGu
                 reason);
         return -1;
     }
+    closed.add(entry);
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader).c_str());
         return -1;
@@ -149,10 +153,9 @@ int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_
                     ErrorText(package.get()).c_str());
             return -1;
         }
-        if (ExtractEntry(package.get(), entry, writer, guard, total, number) != 0) {
+        if (ExtractEntry(package.get(), entry, writer, guard, closed, total, number) != 0) {
             return -1;
         }
-        closed.add(entry);
     }
 }
 
