@@ -71,7 +71,12 @@ class ProgressLine {
 Summary Check(const Options& options, const Progress& progress) {
     const std::string& path = options.paths[0];
     std::error_code error;
-    if (std::filesystem::is_directory(path, error)) {
+    const std::filesystem::file_type type = std::filesystem::status(path, error).type();
+    if (error) {
+        throw PackageError(path, "can't be opened: " + error.message(),
+                           "name an application folder, a package or a bundle");
+    }
+    if (type == std::filesystem::file_type::directory) {
         return IsBundle(path) ? CheckBundle(path, progress) : CheckFolder(path, options.package);
     }
     const std::string bundle = BundleOf(path);

@@ -16,12 +16,14 @@ execute_process(COMMAND "${make_package}" --check "${app}" COMMAND_ERROR_IS_FATA
 execute_process(COMMAND "${make_package}" --json --check "${app}" COMMAND_ERROR_IS_FATAL ANY
     OUTPUT_VARIABLE client_facts)
 
-# read_name(VARIABLE KEY DEFAULT): what the client's property list says, as XML wants it.
+# read_name(VARIABLE KEY DEFAULT): what the client's property list says, as XML wants it, and in
+# VARIABLE_plain as it is.
 function(read_name variable key default)
     string(JSON value GET "${client_facts}" names ${key})
     if(value STREQUAL "")
         set(value "${default}")
     endif()
+    set(${variable}_plain "${value}" PARENT_SCOPE)
     string(REPLACE "&" "&amp;" value "${value}")
     string(REPLACE "<" "&lt;" value "${value}")
     string(REPLACE ">" "&gt;" value "${value}")
@@ -29,8 +31,7 @@ function(read_name variable key default)
 endfunction()
 string(JSON build GET "${client_facts}" build)
 read_name(name CFBundleName Tarnwell)
-read_name(display_name CFBundleDisplayName "${name}")
-string(JSON plain_name GET "${client_facts}" names CFBundleDisplayName)  # for what isn't XML
+read_name(display_name CFBundleDisplayName "${name_plain}")
 read_name(client_identifier CFBundleIdentifier com.orvane.tarnwell)
 read_name(version CFBundleShortVersionString "${build}")
 read_name(icon_file CFBundleIconFile "")

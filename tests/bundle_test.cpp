@@ -126,7 +126,7 @@ TEST_F(BundleTest, TakesNamesNumberAndIconsFromTheClient) {
     EXPECT_TRUE(Tree(folder_ / "bundle").empty());
 
     MakeFile(app_ + "/Contents/Resources/images/ico_72_tarnwell.png", "icon");
-    MakeFile(app_ + "/Contents/Resources/sync.icns", "icons", 0600);
+    shell("cp $DEMO/$R/tarnwell.icns $R/sync.icns; chmod 600 $R/sync.icns");
     std::string plist = "<plist><dict>";
     for (const auto& [key, value] : {std::pair("CFBundleExecutable", "tarnwell-ui"),
                                      {"CFBundleIconFile", "sync.icns"},
@@ -145,7 +145,12 @@ TEST_F(BundleTest, TakesNamesNumberAndIconsFromTheClient) {
         EXPECT_NE(made.find("<string>" + value + "</string>"), std::string::npos) << made;
     }
     EXPECT_EQ(ReadFile(bundle_ + "/" + kPackedInfo), InfoText("101"));
-    EXPECT_EQ(ReadFile(bundle_ + "/Contents/Resources/sync.icns"), "icons");
+    EXPECT_EQ(shell("cmp $R/sync.icns $B/$R/sync.icns").code, 0);
+
+    EXPECT_EQ(shell("TARNWELL_APP=. install --component desktop --prefix ../usr >&2; grep Name= "
+                    "../usr/share/applications/org.example.sync.desktop")
+                  .out,
+              "Name=Up & Down\n");
 
     // A bundle that is there is replaced as a whole, and nothing else is.
     EXPECT_EQ(shell("mkdir $B/log; : >$B/log/launcher.debug").code, 0);
