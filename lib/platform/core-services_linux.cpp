@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +10,7 @@
 
 #include "lib/platform/core-services.h"
 #include "lib/platform/handles.h"
+#include "lib/platform/stored-name.h"
 
 namespace {
 
@@ -48,51 +48,27 @@ bool IsSameObject(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-// Whether the folder takes a name in other letter cases for the same object. Most names answer with
-// one call: spelled the other way they lead nowhere.
-bool IgnoresCase(int folder, const std::string& name) {
-    std::string swapped = name;
-    for (char& byte : swapped) {
-        const bool is_letter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-        byte = static_cast<char>(is_letter ? byte ^ 0x20 : byte);
-    }
-    struct stat object;
-    struct stat other;
-    return swapped != name && fstatat(folder, swapped.c_str(), &other, AT_SYMLINK_NOFOLLOW) == 0 &&
-           fstatat(folder, name.c_str(), &object, AT_SYMLINK_NOFOLLOW) == 0 &&
-           IsSameObject(object, other);
-}
-
-// The name under which a folder that ignores letter case holds an object.
-std::string StoredName(int folder, const std::string& name) {
-    std::string stored = name;
-    const platform::DirStream stream =
-        platform::OpenStream(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    while (const dirent* const entry = stream != nullptr ? readdir(stream.get()) : nullptr) {
-        if (name == entry->d_name) {
-            stored = name;  // one of two links that differ in their letter case
-            break;
-        }
-        if (strcasecmp(name.c_str(), entry->d_name) == 0) {
-            stored = entry->d_name;
-        }
-    }
-    return stored;
-}
-
 // What was resolved is spelled as it was asked for. That is as it is stored, except in folders that
-// ignore letter case. Goes down from folder to folder, so that each step costs the same.
-void SpellAsStored(char* path) {
+// ignore letter case. Goes down from folder to folder, so that each step costs the same. false when
+// the path gets too long.
+bool SpellAsStored(char* path) {
     platform::Descriptor folder(open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
     for (char* begin = path + 1; folder.get() >= 0 && *begin != 0;) {
-        char* const end = begin + std::strcspn(begin, "/");
+        char* end = begin + std::strcspn(begin, "/");
         const std::string name(begin, end);
-        if (IgnoresCase(folder.get(), name)) {
-            std::memcpy(begin, StoredName(folder.get(), name).c_str(), name.size());
+        std::string stored;
+        if (platform::StoredName(folder.get(), name, stored) && stored != name) {
+            const std::string rest(end);
+            if (begin - path + stored.size() + rest.size() >= PATH_MAX) {
+                return false;
+            }
+            std::strcpy(begin, (stored + rest).c_str());
+            end = begin + stored.size();
         }
         folder.reset(*end != 0 ? openat(folder.get(), name.c_str(), O_PATH | O_CLOEXEC) : -1);
         begin = *end != 0 ? end + 1 : end;
     }
+    return true;
 }
 
 // The system tells the path of an open object; false when it can't, as without /proc, and when the
@@ -127,7 +103,9 @@ OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
     if (!Resolve(text, ref->path)) {
         return StatusOf(errno, text);
     }
-    SpellAsStored(ref->path);
+    if (!SpellAsStored(ref->path)) {
+        return bdNamErr;
+    }
     if (isDirectory != nullptr) {
         struct stat status;
         if (stat(ref->path, &status) != 0) {

@@ -30,4 +30,23 @@ class SmallDisk {
     bool mounted_;
 };
 
+// A volume on this folder that ignores letter case, where this process and its children alone see
+// it. exFAT keeps names as they are given, but knows no links and no permissions; NTFS, as it is
+// mounted here, lists them in lower case. On a Mac every volume does that knows no other way.
+class CaseIgnoringVolume {
+  public:
+    enum Kind { ExFat, Ntfs };
+
+    CaseIgnoringVolume(const std::string& path, Kind kind);
+    ~CaseIgnoringVolume();
+    CaseIgnoringVolume(const CaseIgnoringVolume&) = delete;
+    CaseIgnoringVolume& operator=(const CaseIgnoringVolume&) = delete;
+
+    bool mounted() const { return mounted_; }
+
+  private:
+    const std::string path_;
+    bool mounted_;
+};
+
 #endif

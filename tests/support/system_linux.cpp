@@ -1,7 +1,36 @@
 #include <sched.h>
 #include <sys/mount.h>
 
+#include <cstdlib>
+
 #include "tests/support/scenario.h"
+
+namespace {
+
+// The mounts of this process become its own.
+bool LeaveMountNamespace() {
+    return (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+           mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+// Mounts a new volume of the kind $2 on the folder $1. The image and the loop device last as long
+// as they are mounted.
+const char kMount[] = R"(
+    exec >/dev/null 2>&1
+    PATH=$PATH:/usr/sbin:/sbin
+    truncate -s 16M "$1.image"
+    if [ $2 = ntfs ]; then
+        mkntfs -F -Q "$1.image" && lowntfs-3g -o ignore_case "$1.image" "$1"
+    else
+        device=$(losetup -f --show "$1.image") && mkfs.exfat $device &&
+            mount.exfat-fuse $device "$1"
+    fi
+    result=$?
+    rm -f "$1.image"
+    [ -z "$device" ] || losetup -d $device
+    exit $result)";
+
+}  // namespace
 
 timespec ChangeTime(const struct stat& status) {
     return status.st_ctim;
@@ -13,12 +42,24 @@ std::string AnotherVolume() {
 
 SmallDisk::SmallDisk(const std::string& path, const char* size) : path_(path) {
     MakeFolder(path);
-    mounted_ = (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
-               mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+    mounted_ = LeaveMountNamespace() &&
                mount("none", path.c_str(), "tmpfs", 0, ("size=" + std::string(size)).c_str()) == 0;
 }
 
 SmallDisk::~SmallDisk() {
+    if (mounted_) {
+        umount2(path_.c_str(), MNT_DETACH);
+    }
+}
+
+CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind kind) : path_(path) {
+    MakeFolder(path);
+    const char* const name = kind == Ntfs ? "ntfs" : "exfat";
+    mounted_ = LeaveMountNamespace() &&
+               std::system(("set -- '" + path + "' " + name + kMount).c_str()) == 0;
+}
+
+CaseIgnoringVolume::~CaseIgnoringVolume() {
     if (mounted_) {
         umount2(path_.c_str(), MNT_DETACH);
     }

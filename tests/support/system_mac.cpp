@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include "tests/support/scenario.h"
 
 timespec ChangeTime(const struct stat& status) {
@@ -13,3 +15,10 @@ SmallDisk::SmallDisk(const std::string& path, const char*) : path_(path), mounte
 }
 
 SmallDisk::~SmallDisk() = default;
+
+CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind) : path_(path) {
+    MakeFolder(path);
+    mounted_ = pathconf(path.c_str(), _PC_CASE_SENSITIVE) == 0;
+}
+
+CaseIgnoringVolume::~CaseIgnoringVolume() = default;

@@ -139,7 +139,39 @@ const char* EntryGuard::refusalOfPlace(const std::string& path, bool is_folder) 
     const Way way = walk(is_folder ? path : parent, parent.size());
     return way == Way::Linked    ? "leads through a link"
            : way == Way::Unknown ? "its folder can't be opened"
+           : isOthersPlace(path) ? "this volume takes its name for another entry's"
                                  : nullptr;
+}
+
+// Whether the writer would replace what an entry of another name has left at the path, or at the
+// first part of it where walk() found no folder.
+bool EntryGuard::isOthersPlace(const std::string& path) const {
+    if (!ignores_spelling_ || checked_ == path) {
+        return false;
+    }
+    const std::string place = path.substr(0, path.find('/', checked_.size()));
+    struct stat status;
+    return lstat(place.c_str(), &status) == 0 ? !isStoredAs(place)
+                                              : errno != ENOENT && errno != ENAMETOOLONG;
+}
+
+// Whether each element of a path below the destination is stored as it is spelled.
+bool EntryGuard::isStoredAs(const std::string& path) const {
+    platform::Descriptor folder(open(root_.c_str(), kOpenFolder));
+    for (std::size_t start = root_.size(); start < path.size();) {
+        const std::size_t end = std::min(path.find('/', start), path.size());
+        const std::string name = path.substr(start, end - start);
+        std::string stored;
+        if (folder.get() < 0 || !platform::StoredName(folder.get(), name, stored) ||
+            stored != name) {
+            return false;
+        }
+        start = end + 1;
+        if (start < path.size()) {
+            folder = OpenIn(folder, name);
+        }
+    }
+    return true;
 }
 
 // The writer refuses a target that doesn't exist.

@@ -6,12 +6,17 @@
 #include <string>
 #include <string_view>
 
+#include "lib/platform/stored-name.h"
+
 // Keeps the entries of a package, which isn't trusted, inside the folder that they are unpacked
-// into. Nobody else may change that folder meanwhile. Threads: one object belongs to one thread.
+// into, and apart from each other: on a volume that ignores letter case, one must not take the
+// place of another under another spelling. Nobody else may change that folder meanwhile. Threads:
+// one object belongs to one thread.
 class EntryGuard {
   public:
     // destination is the path of an existing folder.
-    explicit EntryGuard(const std::string& destination) : root_(destination + '/') {}
+    explicit EntryGuard(const std::string& destination)
+        : root_(destination + '/'), ignores_spelling_(platform::MayIgnoreSpelling(destination)) {}
 
     // Prepares an entry for libarchive's disk writer, which must have written or refused the one
     // before. Returns null when the entry may be written: its path and the target of a hard link
@@ -30,9 +35,12 @@ class EntryGuard {
     static Way whatIsAt(int folder, const char* name);
     const char* refusal(archive_entry* entry);
     const char* refusalOfPlace(const std::string& path, bool is_folder);
+    bool isOthersPlace(const std::string& path) const;
+    bool isStoredAs(const std::string& path) const;
     const char* refusalOfTarget(const char* target);
 
-    const std::string root_;       // ends in "/"
+    const std::string root_;  // ends in "/"
+    const bool ignores_spelling_;
     std::string checked_ = root_;  // the folder that walk() found last; ends in "/"
 };
 

@@ -1,0 +1,111 @@
+// Volumes that look names up without regard to letter case.
+
+#include <unistd.h>
+
+#include "lib/libclient/file-op.h"
+#include "tests/support/scenario.h"
+#include "ui-client/launcher/extractor.h"
+#include "ui-client/launcher/translations/str-table.h"
+
+namespace {
+
+class SpellingTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!volume_.mounted()) {
+            GTEST_SKIP() << "this user may not mount such a volume, or the tools are missing";
+        }
+    }
+
+    std::string operator/(const std::string& name) const { return root_ + "/" + name; }
+
+    int extract(const std::vector<Entry>& entries) {
+        MakeArchive(folder_ / "package", "tar", entries);
+        RemoveTree(*this / "dest");
+        MakeFolder(*this / "dest");
+        Extractor extractor;
+        extractor.archive_path = (folder_ / "package").c_str();
+        extractor.dest_dir = (*this / "dest").c_str();
+        int result = 0;
+        log_ = CaptureStderr([&] { result = extractor.Extract(); });
+        return result;
+    }
+
+    Folder folder_;
+    const std::string root_ = folder_ / "Volume";
+    const CaseIgnoringVolume volume_{root_, CaseIgnoringVolume::ExFat};
+    std::string log_;
+};
+
+TEST_F(SpellingTest, AnExactPathIsSpelledAsItIsStored) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"Name", "nAME"},
+        {"caf\xC3\xA9", "caf\xC3\x89"},
+        {"caf\xC3\xA9 au lait", "Caf\xC3\x89 au lait"},
+        {"\xC3\x89t\xC3\xA9", "\xC3\xA9T\xC3\x89"},
+        {"\xC3\x89", "\xC3\xA9"},
+        {"\xD0\x96\xD1\x83\xD0\xBA", "\xD0\xB6\xD0\xA3\xD0\x9A"},
+        {"\xE2\xB1\xA5/file", "\xC8\xBA/FILE"},  // one of three bytes, the other of two
+        {"Folder/Sub/Name", "Folder/sUB/Name"}};
+    for (const auto& [stored, other] : cases) {
+        const ustring path = *this / stored;
+        const ustring alias = *this / other;
+        MakeFile(*this / stored);
+        EXPECT_TRUE(IsFileExist(path, true)) << stored;
+        EXPECT_TRUE(IsFileExist(alias, false)) << other;
+        EXPECT_FALSE(IsFileExist(alias, true)) << other;
+        _FILE_INFO_tag info;
+        EXPECT_EQ(GetFileInfo(alias, info), 0);
+        EXPECT_EQ(info.path, path);
+        EXPECT_EQ(FSRename(alias, *this / "moved", true), -2) << other;
+    }
+}
+
+// A volume that decomposes names finds the object under the composed one, too. Where there is none
+// a link does.
+TEST_F(SpellingTest, AnExactPathMayBeComposedInAnotherWay) {
+    const std::string composed = folder_ / "caf\xC3\xA9";
+    const std::string decomposed = folder_ / "cafe\xCC\x81";
+    MakeFile(decomposed);
+    if (!Exists(composed)) {
+        MakeLink(decomposed, composed);
+    }
+    EXPECT_TRUE(IsFileExist(composed.c_str(), true));
+    EXPECT_TRUE(IsFileExist(decomposed.c_str(), true));
+}
+
+TEST_F(SpellingTest, ARenameCanChangeTheCaseOnly) {
+    MakeFile(*this / "Folder/Name", "text");
+    EXPECT_EQ(FSRename(*this / "Folder/Name", *this / "Folder/nAME", true), 0);
+    EXPECT_EQ(FSRename(*this / "FOLDER", *this / "folder", false), 0);
+    FileTree tree = Tree(root_);
+    ASSERT_EQ(tree.size(), 2u);
+    EXPECT_EQ(tree.count("folder"), 1u);
+    EXPECT_EQ(tree.count("folder/nAME"), 1u);
+    EXPECT_EQ(ReadFile(*this / "folder/nAME"), "text");
+}
+
+TEST_F(SpellingTest, NoEntryTakesThePlaceOfAnother) {
+    const std::vector<Entry> refused[] = {{{"data/name", "1"}, {"data/NAME", "2"}},
+                                          {{"Data/name", "1"}, {"dATA/name", "2"}},
+                                          {{"caf\xC3\xA9", "1"}, {"caf\xC3\x89", "2"}},
+                                          {{"name", "1"}, {"NAME/"}},
+                                          {{"name", "1"}, {"NAME/file", "2"}},
+                                          {{"NAME/"}, {"name", "1"}},
+                                          {{"name", "1"}, {"NAME", "", 0644, "", "name"}}};
+    for (const std::vector<Entry>& entries : refused) {
+        EXPECT_EQ(extract(entries), -1) << entries[1].name;
+        EXPECT_TRUE(HasOneLine(log_, "refused entry '" + entries[1].name +
+                                         "': this volume takes its name for another entry's"))
+            << log_;
+    }
+}
+
+TEST_F(SpellingTest, EntriesThatShareAFolderOrANameAreAllUnpacked) {
+    EXPECT_EQ(extract({{"Data/"}, {"Data/a", "1"}, {"data/"}, {"DATA/b", "2"}, {"Data/a", "3"}}), 0)
+        << log_;
+    EXPECT_EQ(Tree(*this / "dest").size(), 3u);
+    EXPECT_EQ(ReadFile(*this / "dest/Data/a") + ReadFile(*this / "dest/Data/b"), "32");
+}
+
+}  // namespace
