@@ -15,13 +15,13 @@
 #include <stdexcept>
 #include <vector>
 
-static_assert(sizeof(UChar) == sizeof(unsigned short), "ICU's code unit is our unit");
+static_assert(sizeof(UChar) == sizeof(unsigned short), "unsigned short is ICU's code unit");
 
 namespace {
 
-const std::size_t kFirstCapacity = 4;  // of a new object's buffers, in bytes and in units
+const std::size_t kFirstCapacity = 4;  // of both buffers of a new object
 
-// These numbers are part of the warnings' text.
+// The warnings' text has these fixed numbers.
 const int kFromUtf8Line = 921;
 const int kToUtf8Line = 888;
 const int kInstanceLine = 1014;
@@ -33,12 +33,12 @@ void Warn(const char* function, UErrorCode error, int line) {
     static_cast<void>(std::fflush(stderr));
 }
 
-// A buffer is kept while the text fits and fills at least half of it.
+// Keeps a capacity that the text fits into and fills by half, else takes what the text needs.
 std::size_t NewCapacity(std::size_t capacity, std::size_t need) {
     return need <= capacity && capacity / 2 <= need ? capacity : need;
 }
 
-// A buffer of another size, with what fits into it of the content. The old one stays on failure.
+// Resizes a buffer and keeps as much of its content as fits. If that fails the buffer is unchanged.
 template <typename Unit>
 Unit* Resize(Unit* buffer, std::size_t need) {
     // NOLINTNEXTLINE(clang-analyzer-optin.portability.UnixAPI): the terminator makes need positive
@@ -49,7 +49,7 @@ Unit* Resize(Unit* buffer, std::size_t need) {
     return static_cast<Unit*>(resized);
 }
 
-// The same without the content. For a small buffer this is several times as fast.
+// Like Resize, but drops the content, which takes a fraction of the time for a small buffer.
 template <typename Unit>
 Unit* Renew(Unit* buffer, std::size_t need) {
     Unit* const fresh = Resize<Unit>(nullptr, need);
@@ -57,7 +57,7 @@ Unit* Renew(Unit* buffer, std::size_t need) {
     return fresh;
 }
 
-// ICU's own object, or null after a warning.
+// Returns an object that ICU owns, or null after a warning.
 const UNormalizer2* Normalizer(ustring::normalization_form form) {
     const UNormalization2Mode mode = form == ustring::NFC ? UNORM2_COMPOSE : UNORM2_DECOMPOSE;
     UErrorCode error = U_ZERO_ERROR;
@@ -89,7 +89,7 @@ bool PointsInto(const Unit* pointer, const Unit* buffer, std::size_t length) {
     return !before(pointer, buffer) && !before(buffer + length, pointer);
 }
 
-// The size of a buffer for a text that grows by n units. bad_alloc where no buffer is so large.
+// The capacity for a text that grows by n units. Throws std::bad_alloc if no buffer can have it.
 template <typename Unit>
 std::size_t Needed(std::size_t length, std::size_t n) {
     if (n >= std::numeric_limits<std::ptrdiff_t>::max() / sizeof(Unit) - length) {
@@ -111,7 +111,7 @@ class ByteSet {
     std::array<bool, 256> has_{};
 };
 
-// The position from which a backward search of a non-empty text starts.
+// Where a backward search of a non-empty text starts.
 std::size_t BackwardStart(std::size_t length, std::size_t pos) {
     return std::min(pos, length - 1);
 }
@@ -186,9 +186,9 @@ ustring::ustring(char byte) : ustring() {
     assign(byte, 1);
 }
 
-// A copy of a, to which b is appended, in one step.
+// Copies a and appends b, in one step but with the capacity of two.
 ustring::ustring(std::string_view a, std::string_view b) : ustring(Unallocated()) {
-    data_cap = NewCapacity(data_cap, a.size() + 1);  // that of the copy
+    data_cap = NewCapacity(data_cap, a.size() + 1);
     init(a.size() + b.size() + 1);
     b.copy(data + a.copy(data, a.size()), b.size());
     set_data_len(a.size() + b.size());
@@ -214,7 +214,7 @@ ustring& ustring::operator=(ustring&& other) noexcept {
     return *this;
 }
 
-// Allocates both buffers of an empty text.
+// Allocates both buffers of a new object and makes it empty.
 void ustring::init(size_type data_need) {
     realloc_data(data_need);
     realloc_wdata(kFirstCapacity);
@@ -292,7 +292,7 @@ int ustring::convert_from_wdata() {
     try {
         realloc_data(static_cast<size_type>(length) + 1, Replaced);
     } catch (const std::bad_alloc&) {
-        clear_wdata();  // the UTF-8 form has stayed as it was
+        clear_wdata();  // the UTF-8 form is still the old text
         throw;
     }
     error = U_ZERO_ERROR;
@@ -325,7 +325,7 @@ const unsigned short* ustring::c_str_utf16() const {
     return wdata;
 }
 
-// The bytes must not lie in this object's buffer, except at its start.
+// The bytes must not be in this object's buffer, except at its start.
 ustring& ustring::assign_bytes(const char* bytes, size_type n) {
     if (bytes == data) {
         if (n < data_len) {
@@ -376,16 +376,16 @@ ustring& ustring::assign(char byte, size_type n) {
     return *this;
 }
 
-// At most n units of this object's own UTF-16 form, from where an argument points. It may have got
-// its pointer before the form was dropped.
+// Builds the UTF-16 form and copies at most n of its units, from the position that an argument
+// points to. The pointer may be older than the form: the buffer outlives a form that was dropped.
 std::vector<unsigned short> ustring::own_units(const unsigned short* from, size_type n) const {
     const auto offset = static_cast<size_type>(from - wdata);
-    build_wdata();  // may move the buffer
+    build_wdata();  // can move the buffer
     const size_type pos = std::min(offset, wdata_len);
     return std::vector<unsigned short>(wdata + pos, wdata + pos + std::min(n, wdata_len - pos));
 }
 
-// The UTF-16 form is there, and the units don't lie in its buffer.
+// The UTF-16 form must be built, and the units must not be in its buffer.
 ustring& ustring::assign_units(const unsigned short* units, size_type n) {
     realloc_wdata(n + 1, Replaced);
     std::copy_n(units, n, wdata);
@@ -414,7 +414,7 @@ ustring& ustring::assign(unsigned short unit, size_type n) {
     return *this;
 }
 
-// The bytes may lie in this object's buffer, which can move when it grows.
+// The bytes may be in this object's buffer, which can move when it grows.
 ustring& ustring::append_bytes(const char* bytes, size_type n) {
     const bool own = PointsInto<char>(bytes, data, data_len);
     const std::ptrdiff_t offset = own ? bytes - data : 0;
@@ -452,7 +452,7 @@ ustring& ustring::append(char byte, size_type n) {
     return *this;
 }
 
-// The UTF-16 form is there, and the units don't lie in its buffer.
+// The UTF-16 form must be built, and the units must not be in its buffer.
 ustring& ustring::append_units(const unsigned short* units, size_type n) {
     realloc_wdata(wdata_len + n + 1);
     std::copy_n(units, n, wdata + wdata_len);
@@ -515,7 +515,7 @@ ustring& ustring::ltrim(const char* set) {
 }
 
 ustring& ustring::rtrim(const char* set) {
-    const size_type end = find_last_not_of(set) + 1;  // 0 when there is none: npos wraps around
+    const size_type end = find_last_not_of(set) + 1;  // npos + 1 is 0
     if (end != data_len) {
         set_data_len(end);
     }
@@ -524,7 +524,7 @@ ustring& ustring::rtrim(const char* set) {
 
 ustring& ustring::trim(const char* set) {
     if (PointsInto<char>(set, data, data_len)) {
-        return trim(ustring(set));  // ltrim moves the bytes that the set is made of
+        return trim(ustring(set));  // because ltrim() moves the bytes of the set
     }
     ltrim(set);
     return rtrim(set);

@@ -10,26 +10,26 @@
 #include <string_view>
 #include <vector>
 
-// The string type of every path, key, value and version text.
+// The string type of paths, keys, values and version texts.
 //
-// A ustring holds its text as UTF-8, which is always current, and as UTF-16, which is built from
-// the UTF-8 form when something asks for it and dropped when the UTF-8 form changes. The bytes are
-// not checked: ill-formed UTF-8 stays as it is and has an empty UTF-16 form (is_valid() tells).
+// A ustring holds its text in two encodings: UTF-8, which is always current, and UTF-16, which is
+// built when something needs it and kept until the UTF-8 form changes. Any bytes are accepted;
+// ill-formed UTF-8 is kept unchanged, has an empty UTF-16 form, and is_valid() is false for it.
 //
-// Positions, lengths and counts are bytes of the UTF-8 form; a count of npos means up to the end.
-// A byte string is NUL-terminated UTF-8, a unit string a 0-terminated array of UTF-16 code units.
-// An argument may point into the object itself. Overloads for std::string take its bytes up to its
-// first NUL.
+// Positions, lengths and counts are in bytes of the UTF-8 form; a count of npos means up to the
+// end. A byte string is NUL-terminated UTF-8, a unit string is a 0-terminated array of UTF-16 code
+// units. An argument may point into the object itself. A std::string counts up to its first NUL.
 //
-// Both buffers come from realloc and fit exactly: a buffer is kept while the text with its
-// terminator fits and fills at least half of it, and is otherwise resized to just that size.
+// Buffers: an operation keeps a buffer when the new text and its terminator fit and fill at least
+// half of it, and otherwise resizes it to exactly their size. The buffers of a new empty string
+// have 4 bytes and 4 units. All are allocated with realloc() and released with free().
 //
-// Errors: std::bad_alloc when memory runs out, the object keeps its earlier buffer; and
-// std::out_of_range where said. Conversions that ICU refuses are reported in one line on standard
-// error and leave an empty form.
+// Errors: std::bad_alloc when memory runs out, and std::out_of_range where a function says so; the
+// text is then what it was before. When ICU rejects a text, the conversion writes one line to
+// standard error, and its result is empty.
 //
-// Threads: one object belongs to one thread at a time, even for reading, because c_str_utf16() and
-// normalize() may build the UTF-16 form. Distinct objects are independent.
+// Threads: use an object in one thread at a time, even for reading: c_str_utf16() and normalize()
+// may build the UTF-16 form. Distinct objects are independent.
 class ustring {
   public:
     using size_type = std::size_t;
@@ -39,42 +39,43 @@ class ustring {
 
     ustring();
     ustring(const ustring& other);  // copies the UTF-8 form only
-    // Moves both forms. The other object is empty afterwards and has new buffers.
-    // NOLINTNEXTLINE(performance-noexcept-move-constructor): it allocates them
+    // Moves both forms and leaves an empty string with new buffers.
+    // NOLINTNEXTLINE(performance-noexcept-move-constructor): it allocates those
     ustring(ustring&& other) : ustring() { swap(other); }
-    // NOLINTBEGIN(google-explicit-constructor): a text may stand wherever a ustring is expected
+    // NOLINTBEGIN(google-explicit-constructor): a text converts to a ustring
     ustring(const char* bytes);
     ustring(const unsigned short* units);
     ustring(const std::string& bytes);
-    explicit ustring(std::string_view bytes);  // all of them; the view need not be terminated
+    explicit ustring(std::string_view bytes);  // needs no terminator
     ustring(char byte);
     // NOLINTEND(google-explicit-constructor)
     ~ustring();
 
-    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): assign() looks for it
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): assign() handles it
     ustring& operator=(const ustring& other) { return assign(other, 0, npos); }
-    ustring& operator=(ustring&& other) noexcept;  // exchanges the two
+    ustring& operator=(ustring&& other) noexcept;  // swaps the two strings
     ustring& operator=(const char* bytes) { return assign(bytes); }
     ustring& operator=(const std::string& bytes) { return assign(bytes, 0, npos); }
     ustring& operator=(const unsigned short* units) { return assign(units); }
     ustring& operator=(char byte) { return assign(byte, 1); }
     ustring& operator=(unsigned short unit) { return assign(unit, 1); }
 
-    // The bytes [pos, pos + n) of other, which may be this object.
-    // Throws std::out_of_range "substr" when pos lies beyond the end.
+    // Replaces the text by the bytes [pos, pos + n) of other, which may be this object.
+    // Throws std::out_of_range "substr" if pos is beyond the end.
     ustring& assign(const ustring& other, size_type pos, size_type n);
     ustring& assign(const char* bytes);
     ustring& assign(const char* bytes, size_type n);
-    // Throws std::out_of_range "basic_string::substr" when pos lies beyond the end.
+    // Throws std::out_of_range "basic_string::substr" if pos is beyond the end.
     ustring& assign(const std::string& bytes, size_type pos, size_type n);
     ustring& assign(char byte, size_type n);
-    // A unit string with an unpaired surrogate gives the empty string.
+    // Assigning units builds the UTF-16 form, replaces it and rebuilds the UTF-8 form. An unpaired
+    // surrogate makes the string empty.
     ustring& assign(const unsigned short* units);
     ustring& assign(const unsigned short* units, size_type n);
     ustring& assign(unsigned short unit, size_type n);
 
-    // The same arguments and errors as assign. Appending bytes drops the UTF-16 form; appending
-    // units goes through the UTF-16 form and rebuilds the UTF-8 form at once.
+    // Arguments and errors are those of assign(). Appending bytes drops the UTF-16 form. Appending
+    // units builds it first, appends to it and rebuilds the UTF-8 form; ill-formed UTF-8 is lost.
     ustring& append(const ustring& other, size_type pos, size_type n);
     ustring& append(const char* bytes);
     ustring& append(const char* bytes, size_type n);
@@ -92,27 +93,26 @@ class ustring {
     ustring& operator+=(unsigned short unit) { return append(unit, 1); }
 
     void swap(ustring& other) noexcept;
-    void clear();  // empties both forms and keeps their buffers
+    void clear();  // empties both forms, keeps their buffers
 
-    // The text, valid until the object changes or ends. c_str_utf16() builds the UTF-16 form when
-    // it isn't there; for ill-formed UTF-8 it is empty, reported at every call.
+    // The text; the pointer is valid until the object changes or is destroyed. c_str_utf16() builds
+    // the UTF-16 form if needed. For ill-formed UTF-8 it returns an empty one and warns each time.
     const char* c_str() const { return data; }
     const char* c_str_utf8() const { return data; }
     const unsigned short* c_str_utf16() const;
     size_type size() const { return data_len; }
     size_type length() const { return data_len; }
     bool empty() const { return data_len == 0; }
-    // The byte at pos, unchecked. The reference that can be written to drops the UTF-16 form.
+    // The byte at pos, unchecked. The non-const overload drops the UTF-16 form.
     char& operator[](size_type pos) {
         clear_wdata();
         return data[pos];
     }
     const char& operator[](size_type pos) const { return data[pos]; }
 
-    // Searches return a position or npos. The forward ones start at pos and fail when it lies at
-    // or beyond the end; the backward ones start at pos, or at the last byte when pos lies beyond
-    // it. Sets are sets of bytes. An empty needle is found at the start; nothing is in an empty
-    // set.
+    // Searches return a position or npos. Forward searches start at pos and fail if it isn't within
+    // the text. Backward searches start at pos or at the last byte, whichever comes first. A set is
+    // a set of bytes. An empty needle is found where the search starts; an empty set has no member.
     size_type find(const ustring& needle, size_type pos = 0) const;
     size_type find(const std::string& needle, size_type pos = 0) const;
     size_type find(const char* needle, size_type pos = 0) const;
@@ -138,8 +138,8 @@ class ustring {
     size_type find_last_not_of(const char* set, size_type pos = npos) const;
     size_type find_last_not_of(char set, size_type pos = npos) const;
 
-    // Remove the bytes of the set from one end or both. Nothing changes, the UTF-16 form included,
-    // when there is nothing to remove.
+    // Remove the bytes at the left, the right or both ends that are in the set. If there are none,
+    // the UTF-16 form stays too.
     ustring& ltrim(const char* set);
     ustring& ltrim(const ustring& set) { return ltrim(set.data); }
     ustring& rtrim(const char* set);
@@ -149,19 +149,19 @@ class ustring {
 
     ustring& replace(char from, char to);  // every byte equal to from
 
-    // The bytes [pos, pos + n), clipped to the end.
-    // Throws std::out_of_range "substr" when pos lies beyond the end.
+    // A copy of the bytes [pos, pos + n), as far as there are any.
+    // Throws std::out_of_range "substr" if pos is beyond the end.
     ustring substr(size_type pos = 0, size_type n = npos) const;
 
-    // 0 when equal, else the difference of the first bytes that differ, taken as unsigned, the
-    // terminator counting as 0. ignore_case folds the ASCII letters only.
+    // 0 if equal, else the difference of the first two bytes that differ, as unsigned values; the
+    // terminator is a byte of value 0. ignore_case folds ASCII letters only.
     int compare(const ustring& other) const { return compare(*this, other, false); }
     int compare(const ustring& other, size_type n) const;  // over at most n bytes
     static int compare(const ustring& a, const ustring& b, bool ignore_case);
 
-    // false only for a text that ICU calls ill-formed UTF-8.
+    // False if ICU reports the text as ill-formed UTF-8.
     static bool is_valid(const ustring& text);
-    // The text in a Unicode normalization form; empty for ill-formed UTF-8.
+    // The text in a Unicode normalization form. Empty, with two warnings, for ill-formed UTF-8.
     ustring normalize(normalization_form form) const { return normalize(*this, form); }
     static ustring normalize(const ustring& source, normalization_form form);
 
@@ -209,7 +209,7 @@ inline void swap(ustring& a, ustring& b) noexcept {
 inline bool operator==(const ustring& a, const ustring& b) {
     return a.size() == b.size() && std::memcmp(a.c_str(), b.c_str(), a.size()) == 0;
 }
-// By unsigned bytes, a prefix first.
+// Compares bytes as unsigned values; a proper prefix is less.
 inline bool operator<(const ustring& a, const ustring& b) {
     const int order = std::memcmp(a.c_str(), b.c_str(), std::min(a.size(), b.size()));
     return order != 0 ? order < 0 : a.size() < b.size();
@@ -228,7 +228,7 @@ ustring operator+(const ustring& a, const unsigned short* b);
 ustring operator+(const ustring& a, unsigned short b);
 
 std::ostream& operator<<(std::ostream& out, const ustring& text);
-std::istream& operator>>(std::istream& in, ustring& text);  // one word, as bytes
+std::istream& operator>>(std::istream& in, ustring& text);  // one word, if there is one
 
 template <>
 struct std::hash<ustring> {
