@@ -58,11 +58,11 @@ bool SpellAsStored(char* path) {
         const std::string name(begin, end);
         std::string stored;
         if (platform::StoredName(folder.get(), name, stored) && stored != name) {
-            const std::string rest(end);
-            if (begin - path + stored.size() + rest.size() >= PATH_MAX) {
+            const std::string spelled = stored + end;
+            if (begin - path + spelled.size() >= PATH_MAX) {
                 return false;
             }
-            std::strcpy(begin, (stored + rest).c_str());
+            std::memcpy(begin, spelled.c_str(), spelled.size() + 1);
             end = begin + stored.size();
         }
         folder.reset(*end != 0 ? openat(folder.get(), name.c_str(), O_PATH | O_CLOEXEC) : -1);

@@ -21,7 +21,6 @@ const mode_t kUsualMode = Entry().mode;
 
 const char kInfoPlist[] =
     "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
-const char kClient[] = "#!/bin/sh\necho whole >>\"$HOME/started\"\n";
 
 int WaitStatus(pid_t pid) {
     int status = 0;

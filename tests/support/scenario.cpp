@@ -74,7 +74,8 @@ void CopyTree(const std::string& from, const std::string& to) {
     std::string words[] = {"cp", "-a", from, to};
     char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(),
                                nullptr};
-    extern char** environ;  // which no header of macOS declares
+    // NOLINTNEXTLINE(readability-redundant-declaration): no header of macOS has it
+    extern char** environ;
     pid_t pid = 0;
     int status = 0;
     Check(posix_spawnp(&pid, "cp", nullptr, nullptr, arguments, environ) == 0 &&
@@ -148,7 +149,7 @@ FileTree Tree(const std::string& path, bool folder_modes) {
 
 AsNobody::AsNobody() : active_(getuid() == 0) {
     const uid_t nobody = 65534;
-    const uid_t unchanged = static_cast<uid_t>(-1);
+    const auto unchanged = static_cast<uid_t>(-1);
     // In two steps the saved user id stays root's, also where there is no setresuid().
     Check(!active_ || (setreuid(nobody, unchanged) == 0 && seteuid(nobody) == 0),
           "can't become another user");

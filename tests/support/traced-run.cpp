@@ -108,14 +108,16 @@ std::string TextAt(pid_t task, unsigned long long address) {
     std::array<char, page + 1> text{};
     const std::size_t first = page - address % page;  // nothing may be behind the page
     const iovec local = {text.data(), page};
+    // NOLINTBEGIN(performance-no-int-to-ptr): it is an address in another process
     const iovec remote[] = {{reinterpret_cast<void*>(address), first},
                             {reinterpret_cast<void*>(address + first), page - first}};
+    // NOLINTEND(performance-no-int-to-ptr)
     process_vm_readv(task, &local, 1, remote, 2, 0);
     return text.data();
 }
 
 std::string PathOf(pid_t task, const Call& call, const Entry& entry) {
-    const std::string path = call.path != kNo ? TextAt(task, entry.args[call.path]) : "";
+    std::string path = call.path != kNo ? TextAt(task, entry.args[call.path]) : "";
     if (path[0] == '/') {
         return path;
     }
