@@ -243,6 +243,7 @@ TEST_F(StartTest, WhatItReadsAndWritesMayBeATrap) {
     const std::pair<std::string, std::string> cases[] = {
         {installation_.user("ui.pid"), "[NOTE] mac/mac-service(97): Failed to read pid file"},
         {installation_.user("log/launcher.log"), "is not a regular file, the log is not written"},
+        {installation_.app("Contents/Resources/INFO"), "the version file '"},
         {installation_.bundle("log/launcher.debug"), ""}};
     for (const auto& [path, message] : cases) {
         for (const auto& make : traps) {
