@@ -46,8 +46,7 @@ const Scene kScenes[] = {
     {3, Shape::Plain, Scene::CutBefore, true, Shape::Plain, Scene::Nothing},
     {3, Shape::NoClient, Scene::CutAfter, true, Shape::Plain, Scene::Nothing},
     {3, Shape::Plain, Scene::CutBefore, true, Shape::NoClient, Scene::Nothing},
-    {3, Shape::ClientFirst, Scene::CutAfter, true, Shape::Plain, Scene::Leftover},
-    {3, Shape::Plain, Scene::CutBefore, true, Shape::Modes, Scene::OnOverlay}};
+    {3, Shape::ClientFirst, Scene::CutAfter, true, Shape::Plain, Scene::Leftover}};
 
 // A case of a row: what happens at which of its calls. Those that count are those that change
 // files; or all, on the user's files, on the bundle's as well, or on any after the first of the
