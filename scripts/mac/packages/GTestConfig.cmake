@@ -1,3 +1,4 @@
+include_guard(GLOBAL)
 # GoogleTest from its sources, which Debian's package has.
 set(googletest /usr/src/googletest/googletest)
 add_library(gtest STATIC "${googletest}/src/gtest-all.cc")
