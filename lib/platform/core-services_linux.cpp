@@ -53,11 +53,15 @@ bool IsSameObject(const struct stat& a, const struct stat& b) {
 // the path gets too long.
 bool SpellAsStored(char* path) {
     platform::Descriptor folder(open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    std::string stored;
     for (char* begin = path + 1; folder.get() >= 0 && *begin != 0;) {
         char* end = begin + std::strcspn(begin, "/");
-        const std::string name(begin, end);
-        std::string stored;
-        if (platform::StoredName(folder.get(), name, stored) && stored != name) {
+        const bool last = *end == 0;
+        *end = 0;
+        const bool is_known = platform::StoredName(folder.get(), begin, stored);
+        folder.reset(last ? -1 : openat(folder.get(), begin, O_PATH | O_CLOEXEC));
+        *end = last ? 0 : '/';
+        if (is_known && !stored.empty()) {
             const std::string spelled = stored + end;
             if (begin - path + spelled.size() >= PATH_MAX) {
                 return false;
@@ -65,8 +69,7 @@ bool SpellAsStored(char* path) {
             std::memcpy(begin, spelled.c_str(), spelled.size() + 1);
             end = begin + stored.size();
         }
-        folder.reset(*end != 0 ? openat(folder.get(), name.c_str(), O_PATH | O_CLOEXEC) : -1);
-        begin = *end != 0 ? end + 1 : end;
+        begin = last ? end : end + 1;
     }
     return true;
 }

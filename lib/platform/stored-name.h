@@ -5,11 +5,11 @@
 
 namespace platform {
 
-// Finds out how an open folder spells the name of an object that is in it. That is name itself,
-// except on volumes that look names up without regard to letter case or to how letters are
-// composed. A link counts itself. Returns false, with errno set and stored unchanged, when the
-// system doesn't say. Threads: any.
-bool StoredName(int folder, const std::string& name, std::string& stored);
+// Finds out how an open folder spells the name of an object that is in it. stored becomes empty
+// when that is name itself, as it is but on volumes that look names up without regard to letter
+// case or to how letters are composed. A link counts itself. Returns false, with errno set, when
+// the system doesn't say. Threads: any.
+bool StoredName(int folder, const char* name, std::string& stored);
 
 // Whether the volume of an existing folder may take another spelling for the same name. In doubt it
 // may. Threads: any.

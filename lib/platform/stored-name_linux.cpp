@@ -3,9 +3,12 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <QByteArray>
 #include <QString>
 #include <algorithm>
 #include <cerrno>
+#include <climits>
+#include <cstring>
 
 #include "lib/platform/handles.h"
 
@@ -16,50 +19,57 @@ QChar InOtherCase(QChar letter) {
     return letter == (letter.isLower() ? other.toLower() : other.toUpper()) ? other : letter;
 }
 
-// The name with its letters in the other case: those of ASCII, which every volume that ignores
-// letter case knows, or else all.
-std::string InOtherCase(const std::string& name) {
-    std::string other = name;
+// Spells a name in other letter case: the letters of ASCII, which every volume that ignores letter
+// case knows, or else all. false when there are none, or the name is too long for any volume.
+bool SpellInOtherCase(const char* name, char (&other)[NAME_MAX + 1]) {
+    bool has_letters = false;
     bool is_ascii = true;
-    for (char& byte : other) {
+    std::size_t size = 0;
+    for (; name[size] != 0; ++size) {
+        const char byte = name[size];
+        if (size == NAME_MAX) {
+            return false;
+        }
         const bool is_letter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-        byte = static_cast<char>(is_letter ? byte ^ 0x20 : byte);
+        has_letters = has_letters || is_letter;
         is_ascii = is_ascii && byte >= 0;
+        other[size] = static_cast<char>(is_letter ? byte ^ 0x20 : byte);
     }
-    if (is_ascii || other != name) {
-        return other;
+    other[size] = 0;
+    if (has_letters || is_ascii) {
+        return has_letters;
     }
-    QString text = QString::fromStdString(name);
+    QString text = QString::fromUtf8(name);
     std::transform(text.cbegin(), text.cend(), text.begin(),
                    [](QChar letter) { return InOtherCase(letter); });
-    return text.toStdString();
+    const QByteArray spelled = text.toUtf8();
+    qstrncpy(other, spelled.constData(), sizeof other);
+    return spelled.size() <= NAME_MAX && spelled != name;
 }
 
 // The entry that a volume which ignores letter case takes for the name. Not each of them gives an
 // object the same inode under each spelling, so that doesn't tell.
-bool FindEntry(int folder, const std::string& name, std::string& stored) {
+bool FindEntry(int folder, const char* name, std::string& stored) {
     const platform::DirStream stream =
         platform::OpenStream(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (stream == nullptr) {
         return false;
     }
-    const QString text = QString::fromStdString(name);
-    std::string found = name;
-    errno = 0;
-    while (const dirent* const entry = readdir(stream.get())) {
-        if (name == entry->d_name) {
-            found = name;  // the other spelling is another object's
-            break;
+    const QString text = QString::fromUtf8(name);
+    for (;;) {
+        errno = 0;
+        const dirent* const entry = readdir(stream.get());
+        if (entry == nullptr) {
+            return errno == 0;
+        }
+        if (std::strcmp(name, entry->d_name) == 0) {
+            stored.clear();  // the other spelling is another object's
+            return true;
         }
         if (text.compare(QString::fromUtf8(entry->d_name), Qt::CaseInsensitive) == 0) {
-            found = entry->d_name;
+            stored = entry->d_name;
         }
     }
-    if (errno != 0) {
-        return false;
-    }
-    stored = found;
-    return true;
 }
 
 }  // namespace
@@ -67,22 +77,22 @@ bool FindEntry(int folder, const std::string& name, std::string& stored) {
 namespace platform {
 
 // Most names need one call: spelled in the other case they lead nowhere.
-bool StoredName(int folder, const std::string& name, std::string& stored) {
-    const std::string other = InOtherCase(name);
+bool StoredName(int folder, const char* name, std::string& stored) {
+    char other[NAME_MAX + 1];
     struct stat status;
-    if (other != name && fstatat(folder, other.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
-        return FindEntry(folder, name, stored);
-    }
-    stored = name;
-    return true;
+    stored.clear();
+    return !SpellInOtherCase(name, other) ||
+           fstatat(folder, other, &status, AT_SYMLINK_NOFOLLOW) != 0 ||
+           FindEntry(folder, name, stored);
 }
 
 // Spelled in the other case, the folder's own path leads nowhere.
 bool MayIgnoreSpelling(const std::string& folder) {
     const std::size_t name = folder.rfind('/') + 1;
-    const std::string other = folder.substr(0, name) + InOtherCase(folder.substr(name));
+    char other[NAME_MAX + 1];
     struct stat status;
-    return other == folder || lstat(other.c_str(), &status) == 0 || errno != ENOENT;
+    return !SpellInOtherCase(folder.c_str() + name, other) ||
+           lstat((folder.substr(0, name) + other).c_str(), &status) == 0 || errno != ENOENT;
 }
 
 }  // namespace platform

@@ -7,7 +7,7 @@
 
 namespace platform {
 
-bool StoredName(int folder, const std::string& name, std::string& stored) {
+bool StoredName(int folder, const char* name, std::string& stored) {
     attrlist wanted{};
     wanted.bitmapcount = ATTR_BIT_MAP_COUNT;
     wanted.commonattr = ATTR_CMN_NAME;
@@ -16,10 +16,13 @@ bool StoredName(int folder, const std::string& name, std::string& stored) {
         attrreference_t name;
         char text[NAME_MAX * 3 + 1];
     } __attribute__((aligned(4), packed)) found;
-    if (getattrlistat(folder, name.c_str(), &wanted, &found, sizeof found, FSOPT_NOFOLLOW) != 0) {
+    if (getattrlistat(folder, name, &wanted, &found, sizeof found, FSOPT_NOFOLLOW) != 0) {
         return false;
     }
     stored = reinterpret_cast<const char*>(&found.name) + found.name.attr_dataoffset;
+    if (stored == name) {
+        stored.clear();
+    }
     return true;
 }
 

@@ -162,8 +162,8 @@ bool EntryGuard::isStoredAs(const std::string& path) const {
         const std::size_t end = std::min(path.find('/', start), path.size());
         const std::string name = path.substr(start, end - start);
         std::string stored;
-        if (folder.get() < 0 || !platform::StoredName(folder.get(), name, stored) ||
-            stored != name) {
+        if (folder.get() < 0 || !platform::StoredName(folder.get(), name.c_str(), stored) ||
+            !stored.empty()) {
             return false;
         }
         start = end + 1;
