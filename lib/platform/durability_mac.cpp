@@ -9,8 +9,8 @@
 
 namespace {
 
-bool IsUnknownRequest() {
-    return errno == EINVAL || errno == ENOTSUP || errno == ENOTTY;
+bool IsUnknownRequest(int error) {
+    return error == EINVAL || error == ENOTSUP || error == ENOTTY;
 }
 
 }  // namespace
@@ -22,7 +22,7 @@ int SyncFile(int fd) {
         return 0;
     }
     // fsync() leaves the data in the drive's cache; it is all that some volumes can do.
-    return IsUnknownRequest() && (fsync(fd) == 0 || IsUnknownRequest()) ? 0 : -1;
+    return IsUnknownRequest(errno) && (fsync(fd) == 0 || IsUnknownRequest(errno)) ? 0 : -1;
 }
 
 int SyncFolder(const char* path) {
@@ -31,16 +31,20 @@ int SyncFolder(const char* path) {
 }
 
 int SyncVolume(const char* path) {
-    // Returns an error number, and knows volumes that can't flush the drive's cache.
+    // Returns an error number. Not every volume can flush the drive's cache or wait.
     int error = sync_volume_np(path, SYNC_VOLUME_FULLSYNC | SYNC_VOLUME_WAIT);
-    if (error == ENOTSUP || error == EINVAL) {
+    if (IsUnknownRequest(error)) {
         error = sync_volume_np(path, SYNC_VOLUME_WAIT);
     }
-    if (error == 0) {
-        return 0;
+    if (IsUnknownRequest(error)) {
+        sync();
+        error = 0;
     }
-    errno = error;
-    return -1;
+    if (error != 0) {
+        errno = error;
+        return -1;
+    }
+    return 0;
 }
 
 // The system has no such request.
