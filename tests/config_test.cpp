@@ -76,7 +76,8 @@ TEST_F(ConfigTest, ReadsALongLineInPieces) {
 
 TEST_F(ConfigTest, ANulEndsALineAndAFailingDiskTheFile) {
     EXPECT_EQ(read(std::string("a=1\0b=2\nc=3\n", 12)), 0);
-    EXPECT_EQ(config_.read("/proc/self/mem"), 0) << "a regular file whose beginning can't be read";
+    const std::string file = UnreadableFile();
+    EXPECT_EQ(config_.read(file.c_str()), file.empty() ? -1 : 0);
     EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"c", "3"}}));
 }
 

@@ -23,5 +23,6 @@ set(MACDEPLOYQT false CACHE STRING "Bundles are not assembled here")
 
 include_directories(SYSTEM "${CMAKE_CURRENT_LIST_DIR}/headers")
 list(PREPEND CMAKE_PREFIX_PATH "${TARNWELL_MAC}")
-set(Qt5_DIR "${CMAKE_CURRENT_LIST_DIR}/packages")
-set(GTest_DIR "${CMAKE_CURRENT_LIST_DIR}/packages")
+foreach(package IN ITEMS Qt5 GTest zstd)
+    set(${package}_DIR "${CMAKE_CURRENT_LIST_DIR}/packages")
+endforeach()

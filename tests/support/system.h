@@ -11,6 +11,12 @@
 // When the object was changed last, its name and permissions included.
 timespec ChangeTime(const struct stat& status);
 
+// A regular file whose beginning can't be read; empty where there is none.
+std::string UnreadableFile();
+
+// Whether the environment names the system's locale.
+bool HasLocaleInEnvironment();
+
 // A folder on another volume than /tmp that every user can write to; empty where there is none.
 std::string AnotherVolume();
 

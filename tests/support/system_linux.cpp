@@ -36,6 +36,14 @@ timespec ChangeTime(const struct stat& status) {
     return status.st_ctim;
 }
 
+std::string UnreadableFile() {
+    return "/proc/self/mem";
+}
+
+bool HasLocaleInEnvironment() {
+    return true;
+}
+
 std::string AnotherVolume() {
     return "/dev/shm";
 }

@@ -6,6 +6,14 @@ timespec ChangeTime(const struct stat& status) {
     return status.st_ctimespec;
 }
 
+std::string UnreadableFile() {
+    return std::string();
+}
+
+bool HasLocaleInEnvironment() {
+    return false;
+}
+
 std::string AnotherVolume() {
     return std::string();
 }

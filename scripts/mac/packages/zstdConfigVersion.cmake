@@ -1,0 +1,1 @@
+include("${TARNWELL_HOST_LIBRARIES}/cmake/zstd/zstdConfigVersion.cmake")
