@@ -10,9 +10,9 @@ namespace platform {
 // Asks the system to start the application bundle at path, whose bytes are used as they are. Which
 // executable runs is decided by the bundle's Contents/Info.plist, or by the bundle's name when that
 // names none or isn't a regular file of at most 1 MiB in the bundle. The program gets no arguments,
-// no open files and no signal settings of ours, starts in the home folder, and is neither waited
-// for nor watched. Returns false when the request wasn't accepted: no bundle, or no regular file in
-// it that can be started. Threads: any.
+// no open files and no signal settings of ours, starts in the home folder (on macOS in the root),
+// and is neither waited for nor watched. Returns false when the request wasn't accepted: no bundle,
+// or no regular file in it that can be started. Threads: any.
 bool OpenBundle(const std::string& path);
 
 // The executable's name in the text of an Info.plist (XML): the value of the top-level key
