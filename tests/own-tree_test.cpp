@@ -281,7 +281,8 @@ TEST_F(OwnTreeTest, AMoveCanBeKilledAnywhere) {
             }
             TracedRun run;
             run.fault_at = k;
-            end = run.follow(pid);
+            run.follow(pid);
+            end = run.end;
             SCOPED_TRACE("killed at " + std::to_string(k) + (back ? ", back" : ", on"));
             {
                 const AsNobody nobody;

@@ -50,8 +50,8 @@ std::vector<Entry> CommonEntries(const std::string& number) {
             {"Contents/Resources/data.bin", std::string(200000, 'x') + number},
             {"Contents/Resources/\xC3\xA9t\xC3\xA9", "summer"},
             {"Contents/Resources/latest", "", 0777, "data.bin"},
-            {"Contents/private/", "", 0750},
-            {"Contents/private/file", number, 0640},
+            {"Contents/private/", "", 0700},
+            {"Contents/private/file", number, 0600},
             {"Contents/MacOS/"}};
 }
 
@@ -200,6 +200,9 @@ void Installation::install(const std::string& number, Shape shape) {
         } else {
             MakeFile(app(entry.name), entry.content, entry.mode);
         }
+    }
+    if (shape == Shape::Modes) {
+        MakeFile(app("Contents/closed/file"));  // by the client; no package can have it
     }
     std::reverse(entries.begin(), entries.end());  // a folder after what is in it
     for (const Entry& entry : entries) {

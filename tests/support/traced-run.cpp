@@ -7,7 +7,6 @@
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
-#include <sys/uio.h>
 #include <sys/user.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -27,7 +26,7 @@ using Entry = decltype(__ptrace_syscall_info::seccomp);
 
 const unsigned kSeconds = 240;  // which no run takes, not even one that waits for another
 
-enum Kind { Looks, Opens, Controls, Changing, Syncs };
+enum Kind { Looks, Opens, Changing, Syncs };
 
 // A system call, and which of its arguments are the descriptor of a folder or file and the path.
 struct Call {
@@ -51,7 +50,7 @@ const Call kCalls[] = {
     CALL(truncate, Changing, kNo, 0), CALL(chmod, Changing, kNo, 0), CALL(chown, Changing, kNo, 0),
     CALL(lchown, Changing, kNo, 0), CALL(utimensat, Changing, 0, 1),
     // by a folder and a path
-    CALL(openat, Opens, 0, 1), CALL(openat2, Opens, 0, 1), CALL(newfstatat, Looks, 0, 1),
+    CALL(openat, Opens, 0, 1), CALL(openat2, Looks, 0, 1), CALL(newfstatat, Looks, 0, 1),
     CALL(statx, Looks, 0, 1), CALL(faccessat, Looks, 0, 1), CALL(faccessat2, Looks, 0, 1),
     CALL(readlinkat, Looks, 0, 1), CALL(mkdirat, Changing, 0, 1), CALL(unlinkat, Changing, 0, 1),
     CALL(renameat, Changing, 0, 1), CALL(renameat2, Changing, 0, 1), CALL(linkat, Changing, 0, 1),
@@ -61,7 +60,7 @@ const Call kCalls[] = {
     CALL(fstat, Looks, 0, kNo), CALL(fstatfs, Looks, 0, kNo), CALL(getdents64, Looks, 0, kNo),
     CALL(read, Looks, 0, kNo), CALL(pread64, Looks, 0, kNo), CALL(readv, Looks, 0, kNo),
     CALL(preadv, Looks, 0, kNo), CALL(flock, Looks, 0, kNo), CALL(fchdir, Looks, 0, kNo),
-    CALL(fcntl, Controls, 0, kNo), CALL(write, Changing, 0, kNo), CALL(writev, Changing, 0, kNo),
+    CALL(fcntl, Looks, 0, kNo), CALL(write, Changing, 0, kNo), CALL(writev, Changing, 0, kNo),
     CALL(pwrite64, Changing, 0, kNo), CALL(pwritev, Changing, 0, kNo),
     CALL(copy_file_range, Changing, 2, kNo), CALL(sendfile, Changing, 0, kNo),
     CALL(ftruncate, Changing, 0, kNo), CALL(fallocate, Changing, 0, kNo),
@@ -88,14 +87,9 @@ bool IsBelow(const std::string& path, const std::string& folder) {
            (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-// What is no file, or none of the run: a build that counts what is executed writes its counters
-// when the run has ended.
 bool IsFile(const std::string& path) {
-    const auto is_below = [&](const char* folder) { return IsBelow(path, folder); };
-    const std::string counters = ".gcda";
-    return path[0] == '/' && !is_below("/dev") && !is_below("/proc") && !is_below("/sys") &&
-           (path.size() < counters.size() ||
-            path.compare(path.size() - counters.size(), counters.size(), counters) != 0);
+    return path[0] == '/' && !IsBelow(path, "/dev") && !IsBelow(path, "/proc") &&
+           !IsBelow(path, "/sys");
 }
 
 std::string LinkTarget(const std::string& link) {
@@ -104,15 +98,11 @@ std::string LinkTarget(const std::string& link) {
 }
 
 std::string TextAt(pid_t task, unsigned long long address) {
-    const std::size_t page = 4096;
-    std::array<char, page + 1> text{};
-    const std::size_t first = page - address % page;  // nothing may be behind the page
-    const iovec local = {text.data(), page};
-    // NOLINTBEGIN(performance-no-int-to-ptr): it is an address in another process
-    const iovec remote[] = {{reinterpret_cast<void*>(address), first},
-                            {reinterpret_cast<void*>(address + first), page - first}};
-    // NOLINTEND(performance-no-int-to-ptr)
-    process_vm_readv(task, &local, 1, remote, 2, 0);
+    std::array<char, PATH_MAX + 1> text{};
+    const std::string path = "/proc/" + std::to_string(task) + "/mem";
+    const int memory = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    static_cast<void>(pread(memory, text.data(), PATH_MAX, static_cast<off_t>(address)) > 0);
+    close(memory);
     return text.data();
 }
 
@@ -130,12 +120,6 @@ std::string PathOf(pid_t task, const Call& call, const Entry& entry) {
 bool Changes(const Call& call, const Entry& entry) {
     return call.kind == Changing || call.kind == Syncs ||
            (call.kind == Opens && (entry.args[call.path + 1] & (O_CREAT | O_TRUNC)) != 0);
-}
-
-bool IsAboutDescriptor(const Call& call, const Entry& entry) {
-    const auto control = static_cast<int>(entry.args[1]);
-    return call.kind == Controls &&
-           (control == F_GETFD || control == F_SETFD || control == F_GETFL || control == F_SETFL);
 }
 
 class Tracer {
@@ -162,7 +146,8 @@ class Tracer {
             return c.number == static_cast<long>(entry.nr);
         });
         const bool changes = Changes(call, entry);
-        if ((run_.changes_only && !changes) || IsAboutDescriptor(call, entry)) {
+        const bool is_about_descriptor = entry.nr == SYS_fcntl && entry.args[1] <= F_SETFL;
+        if ((run_.changes_only && !changes) || is_about_descriptor) {
             return;
         }
         const std::string path = PathOf(task, call, entry);
@@ -223,7 +208,7 @@ void BeTraced() {
     }
 }
 
-int TracedRun::follow(pid_t pid) {
+void TracedRun::follow(pid_t pid) {
     int status = 0;
     if (waitpid(pid, &status, __WALL) != pid || !WIFSTOPPED(status)) {
         throw std::runtime_error("the process can't be traced");
@@ -245,5 +230,5 @@ int TracedRun::follow(pid_t pid) {
         }
     }
     alarm(0);
-    return ends.at(pid);
+    end = ends[pid];
 }

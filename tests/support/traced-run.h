@@ -37,9 +37,10 @@ struct TracedRun {
     std::string struck;  // the call at which it happened, and its path
     bool struck_a_change = false;
     std::map<pid_t, int> ends;  // of all children: the exit code, or 1000 plus the signal
+    int end = -1;               // of the process
 
-    // Returns how it ended; a run of four minutes is killed.
-    int follow(pid_t pid);  // one that called BeTraced()
+    // Follows one that called BeTraced(). After four minutes it is killed.
+    void follow(pid_t pid);
 };
 
 // For the child, before it becomes the program that is to be followed.

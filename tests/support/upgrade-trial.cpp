@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const int kMostShown = 5;
+const int kMostShown = 5;  // of a row's failures
 
 bool IsTree(const std::string& path, const FileTree& tree) {
     return fs::is_directory(fs::symlink_status(path)) && Tree(path, true) == tree;
@@ -25,34 +25,34 @@ std::string Scene::name() const {
     const char* const shapes[] = {"plain", "modes",        "links",    "single",
                                   "many",  "client first", "no client"};
     const char* const arounds[] = {"", " and leftover", " on overlay"};
-    const char* const cuts[] = {"", " cut after", " cut before"};
+    const char* const damages[] = {"", " cut after", " cut before", ""};
     return (has_old ? shapes[static_cast<int>(old)] : std::string("nothing")) + arounds[around] +
-           " to " + shapes[static_cast<int>(package)] + cuts[cut];
+           " to " + shapes[static_cast<int>(package)] + damages[damage];
 }
 
 UpgradeTrial::UpgradeTrial(const Scene& of, bool run_as_user, bool on_small_disk)
     : scene(of), as_user(run_as_user) {
     prctl(PR_SET_CHILD_SUBREAPER, 1);  // to wait for the clients that the launcher leaves
-    if (on_small_disk) {
-        disk_ = std::make_unique<SmallDisk>(in.home(), "1m");
-    } else if (scene.around == Scene::OnOverlay) {
-        disk_ = std::make_unique<SmallDisk>(in.home() + "/layers", "8m");
+    if (geteuid() == 0) {  // a disk in memory, which is put on no disk by whoever syncs it
+        disk_ = std::make_unique<SmallDisk>(in.home(), on_small_disk ? "1m" : "64m");
     }
+    possible_ = (disk_ != nullptr && disk_->mounted()) ||
+                (!on_small_disk && scene.around != Scene::OnOverlay);
 }
 
 UpgradeTrial::~UpgradeTrial() {
     umount2(in.user().c_str(), MNT_DETACH);
 }
 
-void UpgradeTrial::setPackage(int build, Scene::Cut cut) {
+void UpgradeTrial::setPackage(int build, Scene::Damage damage) {
     const std::string number = std::to_string(build);
     const char* const whole = scene.package == Shape::Plain ? "zip" : "tar.zst";
-    in.setBuild(number, cut == Scene::Whole ? whole : "tar", scene.package);
+    in.setBuild(number, damage == Scene::Whole ? whole : "tar", scene.package);
     new_app = in.expectedApp(number, scene.package, true);
-    if (cut != Scene::Whole && scene.package != Shape::NoClient) {
+    if (damage == Scene::CutAfter || damage == Scene::CutBefore) {
         const char* const last =
             scene.package == Shape::Modes ? "Contents/closed/" : "Contents/Resources/data.bin";
-        const char* const at = cut == Scene::CutBefore ? "Contents/MacOS/tarnwell-ui" : last;
+        const char* const at = damage == Scene::CutBefore ? "Contents/MacOS/tarnwell-ui" : last;
         fs::resize_file(in.package(), ReadFile(in.package()).find(at, 0, strlen(at) + 1) + 100);
     }
 }
@@ -65,7 +65,7 @@ void UpgradeTrial::arrange() {
     }
     MakeFile(sentinel_ + "/file");
     MakeFolder(in.user("log"));
-    setPackage(100, scene.cut);
+    setPackage(100, scene.damage);
     if (scene.has_old) {
         in.install("99", scene.old);
         old_app = Tree(in.app(), true);
@@ -83,11 +83,11 @@ void UpgradeTrial::arrange() {
 }
 
 void UpgradeTrial::mountOverlay() {
-    const std::string layers = in.home() + "/layers/overlay";
+    const std::string layers = in.home() + "/layers";
     RemoveTree(layers);
     MakeFolder(layers);
     CopyTree(in.user(), layers + "/lower");
-    CopyTree(in.user("log"), layers + "/upper");
+    CopyTree(in.user("log"), layers + "/upper");  // an empty folder of the same user
     MakeFolder(layers + "/work");
     const std::string options = "lowerdir=" + layers + "/lower,upperdir=" + layers +
                                 "/upper,workdir=" + layers + "/work,redirect_dir=off";
@@ -96,10 +96,10 @@ void UpgradeTrial::mountOverlay() {
     }
 }
 
-int UpgradeTrial::follow(TracedRun& run) {
-    const int end = run.follow(in.start(BeTraced));
-    doing += " at " + run.struck;
-    return end;
+TracedRun UpgradeTrial::follow(TracedRun run) {
+    run.follow(in.start(BeTraced));
+    doing += run.struck.empty() ? "" : " at " + run.struck;
+    return run;
 }
 
 int UpgradeTrial::runUndisturbed() {
@@ -111,7 +111,8 @@ int UpgradeTrial::runUndisturbed() {
 
 std::set<std::string> UpgradeTrial::names() const {
     std::set<std::string> names;
-    for (const auto& entry : fs::directory_iterator(in.user())) {
+    std::error_code none;
+    for (const auto& entry : fs::directory_iterator(in.user(), none)) {
         names.insert(entry.path().filename());
     }
     return names;
@@ -127,8 +128,7 @@ bool UpgradeTrial::isWhole(const FileTree& app) const {
     if (there.count("Tarnwell.app") == 0 || there.count("Tarnwell.app_part") == 0) {
         return false;
     }
-    FileTree parts =
-        Tree(in.user("Tarnwell.app_part"));  // whose folders get their modes at the end
+    FileTree parts = Tree(in.user("Tarnwell.app_part"));  // modes of folders come at the end
     parts.merge(Tree(in.app()));
     return std::all_of(app.begin(), app.end(), [&](const auto& entry) {
         const auto part = parts.find(entry.first);
@@ -165,8 +165,8 @@ void UpgradeTrial::checkEnd(bool is_new) {
 
 void UpgradeTrial::recover() {
     check(!scene.has_old || isWhole(old_app) || isWhole(new_app), "nothing whole is left");
-    const bool is_new = scene.cut == Scene::Whole || !scene.has_old;
-    if (scene.cut != Scene::Whole && is_new) {
+    const bool is_new = scene.damage == Scene::Whole || !scene.has_old;
+    if (scene.damage != Scene::Whole && is_new) {
         setPackage(101);
     }
     check(runUndisturbed() == 0, "exit code of the next run");

@@ -10,15 +10,15 @@
 
 // What an upgrade begins with.
 struct Scene {
-    // A package that is whole, or that was cut off after the client or before it.
-    enum Cut { Whole, CutAfter, CutBefore };
-    // Besides the old application: nothing; a folder in the first backup's place; or that and an
-    // overlay, whose lower layer the application came with, so that no folder of it can be renamed.
+    // The package is whole, was cut off after the client or before it, or has no client.
+    enum Damage { Whole, CutAfter, CutBefore, Lacking };
+    // Besides the old application there is nothing, or a folder in the first backup's place. Or
+    // both are the lower layer of an overlay, so that no folder of the application can be renamed.
     enum Around { Nothing, Leftover, OnOverlay };
 
-    int level;  // the lower it is, the more faults are tried
+    int level;  // the lower it is, the more kinds of faults are tried
     Shape package;
-    Cut cut;
+    Damage damage;
     bool has_old;
     Shape old;
     Around around;
@@ -29,28 +29,27 @@ struct Scene {
 // An upgrade that something happens to. It is judged by what is on the disk and by the next run.
 class UpgradeTrial {
   public:
-    // The launcher is run by a user who isn't root, or by the one that we are. With a small disk
-    // the home folder has room for little more than the upgrade.
+    // The launcher runs as an ordinary user, or as whoever runs the test. A small disk has room for
+    // little more than the upgrade.
     UpgradeTrial(const Scene& scene, bool as_user, bool on_small_disk);
     ~UpgradeTrial();
 
-    bool possible() const { return disk_ == nullptr || disk_->mounted(); }  // for us
+    bool possible() const { return possible_; }  // for whoever runs the test
     void arrange();
-    void setPackage(int build, Scene::Cut cut = Scene::Whole);
+    void setPackage(int build, Scene::Damage damage = Scene::Whole);
 
-    // Return how a run ended: its exit code, or 1000 plus the signal.
-    int follow(TracedRun& run);
-    int runUndisturbed();
+    TracedRun follow(TracedRun run);
+    int runUndisturbed();  // returns the exit code, or 1000 plus the signal
 
-    void check(bool good, const std::string& what);
     // Whether an application is there: in its place, aside, or in two parts.
     bool isWhole(const FileTree& app) const;
-    // The old one or the new one, unless there was none.
+    void check(bool good, const std::string& what);
+    // Checks that the old or the new application is in its place, unless there was none.
     void checkInPlace();
-    // The right one is in its place, and nothing else is left.
+    // Checks that the right application is in its place and that nothing else is left.
     void checkEnd(bool is_new);
-    // Nothing is lost, and the next run comes to the right end. What has never worked gets a good
-    // package for that.
+    // Checks that nothing is lost and that the next run ends well. After a first installation from
+    // a damaged package that run has a whole one.
     void recover();
 
     const Scene scene;
@@ -70,6 +69,7 @@ class UpgradeTrial {
 
     const std::string sentinel_ = in.home() + "/sentinel";
     std::unique_ptr<SmallDisk> disk_;
+    bool possible_ = false;
     std::set<std::string> old_names_;
     int shown_ = 0;
 };
