@@ -1,8 +1,8 @@
 #ifndef LIB_INSTALL_LAYOUT_H
 #define LIB_INSTALL_LAYOUT_H
 
-// The names of what is installed, relative to the folder that the comment names. They are spelled
-// here only.
+// The names of what is installed, relative to the folder that each comment names. They are spelled
+// nowhere else.
 namespace install_layout {
 
 constexpr char kUserFolder[] = ".Tarnwell";  // in the home folder

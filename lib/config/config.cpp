@@ -96,7 +96,7 @@ int Config::read(const ustring& path, const char* inside) {
     }
     std::string text;
     if (!platform::ReadUpTo(file.get(), kMaxSize, text)) {
-        // What could be read counts, except for the line that the failure has cut off.
+        // Keep what was read, except for the line that the failure cut off.
         const std::size_t last_line = text.rfind('\n') + 1;
         text.resize(text.size() - (text.size() - last_line) % kMaxLine);
     }

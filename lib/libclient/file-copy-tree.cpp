@@ -22,8 +22,8 @@ namespace {
 const int kFolderToPass = platform::kOpenToPass | O_DIRECTORY | O_CLOEXEC;
 const std::size_t kCopyBatch = 32;  // files that are forced to the disk together
 
-// Copies files as FSCopy does, but forces them to the disk a batch at a time, which takes far less
-// time than one by one. When sync() returns, every file is there or its failure has been reported.
+// Copies files as FSCopy does, but forces them to the disk in batches. When sync() returns, every
+// file is on the disk or its failure has been reported.
 class CopyBatch {
   public:
     CopyBatch() = default;
@@ -31,7 +31,7 @@ class CopyBatch {
     CopyBatch(const CopyBatch&) = delete;
     CopyBatch& operator=(const CopyBatch&) = delete;
 
-    // Returns also what sync() does.
+    // Returns 0, or FSCopy's result for this file or for another one of the batch.
     int copy(const Place& src, const Place& dst) {
         Descriptor destination(-1);
         const int result = file_op::CopyContent(src, dst, destination);
@@ -42,7 +42,7 @@ class CopyBatch {
         return result == 0 && copied_.size() >= kCopyBatch ? sync() : result;
     }
 
-    // Returns 0, or FSCopy's result.
+    // Returns 0, or FSCopy's result for the first file that failed.
     int sync() {
         int result = 0;
         for (Descriptor& file : copied_) {
@@ -60,10 +60,10 @@ bool IsSame(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-enum Answer { No, Yes, CannotTell };  // with errno set
+enum Answer { No, Yes, CannotTell };  // the last with errno set
 
-// Opens the deepest folder that exists already on the way to path. FSMKDir makes folders of what is
-// missing, so a ".." after it leads back.
+// Opens the deepest folder on the way to path that exists. FSMKDir would create the missing ones,
+// so a ".." after one of them leads back.
 Descriptor OpenExisting(const std::string& path) {
     Descriptor folder(open(path[0] == '/' ? "/" : ".", kFolderToPass));
     std::istringstream names(path);
@@ -86,7 +86,7 @@ Descriptor OpenExisting(const std::string& path) {
     return folder;
 }
 
-// Whether an open folder is the one described, or lies in it.
+// Whether an open folder is the one that outer describes, or is inside it.
 Answer LiesIn(Descriptor folder, const struct stat& outer) {
     struct stat status;
     if (fstat(folder.get(), &status) != 0) {
@@ -105,7 +105,7 @@ Answer LiesIn(Descriptor folder, const struct stat& outer) {
     return Yes;
 }
 
-// One run of FSCopyTree. The two chains are at the same level between the steps.
+// One run of FSCopyTree. Between two steps both chains are at the same level.
 class TreeCopy : private file_op::Walk {
   public:
     explicit TreeCopy(FSCopyListener& listener) : listener_(listener) {}
@@ -129,7 +129,7 @@ class TreeCopy : private file_op::Walk {
                fail(entry.name);
     }
 
-    // A listing that has broken off is copied as far as it goes.
+    // When the listing failed before its end, the entries listed so far have been copied.
     bool finish(bool listed) override {
         if (!listed) {
             file_op::FailReadDir(chain_.path().c_str());
@@ -171,7 +171,7 @@ class TreeCopy : private file_op::Walk {
         return inside == No;
     }
 
-    // Makes a folder and its copy, of which made is FSMKDir's result, the current ones.
+    // Makes src and its copy dst the current folders. made is FSMKDir's result for dst.
     bool enter(const Place& src, const Place& dst, int made) {
         if (made < 0 || !enterCopy(dst)) {
             listener_.onNoFolder(dst.path().c_str());
@@ -193,8 +193,7 @@ class TreeCopy : private file_op::Walk {
         return entered;
     }
 
-    // Opening a pipe could wait for ever, so the type is checked first, for a link that of its
-    // target.
+    // Opening a pipe could block for ever, so the type is checked first: for a link, the target's.
     bool copyFile(const Place& src, const Place& dst, std::int32_t type) {
         struct stat status;
         if (type == FILE_TYPE_LNK && fstatat(src.folder, src.name, &status, 0) == 0) {
@@ -207,8 +206,8 @@ class TreeCopy : private file_op::Walk {
         return batch_.copy(src, dst) == 0;
     }
 
-    // Reports that an entry of the current folder isn't copied, and so each folder above it on the
-    // way out of the walk.
+    // Reports that an entry of the current folder wasn't copied, then the same of each folder above
+    // it, and leaves them all.
     bool fail(std::string name) {
         for (;;) {
             listener_.onFailure(chain_.at(name.c_str()).path().c_str(),

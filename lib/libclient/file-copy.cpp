@@ -71,12 +71,12 @@ int CopyBytes(int from, int to) {
             return result;
         }
         if (size == kCopySize) {
-            platform::StartWriting(to);  // goes on while the next chunk is read
+            platform::StartWriting(to);  // continues while the next chunk is read
         }
     }
 }
 
-// Empties a destination that was opened, unless it is the source itself; false with errno set.
+// Empties an open destination, unless it is the source itself; false with errno set.
 bool Truncate(int destination, int source) {
     struct stat to;
     struct stat from;

@@ -160,7 +160,7 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
         return -1;
     }
     info.type = type;
-    FSGetRealPath(info.path);  // without it the path stays as it was passed in
+    FSGetRealPath(info.path);  // if this fails, the path stays as it was passed in
     return 0;
 }
 

@@ -15,14 +15,13 @@ using file_op::Place;
 
 namespace {
 
-// What a rename that the system refused with errno means to FSRename's caller; 0: copy and delete
-// instead.
+// FSRename's result for a rename that failed with errno; 0 means: copy and delete instead.
 int RenameRefused() {
     return errno == EXDEV ? 0 : errno == ENAMETOOLONG ? -100 : -3;
 }
 
-// Moves a folder's entries into another folder on another volume and deletes it then. The two
-// chains are at the same level between the steps.
+// Moves a folder's entries into a folder on another volume, then deletes the folder. Between two
+// steps both chains are at the same level.
 class MoveWalk : private file_op::Walk {
   public:
     MoveWalk(const ustring& src, const ustring& dst, bool exact)
@@ -58,7 +57,7 @@ class MoveWalk : private file_op::Walk {
         return file_op::MakeFolder(dst) == 0 && to_.enter(dst) && chain_.enter(src);
     }
 
-    // A folder of which a broken off listing has left something isn't empty and so isn't deleted.
+    // If the listing failed before its end, what it missed keeps the folder from being deleted.
     bool finish(bool) override {
         if (!chain_.leave() || !to_.leave()) {
             return false;

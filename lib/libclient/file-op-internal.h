@@ -11,22 +11,22 @@
 #include "lib/platform/handles.h"
 #include "ustring/ustring.h"
 
-// What the sources of the file operations share; nobody else includes it.
+// Shared by the sources of the file operations, and included by them only.
 namespace file_op {
 
-inline const ustring log_component("file_op_debug");  // theirs all
+inline const ustring log_component("file_op_debug");
 
 // file-info.cpp
 
-std::int32_t TypeOfMode(mode_t mode);  // unknown for a type that is none of ours
+std::int32_t TypeOfMode(mode_t mode);  // FILE_TYPE_UNKNOWN for a type without a code
 std::int32_t TypeOfEntry(const dirent& entry);
 
-// The type of the object itself, as its folder's listing says or else the system; unknown, with
-// errno set, when that doesn't say either.
+// Returns the listed type, unless that is unknown, or else the type that the system reports for the
+// object itself, not for a link's target. FILE_TYPE_UNKNOWN, with errno set, when that fails too.
 std::int32_t TypeAt(const Place& place, std::int32_t listed = FILE_TYPE_UNKNOWN);
 
-// Logs what looking up objects by their paths would log. The walks name objects relative to open
-// folders, and compute nothing for the log unless these lines are written.
+// Logs for a walk, which names objects relative to open folders, the lines that looking the objects
+// up by their paths would log. Does nothing unless these lines are written: they are expensive.
 class LookUpLog {
   public:
     LookUpLog();
@@ -39,12 +39,12 @@ class LookUpLog {
 
 // file-copy.cpp
 
-// FSCopy.
+// FSCopy of an object that is named relative to an open folder.
 int CopyFile(const Place& src, const Place& dst, bool remove_src);
 
-// The two halves of FSCopy, with its results: copies the bytes, and forces them to the disk unless
-// result says that the copy has failed already. The destination is open in between, if it could be
-// opened.
+// The two halves of FSCopy, with its results. CopyContent copies the bytes and leaves the
+// destination open, if it could be opened. FinishCopy forces it to the disk and closes it; result
+// is that of CopyContent, and is returned if it is a failure.
 int CopyContent(const Place& src, const Place& dst, platform::Descriptor& destination);
 int FinishCopy(platform::Descriptor& destination, int result);
 

@@ -14,7 +14,7 @@ using file_op::Place;
 
 namespace {
 
-// Deletes an object, or finds it gone; false with errno set.
+// Deletes an object. One that doesn't exist is a success; false with errno set.
 bool RemoveAt(const Place& place, int flags) {
     return unlinkat(place.folder, place.name, flags) == 0 || errno == ENOENT;
 }
@@ -23,7 +23,7 @@ class RemoveWalk : private file_op::Walk {
   public:
     explicit RemoveWalk(const ustring& path) : root_(path) {}
 
-    // A folder that can't be opened is passed over, the root too.
+    // A folder that can't be opened is skipped, the root too.
     bool remove() { return !chain_.enter(root_) || run(); }
 
   private:
@@ -37,7 +37,7 @@ class RemoveWalk : private file_op::Walk {
         return RemoveAt(place, 0);
     }
 
-    // A folder of which a broken off listing has left something isn't empty and so isn't deleted.
+    // If the listing failed before its end, what it missed keeps the folder from being deleted.
     bool finish(bool) override {
         if (!chain_.leave()) {
             return false;
@@ -50,7 +50,7 @@ class RemoveWalk : private file_op::Walk {
     const file_op::LookUpLog look_ups_;
 };
 
-// FSRemoveOwnTree of a folder. What can't be removed is left, and the walk goes on.
+// FSRemoveOwnTree of a folder. The walk continues after what can't be removed.
 class RemoveOwnWalk : private file_op::Walk {
   public:
     explicit RemoveOwnWalk(const ustring& path) : Walk(FolderChain::Own), root_(path) {}
@@ -73,8 +73,8 @@ class RemoveOwnWalk : private file_op::Walk {
         return true;
     }
 
-    // Enters or deletes an entry; false with errno set. Of the folders that can't be entered, an
-    // empty one of another user can be deleted.
+    // Enters or deletes an entry; false with errno set. A folder of another user may be impossible
+    // to enter, but can be deleted when it is empty.
     bool dealWith(const Place& place, std::int32_t listed) {
         switch (file_op::TypeAt(place, listed)) {
             case FILE_TYPE_DIR:
@@ -122,7 +122,7 @@ int FSRemove(const ustring& path, bool) {
 
 int FSRemoveOwnTree(const ustring& path) {
     ustring object(path);
-    object.rtrim("/");  // after a link it would stand for the link's target
+    object.rtrim("/");  // with a "/" after it, a link's name means its target
     _FILE_INFO_tag info;
     if (object.empty() || GetFileInfo(object, info) != 0) {
         return -1;

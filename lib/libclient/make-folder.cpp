@@ -18,15 +18,16 @@ using platform::Descriptor;
 
 namespace {
 
-const std::uint32_t kUnchanged = 0xFFFFFFFF;  // what chown reads as "leave it"
+const std::uint32_t kUnchanged = 0xFFFFFFFF;  // chown leaves such an owner or group unchanged
 const std::uint16_t kDefaultMode = 0xFFFF;
-// Of a path that is made. With whole paths the system would walk the same folders again and again.
+// After so many elements, names become relative to the folder reached: at each call the system
+// walks every element of the name that it is given.
 const int kElementsPerName = 32;
 
 std::uint32_t uid = kUnchanged;
 std::uint32_t gid = kUnchanged;
 
-// A folder that can't be handed over is made all the same.
+// A failure is ignored: the folder exists all the same.
 void HandOver(const Place& folder, uid_t owner, gid_t group) {
     [[maybe_unused]] const int ignored = fchownat(folder.folder, folder.name, owner, group, 0);
 }
@@ -42,7 +43,7 @@ int RefuseUnexamined(const char* path) {
     return -1;
 }
 
-// Sets the umask to 0 for as long as it lives.
+// Sets the umask to 0 while it exists, if active.
 class NoUmask {
   public:
     explicit NoUmask(bool active) : active_(active), saved_(active ? umask(0) : 0) {}
@@ -59,7 +60,7 @@ class NoUmask {
     const mode_t saved_;
 };
 
-// Makes sure that one folder on FSMKDirP's way exists; -1 with errno set.
+// Makes sure that one folder of FSMKDirP's path exists; -1 with errno set.
 int EnsureFolder(const Place& place, bool last, bool force, mode_t mode) {
     struct stat status;
     if (fstatat(place.folder, place.name, &status, 0) == 0) {
@@ -83,7 +84,7 @@ int EnsureFolder(const Place& place, bool last, bool force, mode_t mode) {
     return 0;
 }
 
-// Opens the folder that the next ones are named from; without it, they keep their longer names.
+// Opens the folder that the next names are relative to. If that fails, the names stay longer.
 bool MoveTo(const Place& place, Descriptor& base) {
     const int fd =
         openat(place.folder, place.name, platform::kOpenToPass | O_DIRECTORY | O_CLOEXEC);
@@ -147,8 +148,8 @@ int FSMKDirP(const ustring& path, char** end_out, bool force, std::uint16_t mode
     std::string text(path.c_str());
     const bool exact_mode = mode != kDefaultMode;
     const NoUmask no_umask(exact_mode);
-    Descriptor base(-1);    // the folder from which the next ones are named, once there is one
-    std::size_t start = 0;  // where the names from there begin
+    Descriptor base(-1);    // the folder that names are relative to, once there is one
+    std::size_t start = 0;  // where these names begin
     std::size_t end = 0;
     int elements = 0;
     int result = 0;

@@ -134,7 +134,7 @@ bool FolderChain::open(const Place& place, int flags, Level& level) const {
     return true;
 }
 
-// Unlocks and opens a folder of which errno says that its owner may not open it.
+// Unlocks and opens a folder, if errno says that its owner has no permission to open it.
 bool FolderChain::openLocked(const Place& place, Level& level) const {
     struct stat status;
     if (rights_ == Anyones || !IsNoPermission() ||
@@ -163,7 +163,7 @@ bool FolderChain::isOnVolume(const Level& level) {
     return volume == volume_;
 }
 
-// Opens the current folder again, through ".." of the one left, which takes the right to search it.
+// Reopens the current folder through ".." of the one left, which needs permission to search that.
 bool FolderChain::reopenHolder(Level& left) {
     Level& holder = levels_.back();
     Level reopened;

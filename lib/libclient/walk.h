@@ -20,8 +20,8 @@
 // in a folder's place would be followed. One object belongs to one thread.
 namespace file_op {
 
-// An object named relative to an open folder. folder_path is for messages; without it the name is
-// a path of its own.
+// An object named relative to an open folder. folder_path is for messages; null when name is the
+// whole path.
 struct Place {
     int folder;
     const char* name;
@@ -36,12 +36,12 @@ struct Place {
     std::string path() const { return folder_path ? *folder_path + "/" + name : name; }
 };
 
-bool IsNoPermission();  // whether errno says so
+bool IsNoPermission();  // whether errno is EACCES or EPERM
 
 // Reads the next entry of a stream: 1 and the entry, 0 at the end, -1 with errno set.
 int ReadEntry(DIR* stream, const dirent*& entry);
 
-// These log errno, for a folder that can't be opened or read, and return -1.
+// Log errno for a folder that can't be opened or read. Return -1.
 int FailOpenDir(const char* path);
 int FailReadDir(const char* path);
 
@@ -58,11 +58,11 @@ class FolderChain {
   public:
     enum Use {
         List,
-        Pass  // objects in the folders are named, which takes no right to read them
+        Pass  // only name objects in the folders, which needs no permission to read them
     };
 
-    // Whose the folders are. In a tree of this user, one that its owner may not open is unlocked,
-    // and one on another volume than the first isn't entered (EXDEV).
+    // Who owns the folders. In a tree of this user (all but Anyones), a folder that its owner may
+    // not open is unlocked, and one on another volume than the first isn't entered (EXDEV).
     enum Rights {
         Anyones,
         Own,
@@ -71,35 +71,35 @@ class FolderChain {
 
     explicit FolderChain(Use use = List, Rights rights = Anyones) : use_(use), rights_(rights) {}
 
-    // Makes the folder at place the current one; a link isn't followed. On failure, with errno set,
+    // Makes the folder at place the current one; a link isn't followed. On failure errno is set and
     // the current folder stays.
     bool enter(const Place& place);
 
-    // Back to the folder that holds the current one, or out of the walk. Returns false, with errno
-    // set, when that folder can't be opened again or the one left doesn't get its mode back.
+    // Returns to the parent of the current folder, or ends the walk. Returns false, with errno set,
+    // when the parent can't be reopened or the mode of the folder left can't be restored.
     bool leave();
 
-    // Gives the owner of the current folder all rights to it. Returns whether that has changed
-    // anything; nothing is changed in a tree that may be anyone's.
+    // Gives the owner of the current folder all rights to it, unless the tree may be anyone's.
+    // Returns whether that changed anything.
     bool unlock();
 
-    // The permissions of the current folder as it was entered, or as they were set for lock() and
-    // leave() to give back.
+    // The permissions that lockHolder() and leave() restore for the current folder: those that it
+    // was entered with, unless setMode() replaced them.
     mode_t mode() const { return levels_.back().mode; }
     void setMode(mode_t mode) { levels_.back().mode = mode; }
 
-    // Gives the folder that holds the current one its mode back; false with errno set.
+    // Restores the permissions of the current folder's parent; false with errno set.
     bool lockHolder();
 
     // The next entry of the current folder, without "." and "..": 1 and the entry, 0 at the end, -1
-    // with errno set when the listing has broken off. The first call reads the whole listing, so
-    // that what is done with the entries can neither hide one nor add one.
+    // with errno set when the listing failed before its end. The first call reads the whole
+    // listing, so that removing or moving entries can neither hide one nor return one twice.
     int read(Entry& entry);
 
     bool empty() const { return levels_.empty(); }
     const std::string& path() const { return path_; }
     Place at(const char* name) const { return Place(levels_.back().fd(), name, path_); }
-    const std::string& name_left() const { return name_left_; }  // of the folder left last
+    const std::string& name_left() const { return name_left_; }  // of the last folder left
 
   private:
     struct Level {
@@ -107,15 +107,15 @@ class FolderChain {
         platform::DirStream stream;       // from then on
         dev_t device = 0;
         ino_t inode = 0;
-        mode_t mode = 0;            // the permissions to give back
-        mode_t mode_now = 0;        // those it has
-        std::string name;           // in the folder that holds it
-        std::size_t path_size = 0;  // of that folder's path
+        mode_t mode = 0;            // the permissions to restore
+        mode_t mode_now = 0;        // the present ones
+        std::string name;           // in the parent
+        std::size_t path_size = 0;  // of the parent's path
 
         bool listed = false;
-        std::vector<char> entries;  // of each its type, its name and a NUL
-        std::size_t next = 0;       // the position of the entry to be read
-        int error = 0;              // what broke the listing off
+        std::vector<char> entries;  // for each its type, its name and a NUL
+        std::size_t next = 0;       // position of the entry to read next
+        int error = 0;              // that ended the listing early
 
         int fd() const { return stream != nullptr ? dirfd(stream.get()) : folder.get(); }
         bool change(mode_t new_mode);
@@ -137,7 +137,7 @@ class FolderChain {
     std::string name_left_;
 };
 
-// The one loop of all walks. A walk enters its root in its own way before run().
+// The loop that all walks share. A derived walk enters its root before it calls run().
 class Walk {
   public:
     explicit Walk(FolderChain::Rights rights = FolderChain::Anyones)
@@ -147,17 +147,17 @@ class Walk {
     Walk& operator=(const Walk&) = delete;
 
   protected:
-    // Deals with all entries, until the chain is empty or a step fails, which ends the walk.
+    // Handles all entries. Returns true when the chain is empty, false as soon as a step fails.
     bool run();
 
-    // Deals with an entry of the current folder. A folder that it enters comes next.
+    // Handles one entry of the current folder. If it enters a folder, that folder's entries follow.
     virtual bool take(const Entry& entry) = 0;
 
-    // Leaves the current folder when all of its entries were dealt with. Unless listed, its listing
-    // has broken off, with errno set, and there may be more.
+    // Leaves the current folder after its last entry. Unless listed, the listing failed before its
+    // end, with errno set, and there may be more entries.
     virtual bool finish(bool listed) = 0;
 
-    // The folder that finish() has left, below the current one; root is the walk's own.
+    // The folder that finish() just left, below the current one; root is the walk's own.
     Place left(const Place& root) const {
         return chain_.empty() ? root : chain_.at(chain_.name_left().c_str());
     }

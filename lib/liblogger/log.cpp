@@ -11,9 +11,9 @@
 namespace {
 
 const int kDefaultThreshold = Logger::LEVEL_WARNING;
-const int kRotateSize = 1024 * 1024;  // a file is rotated when it holds more, in bytes
+const int kRotateSize = 1024 * 1024;  // bytes; the file is rotated when this process wrote more
 
-// Holds the log's mutex and keeps the thread from being cancelled meanwhile.
+// Holds the log's mutex. The thread can't be cancelled meanwhile.
 class LogLock {
   public:
     explicit LogLock(pthread_mutex_t& mutex) : mutex_(mutex) {
@@ -32,8 +32,8 @@ class LogLock {
     int cancel_state_ = PTHREAD_CANCEL_ENABLE;
 };
 
-// The local time in front of a message. To put it together takes as long as the rest of the line,
-// so the text is kept for as long as it is true: a second.
+// The local time in front of a message. Formatting it takes as long as the rest of the line, so the
+// text is reused within the same second.
 class Stamp {
   public:
     std::string_view at(std::time_t now) {
@@ -52,7 +52,7 @@ class Stamp {
     char text_[512];
 };
 
-Stamp stamp;  // under the log's mutex
+Stamp stamp;  // guarded by the log's mutex
 
 class RotatedName {
   public:
@@ -166,7 +166,7 @@ bool Logger::IsWritten(Level level, const ustring& component) {
     return (threshold != nullptr ? *threshold : kDefaultThreshold) >= level;
 }
 
-// Writes to the destination of the moment and rotates a log file that has grown too large. The
+// Writes to the current destination, and rotates the log file when it has grown too large. The
 // caller holds the lock.
 void Logger::Write(const char* fmt, va_list args) {
     switch (log_type) {
@@ -186,7 +186,7 @@ void Logger::Write(const char* fmt, va_list args) {
     if (log_type == TYPE_FILE && log_size >= 0 && written >= 0) {
         log_size += written;
         if (log_size > kRotateSize) {
-            Rotate();  // when it fails there is no stream, and the later messages are dropped
+            Rotate();  // if that fails there is no stream, and later messages are dropped
             log_size = 0;
         }
     }
@@ -201,8 +201,8 @@ int Logger::WriteStamped(std::FILE* stream, const char* fmt, va_list args) {
     return !stamped || message_bytes < 0 ? -1 : static_cast<int>(time.size()) + message_bytes;
 }
 
-// The stream is exchanged in one step, so that a thread that only looks whether there is one never
-// sees it missing in between.
+// The stream is replaced in one step, because IsWritten() looks at it without the lock and must not
+// see it missing in between.
 int Logger::Rotate() {
     for (int i = rotate_cnt - 2; i >= 0; --i) {
         static_cast<void>(

@@ -13,13 +13,13 @@
 
 // The process-wide log. A message is written when the threshold of its component is at least its
 // level; thresholds are 4 (errors and warnings) unless the level file says otherwise. The logger
-// puts a local time stamp in front and adds nothing else: level tag, source, line and the newline
-// belong to the caller's format, which is what LOG_MSG is for.
+// puts a local time stamp in front and adds nothing else: level, source, line number and newline
+// come from the caller's format; LOG_MSG supplies the first three.
 //
 // Before Initialize() the messages go to standard error. Paths are UTF-8.
 //
 // Threads: LogMsg, LogMsg2 and LogMSG_c may be called from any thread; one mutex keeps the lines
-// whole. Initialize() and Destroy() must not run beside any other operation.
+// whole. Initialize() and Destroy() must not run at the same time as any other operation.
 class Logger {
   public:
     enum Type : int { TYPE_SYSLOG = 1, TYPE_STDOUT = 2, TYPE_STDERR = 3, TYPE_FILE = 4 };
@@ -33,16 +33,17 @@ class Logger {
         LEVEL_DEBUG = 7
     };
 
-    // Sets the destination and takes the thresholds from the key=value file at level_config_path,
-    // component=threshold; a missing or malformed file changes none. With TYPE_FILE the messages
-    // are appended to log_path, which is rotated when this process has written more than 1 MiB to
-    // it; rotate_cnt is the number of files kept, the live one included.
+    // Sets the destination, and the thresholds to those in the file at level_config_path, which has
+    // lines component=threshold; a missing or malformed file changes none. With TYPE_FILE the
+    // messages are appended to log_path, which is rotated when this process has written more than
+    // 1 MiB to it. Then rotate_cnt files are kept, at least two: log_path and older ones with the
+    // suffixes _0 to _(rotate_cnt - 2).
     // Returns 0, or -1 when log_path is empty or can't be opened; the messages then stay on the
     // stream that they went to before.
     static int Initialize(Type type, const ustring& log_path, const ustring& level_config_path,
                           int rotate_cnt);
 
-    // Closes the log file, if there is one; the messages then go to standard output.
+    // Closes the log file, if one is open; the messages then go to standard output.
     static void Destroy();
 
     static void LogMsg(Level level, const ustring& component, const char* fmt, ...)
@@ -51,8 +52,8 @@ class Logger {
     static void LogMsg2(Level level, const ustring& component, const char* fmt, va_list args)
         __attribute__((format(printf, 3, 0)));
 
-    // Whether a message of this level and component is written at present, for callers to whom it
-    // is expensive to make. Threads: as LogMsg.
+    // Whether a message of this level and component would be written now, for callers whose
+    // messages are expensive to compose. Threads: as LogMsg.
     static bool IsWritten(Level level, const ustring& component);
 
   private:
@@ -68,8 +69,8 @@ class Logger {
     static int log_size;  // bytes written since the file was opened or rotated; -1: not tracked
     static int rotate_cnt;
     static ustring log_path;
-    // Components and their thresholds, in no order. An ordered map would give the same answers; to
-    // compare with the few names one after the other is faster, as most differ in their length.
+    // Components and their thresholds, in no order. A linear search is faster than a map here:
+    // there are few names, and most differ in their length.
     static std::vector<std::pair<ustring, int>> log_level;
     static pthread_mutex_t log_lock;
 };
@@ -79,8 +80,8 @@ void LogMSG_c(int level, char* component, const char* fmt, va_list args)
     __attribute__((format(printf, 3, 0)));
 
 // LOG_MSG(ERROR, "failed to open '%s'\n", path) logs "[ERROR] source(line): failed to open ...".
-// The file that uses it defines LOG_SOURCE, the name of the source as a literal, and an object
-// log_component. LOG_MSG_AT takes the line number, for lines whose number is part of their text.
+// A source that uses it defines LOG_SOURCE, its name as a literal, and an object log_component.
+// LOG_MSG_AT has a parameter for the line number, for messages in which that number is fixed.
 #define LOG_MSG(level, ...) LOG_MSG_AT(__LINE__, level, __VA_ARGS__)
 #define LOG_MSG_AT(line, level, ...)                     \
     Logger::LogMsg(Logger::LEVEL_##level, log_component, \

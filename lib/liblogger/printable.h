@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-// Text from outside as it may be put into one line of a log or of a message: control characters are
-// written as \xNN, and in text that isn't well-formed UTF-8 so is every byte outside ASCII.
+// Makes text from outside safe for one line of a log or a message: control characters become \xNN,
+// and so does every byte outside ASCII if the text isn't well-formed UTF-8.
 // Threads: any.
 std::string Printable(std::string_view text);
 

@@ -5,16 +5,16 @@
 
 #include "ustring/ustring.h"
 
-// Short random names for temporary files: eight characters out of 64, which are letters, digits,
-// "-" and "_". They come from an RC4 keystream that is keyed once per process from the time. They
-// are not secrets, and nothing checks whether a file of that name exists.
+// Short random names for temporary files: eight letters, digits, "-" and "_". They come from an RC4
+// keystream, which each object keys from the time when it is created. They are not secrets, and
+// nothing checks whether a file of that name exists.
 //
 // Threads: getInstance, getTmpName and getTmpPath may be called from any thread.
 class TmpNameGen {
   public:
     static TmpNameGen& getInstance();
 
-    // Both return a fresh name at each call; getTmpPath puts dir and "/" in front.
+    // Both return a new name at each call; getTmpPath puts dir and "/" in front.
     ustring getTmpName();
     ustring getTmpPath(const ustring& dir);
 
@@ -23,16 +23,16 @@ class TmpNameGen {
     TmpNameGen(const TmpNameGen&) = delete;
     TmpNameGen& operator=(const TmpNameGen&) = delete;
 
-    // The text "seconds-microseconds" of this moment, cut to n bytes with its terminator; returns
-    // the length of the full text.
+    // Writes the present time as "seconds-microseconds" to dst, at most n bytes with the
+    // terminator. Returns the length of the full text.
     static int get_key(unsigned char* dst, unsigned long n);
 
-    // RC4's key schedule over all 256 bytes of key. An empty key, which begins with a zero byte, is
-    // first filled from rand().
+    // RC4's key schedule over all 256 bytes of key. A key that begins with a zero byte counts as
+    // empty and is first filled from rand().
     static void rc4_init(unsigned char* state, unsigned char* key);
 
-    // n bytes of RC4's keystream. The two indices start at 0 at each call, only the permutation
-    // goes on. Nothing is written for an n of 0 or less.
+    // Writes n bytes of RC4's keystream to out, nothing if n is 0 or less. Only the permutation is
+    // kept between calls; both indices start at 0 each time.
     static void rc4_randomize(unsigned char* state, unsigned char* out, int n);
 
   protected:

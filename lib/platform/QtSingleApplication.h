@@ -9,13 +9,14 @@
 #include "lib/install-layout.h"
 #include "lib/platform/single-instance.h"
 
-// The application object of a program that runs once per user and per installed copy. The guard is
-// a lock in ~/.Tarnwell, the folder that the program works on; see platform::SingleInstance.
+// The application object of a program that runs once per user and installed copy. A lock in
+// ~/.Tarnwell ensures that; see platform::SingleInstance.
 //
-// Defined in the header: only the program that uses it knows Qt Widgets.
+// Header-only, so that only the program that uses it links Qt Widgets.
 class QtSingleApplication : public QApplication {
   public:
-    // Without guiEnabled the windows are drawn nowhere. argc and argv must outlive the object.
+    // Without guiEnabled no window is shown (Qt's platform "offscreen"). argc and argv must outlive
+    // the object.
     QtSingleApplication(int& argc, char** argv, bool guiEnabled = true)
         : QApplication(choosePlatform(argc, guiEnabled), argv),
           instance_(bytes(QDir::homePath()) + "/" + install_layout::kUserFolder,

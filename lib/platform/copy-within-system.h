@@ -3,10 +3,10 @@
 
 namespace platform {
 
-// Lets the system copy a file that was opened just now to another one that is empty, and nothing
-// but the bytes, which needn't come into this process. Returns true when all is copied. Otherwise,
-// where the system can't or the copy fails, reading and writing go on from where both are then, or
-// say why not. Threads: any.
+// Lets the system copy the bytes of a file that was just opened to an empty one, without passing
+// them through this process. Returns true when all bytes are copied. Returns false when the system
+// can't do that or the copy fails: then continue with read() and write() from where both
+// descriptors are, which also report the error. Threads: any.
 bool CopyWithinSystem(int from, int to);
 
 }  // namespace platform

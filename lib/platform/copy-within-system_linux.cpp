@@ -13,10 +13,10 @@ bool CopyWithinSystem(int from, int to) {
     for (bool copied = false;; copied = true) {
         const ssize_t size = copy_file_range(from, nullptr, to, nullptr, chunk_size, 0);
         if (size <= 0) {
-            return size == 0 && copied;  // some special files give 0 and can be read all the same
+            return size == 0 && copied;  // 0 at once: empty, or a special file that must be read
         }
         if (static_cast<std::size_t>(size) == chunk_size) {
-            StartWriting(to);  // goes on while the next chunk is copied
+            StartWriting(to);  // continues while the next chunk is copied
         }
     }
 }

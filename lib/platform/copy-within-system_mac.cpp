@@ -22,7 +22,7 @@ bool CopyWithinSystem(int from, int to) {
     if (fcopyfile(from, to, nullptr, COPYFILE_DATA) == 0) {
         return true;
     }
-    // What it has read it may not have written: begin again.
+    // It may have read more than it has written, so start again.
     static_cast<void>(lseek(from, 0, SEEK_SET) + lseek(to, 0, SEEK_SET));
     return false;
 }

@@ -1,8 +1,8 @@
 #ifndef LIB_PLATFORM_CORE_SERVICES_H
 #define LIB_PLATFORM_CORE_SERVICES_H
 
-// References to file system objects and the canonical spelling of their paths. On macOS these are
-// the system's own calls; elsewhere the same few are declared here with the same meaning.
+// References to file system objects, and the canonical spelling of their paths. On macOS these are
+// system calls; elsewhere those that the launcher needs are declared here, with the same meaning.
 #ifdef __APPLE__
 
 #include <CoreServices/CoreServices.h>
@@ -16,11 +16,11 @@ using UInt8 = std::uint8_t;
 using UInt32 = std::uint32_t;
 using Boolean = unsigned char;
 
-// 0, or one of these. The numbers are the system's.
+// 0, or one of these. The numbers are those of macOS.
 using OSStatus = std::int32_t;
 enum : OSStatus {
     noErr = 0,
-    ioErr = -36,             // anything that has no status of its own
+    ioErr = -36,             // any failure without a status here
     bdNamErr = -37,          // the name is empty or too long
     fnfErr = -43,            // the folder is there, the object isn't
     dirNFErr = -120,         // a folder on the way isn't there
@@ -33,8 +33,8 @@ struct FSRef {
     char path[PATH_MAX];  // absolute, without links, as stored
 };
 
-// Makes a reference to the object at path (UTF-8, absolute or relative), following links, the last
-// one too. isDirectory may be null. ref is undefined unless the status is 0.
+// Makes a reference to the object at path (UTF-8, absolute or relative); all links are followed.
+// isDirectory may be null. ref is undefined unless the status is 0.
 // Threads: any.
 OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory);
 

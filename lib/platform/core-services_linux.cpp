@@ -48,9 +48,9 @@ bool IsSameObject(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-// What was resolved is spelled as it was asked for. That is as it is stored, except in folders that
-// ignore letter case. Goes down from folder to folder, so that each step costs the same. false when
-// the path gets too long.
+// Replaces each name in a resolved path by its stored spelling, which can differ in folders that
+// ignore letter case. Opens one folder from the other, so that each step takes the same time.
+// Returns false when the path gets too long.
 bool SpellAsStored(char* path) {
     platform::Descriptor folder(open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
     std::string stored;
@@ -74,8 +74,8 @@ bool SpellAsStored(char* path) {
     return true;
 }
 
-// The system tells the path of an open object; false when it can't, as without /proc, and when the
-// path has come to lead elsewhere.
+// Asks the system for the path of an open object. Returns false when it can't say (as without
+// /proc) and when another object is at that path by now.
 bool PathOfOpened(int fd, char* resolved) {
     char link[32];
     static_cast<void>(std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd));
@@ -89,7 +89,7 @@ bool PathOfOpened(int fd, char* resolved) {
     return fstat(fd, &opened) == 0 && lstat(resolved, &named) == 0 && IsSameObject(opened, named);
 }
 
-// The same as realpath(), which looks up every element of the path by its whole path.
+// Like realpath(), but in fewer steps: that looks up every element by its whole path.
 bool Resolve(const char* path, char* resolved) {
     const platform::Descriptor object(open(path, O_PATH | O_CLOEXEC));
     return object.get() >= 0 &&

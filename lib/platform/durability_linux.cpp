@@ -9,7 +9,7 @@
 
 namespace {
 
-// The result of a request, for which a volume or an object that doesn't know it is a success.
+// Returns 0 also when the volume or the object doesn't support the request.
 int IfKnown(int result) {
     return result == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : -1;
 }

@@ -21,7 +21,7 @@ int SyncFile(int fd) {
     if (fcntl(fd, F_FULLFSYNC) == 0) {
         return 0;
     }
-    // fsync() leaves the data in the drive's cache; it is all that some volumes can do.
+    // fsync() may leave the data in the drive's cache, but some volumes support nothing else.
     return IsUnknownRequest(errno) && (fsync(fd) == 0 || IsUnknownRequest(errno)) ? 0 : -1;
 }
 

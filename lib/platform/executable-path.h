@@ -5,8 +5,8 @@
 
 namespace platform {
 
-// Where this process's executable really is, links followed, whatever name it was started by. Needs
-// no application object. Empty when the system doesn't say. Threads: any.
+// The canonical path of this process's executable, whatever name it was started by. Needs no
+// application object. Empty when the system doesn't say. Threads: any.
 QString ExecutablePath();
 
 }  // namespace platform

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-// The type name of the file system that holds the object at path (UTF-8, links followed): "nfs",
-// "smbfs", "afpfs" or "msdos", whatever the system itself calls these, else the system's own name.
+// Finds out the type of the file system that the object at path (UTF-8, links followed) is on. name
+// is "nfs", "smbfs", "afpfs" or "msdos" on every system, else the system's name for the type.
 // Returns 0, or -1 with errno set and name unchanged. Threads: any.
 int FileSystemType(const char* path, std::string& name);
 

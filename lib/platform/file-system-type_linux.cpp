@@ -53,7 +53,7 @@ int FileSystemType(const char* path, std::string& name) {
     }
     const std::string type = MountType(status.stx_mnt_id);
     if (type.empty()) {
-        errno = ENOSYS;  // no mount table, or a kernel that doesn't number its mounts
+        errno = ENOSYS;  // no mount table, or a kernel without mount ids (before 5.8)
         return -1;
     }
     name = CommonName(type);

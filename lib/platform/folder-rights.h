@@ -7,15 +7,15 @@
 
 namespace platform {
 
-// What a walk through a tree of this user needs to know and to change about its folders. All
-// return 0, or -1 with errno set. Threads: any.
+// What walks through a tree of this user need to know and to change about its folders. All return
+// 0, or -1 with errno set. Threads: any.
 
-// The volume that an open object is on. On Linux it is the mount, so that a folder of the same
-// device that is mounted (bound) elsewhere is on another one. -1 when the system doesn't say.
+// Identifies the volume that an open object is on. On Linux it is the mount, so that a bind mount
+// of the same device counts as another volume.
 using MountId = std::uint64_t;
 int MountOf(int fd, MountId& mount);
 
-// Sets the permissions of an open folder, which may be open only to be passed.
+// Sets the permissions of an open folder. One that was opened with kOpenToPass will do.
 int SetFolderMode(int folder, mode_t mode);
 
 // Sets the permissions of the folder that has this name in an open folder. A link isn't followed

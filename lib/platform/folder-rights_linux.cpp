@@ -16,7 +16,7 @@ int MountOf(int fd, MountId& mount) {
         return -1;
     }
     if ((status.stx_mask & STATX_MNT_ID) == 0) {
-        errno = ENOSYS;  // a kernel that doesn't number its mounts
+        errno = ENOSYS;  // a kernel without mount ids (before 5.8)
         return -1;
     }
     mount = status.stx_mnt_id;
@@ -27,11 +27,12 @@ int SetFolderMode(int folder, mode_t mode) {
     if (fchmod(folder, mode) == 0) {
         return 0;
     }
-    // A descriptor that is open only to be passed is refused.
+    // fchmod() refuses a descriptor that was opened with O_PATH.
     return errno == EBADF ? chmod(("/proc/self/fd/" + std::to_string(folder)).c_str(), mode) : -1;
 }
 
-// What was opened is what is looked at and changed, whatever happens to the name meanwhile.
+// Examines and changes an open folder, so that both are the same one if the name is reused
+// meanwhile.
 int SetFolderMode(int parent, const char* name, const MountId* within, mode_t mode) {
     const Descriptor folder(openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (folder.get() < 0) {

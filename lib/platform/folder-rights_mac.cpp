@@ -20,7 +20,7 @@ int SetFolderMode(int folder, mode_t mode) {
     return fchmod(folder, mode);
 }
 
-// The system opens no folder that can't be read or searched, so this goes by the name.
+// Works on the name: macOS can't open a folder that may be neither read nor searched.
 int SetFolderMode(int parent, const char* name, const MountId* within, mode_t mode) {
     struct stat status;
     if (fstatat(parent, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {

@@ -9,7 +9,7 @@
 
 namespace platform {
 
-// The owners of what the C library hands out. Threads: one object belongs to one thread.
+// Owners of the C library's handles. Threads: one object belongs to one thread.
 
 // Owns a file descriptor, or none when it is negative.
 class Descriptor {
@@ -30,9 +30,9 @@ class Descriptor {
         fd_ = -1;
         return fd;
     }
-    // For what was written: 0, or -1 with errno set. It is closed in either case.
+    // Call it after writing: returns 0, or -1 with errno set. The descriptor is closed either way.
     int close() { return ::close(release()); }
-    // Takes another one and releases its own, without a look at the result.
+    // Closes the descriptor, ignoring the result, and owns fd from then on.
     void reset(int fd) {
         if (fd_ >= 0) {
             ::close(fd_);
@@ -44,8 +44,8 @@ class Descriptor {
     int fd_;
 };
 
-// How a folder is opened only to name what is in it. It needn't be readable for that, except on
-// macOS 11 and 12.
+// The flag to open a folder only to name what is in it. This needs no permission to read the
+// folder, except when built for macOS 11 or 12.
 #if !defined(__APPLE__)
 const int kOpenToPass = O_PATH;
 #elif __MAC_OS_X_VERSION_MIN_REQUIRED >= 130000
@@ -61,7 +61,8 @@ struct DirCloser {
 // A folder that is being listed.
 using DirStream = std::unique_ptr<DIR, DirCloser>;
 
-// A stream on an open folder, which it takes over; none, with errno set, on failure.
+// Returns a stream on an open folder, or none with errno set. Takes ownership of fd, also on
+// failure.
 inline DirStream OpenStream(int fd) {
     Descriptor folder(fd);
     DirStream stream(fd >= 0 ? fdopendir(fd) : nullptr);

@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-const int kMaxAttempts = 100;  // each one is lost only to a process that ended at that moment
+const int kMaxAttempts = 100;  // one fails only if another process ends at that very moment
 
 bool SameObject(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
@@ -68,7 +68,8 @@ InstanceLock::Attempt InstanceLock::tryLock() {
 
 InstanceLock::~InstanceLock() {
     if (fd_ >= 0) {
-        // While we hold it; a failure leaves an empty file that blocks nobody.
+        // Remove the file while we hold the lock. If that fails, an empty file stays, which blocks
+        // nobody.
         unlink(path_.c_str());
         close(fd_);
     }

@@ -5,12 +5,12 @@
 
 namespace platform {
 
-// A lock that one process at a time holds. The kernel drops it when the process ends, however it
-// ends; a file that a killed process left behind blocks nobody.
+// A lock that one process at a time can hold. The kernel releases it when the process ends in any
+// way; a file that a killed process left behind blocks nobody.
 //
-// The lock is taken on the file at path, which is made if needed, only for its owner, and removed
-// when the lock is released. What stands in its place and isn't a regular file of this user's is
-// removed when that is possible and otherwise left alone.
+// The lock is on the file at path, which is created if needed, with the mode 0600, and removed when
+// the lock is released. An object in its place that isn't a regular file of this user is removed if
+// possible, and otherwise left alone.
 //
 // Threads: an object belongs to one thread.
 class InstanceLock {
@@ -20,11 +20,11 @@ class InstanceLock {
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
 
-    // True when another process held the lock. False when this one holds it, and also when no lock
-    // could be made (a read-only folder, another user's file, a folder in its place).
+    // True when another process held the lock. False when this one holds it, and also when locking
+    // was impossible (a read-only folder, another user's file, a folder in its place).
     bool heldElsewhere() const { return held_elsewhere_; }
 
-    // True when this process holds the lock, or when the volume knows no locks.
+    // True when this process holds the lock, or when the volume doesn't support locks.
     bool held() const { return fd_ >= 0; }
 
   private:

@@ -7,11 +7,11 @@
 
 namespace platform {
 
-// A private copy of some text, for libraries that read by path only. It is gone with the object,
-// and on Linux also with the process, however that ends. No two copies of one process have the same
-// path and the same time of modification, by which Qt would take them for the same file.
+// A private copy of some text, for libraries that can only read from a path. It is removed with the
+// object, on Linux also when the process ends in any way. No two copies of a process have both the
+// same path and the same modification time: Qt would take them for the same file.
 //
-// Threads: any may make one; an object belongs to one thread.
+// Threads: any thread may create one; an object belongs to one thread.
 class MemoryFile {
   public:
     explicit MemoryFile(const std::string& content);

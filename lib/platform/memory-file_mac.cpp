@@ -6,7 +6,7 @@
 
 namespace platform {
 
-// In the system's temporary folder of this user.
+// A file in this user's temporary folder.
 MemoryFile::MemoryFile(const std::string& content) : file_(-1) {
     char folder[PATH_MAX] = {};
     if (confstr(_CS_DARWIN_USER_TEMP_DIR, folder, sizeof folder) == 0) {

@@ -7,21 +7,21 @@
 
 namespace platform {
 
-// Asks the system to start the application bundle at path, whose bytes are used as they are. Which
-// executable runs is decided by the bundle's Contents/Info.plist, or by the bundle's name when that
-// names none or isn't a regular file of at most 1 MiB in the bundle. The program gets no arguments,
-// no open files and no signal settings of ours, starts in the home folder (on macOS in the root),
-// and is neither waited for nor watched. Returns false when the request wasn't accepted: no bundle,
-// or no regular file in it that can be started. Threads: any.
+// Asks the system to start the application bundle at path (bytes, used unchanged). The bundle's
+// Contents/Info.plist names the executable. If it names none, or isn't a regular file of at most
+// 1 MiB in the bundle, the executable has the bundle's name. The program gets no arguments, none of
+// our open files and signal settings, starts in the home folder (on macOS in "/"), and is neither
+// waited for nor watched. Returns false when the request wasn't accepted: there is no bundle, or no
+// regular file in it that can be started. Threads: any.
 bool OpenBundle(const std::string& path);
 
-// The executable's name in the text of an Info.plist (XML): the value of the top-level key
-// CFBundleExecutable, empty when there is none, when it isn't a plain file name, and when the text
-// can't be read. Threads: any.
+// Returns the value of the top-level key CFBundleExecutable in the text of an Info.plist (XML).
+// Empty when there is none, when it isn't a plain file name, and when the text can't be parsed.
+// Threads: any.
 QString BundleExecutable(const QByteArray& info_plist);
 
-// The string that a top-level key of a property list (XML) has; empty when it has none, and when
-// the list can't be read that far. Threads: any.
+// Returns the string value of a top-level key of a property list (XML). Empty when there is none,
+// and when the list can't be parsed up to it. Threads: any.
 QString PropertyListText(const QByteArray& list, const QString& wanted);
 
 }  // namespace platform

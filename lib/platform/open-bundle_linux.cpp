@@ -24,7 +24,7 @@ std::string ExecutableName(const std::string& bundle) {
     return name.isEmpty() ? std::filesystem::path(bundle).stem().string() : name.toStdString();
 }
 
-// The actions and attributes of a program that is about to be started.
+// Owns the file actions and the attributes of posix_spawn.
 class Start {
   public:
     Start() {
@@ -53,7 +53,7 @@ std::vector<char*> EnvironmentToPassOn() {
     return entries;
 }
 
-// Every signal has its default action and none is blocked, as programs expect it at their start.
+// Every signal gets its default action and none is blocked, as programs expect when they start.
 void ResetSignals(posix_spawnattr_t& attributes) {
     sigset_t signals;
     sigemptyset(&signals);
@@ -62,9 +62,8 @@ void ResetSignals(posix_spawnattr_t& attributes) {
     posix_spawnattr_setsigdefault(&attributes, &signals);
 }
 
-// Starts a program that outlives us: in a session of its own, in the home folder, without a hold on
-// a terminal, pipe or file of ours. A copy of this process, however short its life, would cost more
-// than the start itself.
+// Starts a program that outlives us: in its own session, in the home folder, without our terminal,
+// pipes and files. posix_spawn() takes less time than fork(), which copies this process first.
 bool StartDetached(const std::string& program) {
     Start start;
     ResetSignals(start.attributes);

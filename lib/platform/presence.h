@@ -5,15 +5,15 @@
 
 namespace platform {
 
-// The three answers to whether something is there. A failed look-up is neither of the other two.
+// Whether something is at a path. CantTell means that looking it up failed, which says nothing.
 enum class Presence { There, NotThere, CantTell };
 
-// Looks for an object at path, by the bytes given; a link counts itself, not its target. CantTell
-// leaves errno set. object, unless null, becomes the number that a rename doesn't change and that
-// nothing else on the volume has at the moment: the inode. Threads: any.
+// Looks for an object at path (bytes, used unchanged); a link isn't followed. CantTell leaves errno
+// set. *object, unless object is null, receives the inode, which a rename doesn't change and which
+// no other object of the volume has at the same time. Threads: any.
 Presence LookAt(const char* path, std::uint64_t* object = nullptr);
 
-// The same for what a link at path leads to: a dangling one is NotThere.
+// The same, but follows links: a dangling one is NotThere.
 Presence LookAtTarget(const char* path);
 
 }  // namespace platform

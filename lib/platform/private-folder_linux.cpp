@@ -9,7 +9,7 @@ namespace {
 
 const mode_t kOthersWrite = S_IWGRP | S_IWOTH;
 
-// Whether there is a folder at path, and no link to one, that belongs to this user.
+// Whether a folder of this user, not a link to one, is at path.
 bool IsOurs(const std::string& path, mode_t& permissions) {
     struct stat status;
     if (lstat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode) ||
@@ -33,8 +33,8 @@ bool MakePrivate(const std::string& path) {
 
 namespace platform {
 
-// First in the folder that the session manager makes for each user; then in /tmp, where somebody
-// else may have taken a name, but can't take away one that is ours.
+// Place 0 is the folder that the session manager creates for each user, the others are in /tmp:
+// there another user may have taken a name, but can't remove or rename a folder of ours.
 std::string PrivateFolder(const char* name, int n) {
     const std::string user = std::to_string(geteuid());
     const std::string session = "/run/user/" + user;

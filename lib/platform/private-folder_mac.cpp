@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// In the system's temporary folder of this user, which is private to begin with.
+// In this user's temporary folder, which is private already.
 std::string PrivateFolder(const char* name, int n) {
     char folder[PATH_MAX] = {};
     if (n > 0 || confstr(_CS_DARWIN_USER_TEMP_DIR, folder, sizeof folder) == 0) {

@@ -9,21 +9,22 @@
 
 namespace platform {
 
-// What the system lets us know of a running process; the rest is empty or 0. Paths are bytes.
+// What the system reports about a running process. What it doesn't report is empty or 0. Paths are
+// bytes.
 struct ProcessInfo {
-    std::time_t started = 0;  // seconds since the epoch, one more or less
+    std::time_t started = 0;  // seconds since the epoch, accurate to a second
 
-    // The file that it runs, links followed. The system hides those of other users.
+    // The canonical path of the file that it runs. The system hides those of other users.
     std::string executable;
-    bool executable_gone = false;  // removed or replaced since; then executable is where it was
+    bool executable_gone = false;  // removed or replaced since; executable is its former path
     dev_t device = 0;
     ino_t inode = 0;
 
-    std::vector<std::string> arguments;  // the first three or more, its name among them
-    std::string folder;                  // its current one
+    std::vector<std::string> arguments;  // at least the first three, argv[0] included
+    std::string folder;                  // the current working directory
 };
 
-// Describes the process of that id. Nothing is known of one that doesn't exist. Threads: any.
+// Describes the process with that id. Empty when there is none. Threads: any.
 ProcessInfo DescribeProcess(pid_t pid);
 
 }  // namespace platform

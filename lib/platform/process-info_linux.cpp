@@ -12,7 +12,7 @@
 
 namespace {
 
-// When the system was started, seconds since the epoch; 0 when it doesn't say.
+// When the system was started, in seconds since the epoch; 0 when it doesn't say.
 long BootTime() {
     std::ifstream stat("/proc/stat");
     std::string line;
@@ -24,12 +24,12 @@ long BootTime() {
     return 0;
 }
 
-// When the process was started, in clock ticks since the system was; -1 when that isn't known.
+// When the process was started, in clock ticks since the system started; -1 when that isn't known.
 long StartTicks(const std::string& folder) {
     std::ifstream stat(folder + "/stat");
     std::string line;
     std::getline(stat, line);
-    const std::size_t name_end = line.rfind(')');  // the name may hold blanks and brackets itself
+    const std::size_t name_end = line.rfind(')');  // the name may contain blanks and brackets
     if (name_end == std::string::npos) {
         return -1;
     }

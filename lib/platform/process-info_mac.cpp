@@ -22,8 +22,8 @@ void DescribeExecutable(pid_t pid, platform::ProcessInfo& info) {
     }
 }
 
-// The kernel's copy of what the process was started with: the number of arguments, the path of the
-// executable, NULs, then the arguments.
+// Reads the kernel's copy of what the process was started with: the number of arguments, the path
+// of the executable, NULs, then the arguments.
 std::vector<std::string> Arguments(pid_t pid) {
     int largest = 0;
     std::size_t size = sizeof largest;

@@ -18,7 +18,7 @@ int g_signal_pipe[2];
 void OnSignal(int) {
     const int saved_errno = errno;
     const char byte = 0;
-    static_cast<void>(write(g_signal_pipe[1], &byte, 1) == 1);  // a full one wakes us as well
+    static_cast<void>(write(g_signal_pipe[1], &byte, 1) == 1);  // a full pipe wakes the loop too
     errno = saved_errno;
 }
 

@@ -3,8 +3,8 @@
 
 namespace platform {
 
-// Turns SIGTERM, SIGINT and SIGHUP into a regular end of the application's event loop, once and for
-// all. Call it on the main thread when the application object exists.
+// From now on, SIGTERM, SIGINT and SIGHUP end the application's event loop as quit() does. Call it
+// once, on the main thread, after the application object was created.
 void QuitOnSignal();
 
 }  // namespace platform

@@ -44,7 +44,7 @@ Reading Resolve(std::string& path, const char* inside) {
     return IsBelow(path, folder.get()) ? Reading::Done : Reading::Refused;
 }
 
-// To open a device can already do something, so it is looked at before.
+// Checks the type before anything is opened: opening a device can already have an effect.
 Reading Find(std::string& path, struct stat& status, const char* inside) {
     const Reading resolved = Resolve(path, inside);
     if (resolved != Reading::Done) {
@@ -75,7 +75,7 @@ Reading OpenRegularFile(const char* path, Descriptor& file, const char* inside) 
     if (found != Reading::Done) {
         return found;
     }
-    // Something else may have taken its place since.
+    // Another object may have taken the file's place since.
     const int no_links = inside != nullptr ? O_NOFOLLOW : 0;
     Descriptor opened(
         open(canonical.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | no_links));

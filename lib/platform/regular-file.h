@@ -8,18 +8,18 @@
 
 #include "lib/platform/handles.h"
 
-// Files that somebody else wrote, and that may not be what their names promise. Each operation
-// follows links. With inside, the path of a folder, the file must be in that folder or below it
-// once all links are followed. Nothing but a regular file is ever opened, so no call waits for the
-// other end of a pipe or sets off a device. Threads: any.
+// Reads files that others wrote and that may not be what their names promise. Each operation
+// follows links. inside, unless null, is a folder that must contain the file, at any depth, once
+// all links are followed. Only regular files are opened, so no call blocks on a pipe or triggers a
+// device. Threads: any.
 namespace platform {
 
-// Missing, Refused and Failed are three different answers: nothing is there; something is there
-// that must not be read; the system can't tell now.
+// The difference between the last three: nothing is there; something is there that must not be
+// read; the system can't say now.
 enum class Reading {
     Done,
     Missing,  // also when a folder on the way is missing
-    Refused,  // not a regular file, larger than the limit, or outside the folder it must be in
+    Refused,  // not a regular file, larger than the limit, or outside the given folder
     Failed    // with errno set; EACCES and EPERM are among the reasons
 };
 
@@ -29,12 +29,12 @@ Reading FindRegularFile(const char* path, struct stat& status, const char* insid
 // Opens the file for reading. file is unchanged unless the result is Done.
 Reading OpenRegularFile(const char* path, Descriptor& file, const char* inside = nullptr);
 
-// Appends what fd has to offer to content, up to its end or to one byte more than limit, which
-// tells that it has more. Returns false with errno set on failure; content then holds what came
-// before it.
+// Appends what can be read from fd to content, at most limit + 1 bytes; the last of these means
+// that there is more than limit. Returns false with errno set on failure; content then has what was
+// read before.
 bool ReadUpTo(int fd, std::size_t limit, std::string& content);
 
-// Reads the file, of limit bytes at most. content is unchanged unless the result is Done.
+// Reads a file of at most limit bytes. content is unchanged unless the result is Done.
 Reading ReadRegularFile(const char* path, std::size_t limit, std::string& content,
                         const char* inside = nullptr);
 

@@ -38,9 +38,9 @@ bool IsLockName(const std::string& name) {
            name.compare(name.size() - kSuffix.size(), kSuffix.size(), kSuffix) == 0;
 }
 
-// To find out whether a left-over lock file is held is to hold it, and a copy that is started at
-// that moment must not take this for a running one. So whoever is about to take a lock shares the
-// gate, a lock on the folder itself, and whoever cleans up has it alone.
+// Finding out whether a leftover lock file is held means locking it, and a copy that is started at
+// that moment must not mistake this for a running copy. So a process that takes a lock holds the
+// gate, a lock on the folder itself, shared; one that removes leftovers holds it exclusively.
 class Gate {
   public:
     explicit Gate(const std::string& folder)
@@ -63,18 +63,18 @@ bool IsOurFile(const fs::path& path) {
            status.st_uid == geteuid();
 }
 
-void RemoveLeftLocks(const fs::path& folder, const std::string& own_name) {
-    std::vector<fs::path> left;
-    std::error_code error;  // what can't be listed is looked at by the next start
+void RemoveLeftoverLocks(const fs::path& folder, const std::string& own_name) {
+    std::vector<fs::path> leftovers;
+    std::error_code error;  // what can't be listed is left to the next start
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string name = entry->path().filename();
         if (IsLockName(name) && name != own_name && IsOurFile(entry->path())) {
-            left.push_back(entry->path());
+            leftovers.push_back(entry->path());
         }
     }
-    for (const fs::path& path : left) {
-        const InstanceLock lock(path);  // removes the file in the end, if nobody holds it
+    for (const fs::path& path : leftovers) {
+        const InstanceLock lock(path);  // its destructor removes the file, unless somebody holds it
     }
 }
 
@@ -82,7 +82,7 @@ std::unique_ptr<InstanceLock> LockIn(const std::string& folder, const std::strin
     const Gate gate(folder);
     auto lock = std::make_unique<InstanceLock>(folder + "/" + name);
     if (lock->held() && gate.closeForOthers()) {
-        RemoveLeftLocks(folder, name);
+        RemoveLeftoverLocks(folder, name);
     }
     return lock;
 }
@@ -91,7 +91,7 @@ std::unique_ptr<InstanceLock> LockIn(const std::string& folder, const std::strin
 
 SingleInstance::SingleInstance(const std::string& folder, const std::string& executable) {
     const std::string name = LockName(executable);
-    std::error_code ignored;  // without the folder no lock can be made in it
+    std::error_code ignored;  // without the folder, locking in it fails below
     fs::create_directories(folder, ignored);
     lock_ = LockIn(folder, name);
     for (int n = 0; n < kPrivateFolders && !lock_->held() && !lock_->heldElsewhere(); ++n) {

@@ -9,19 +9,19 @@
 namespace platform {
 
 // Keeps a program from running more than once for each user and installed copy. The guard is a lock
-// file in a folder of the user's, or, where none can be made there, in a folder outside that nobody
-// else can write to (see PrivateFolder). The first to hold it also removes lock files that other
-// copies have left behind in that folder.
+// file in a folder of the user or, where none can be created, in a folder elsewhere that nobody
+// else can write to (see PrivateFolder). The process that gets the lock also removes lock files
+// that other copies left behind in that folder.
 //
 // Threads: an object belongs to one thread.
 class SingleInstance {
   public:
-    // folder is made if needed, with those above it. executable is the path of this copy. Both are
-    // bytes.
+    // folder is created if needed, with those above it. executable is the path of this copy. Both
+    // are bytes.
     SingleInstance(const std::string& folder, const std::string& executable);
 
-    // Whether another process of this user runs the same copy. False as well when no lock could be
-    // made anywhere: that must keep nobody from working.
+    // Whether another process of this user runs the same copy. Also false when no lock could be
+    // created anywhere: that must not keep the program from running.
     bool runsElsewhere() const { return lock_->heldElsewhere(); }
 
   private:

@@ -3,10 +3,10 @@
 
 namespace platform {
 
-// Makes the standard streams safe to use, whatever this process was started with. Those that are
-// closed lead to /dev/null, so that no file opened later gets their number and the messages meant
-// for them. Writing where nobody reads any more is an error and not the end of the process.
-// Must run before anything is opened.
+// Makes the standard streams safe to use, whatever this process was started with. A closed one is
+// opened on /dev/null; otherwise a file opened later would get its number, and the messages meant
+// for it. Writing to a closed pipe returns an error instead of ending the process. Must be called
+// before anything is opened.
 void SecureStandardStreams();
 
 }  // namespace platform

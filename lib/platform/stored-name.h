@@ -5,14 +5,14 @@
 
 namespace platform {
 
-// Finds out how an open folder spells the name of an object that is in it. stored becomes empty
-// when that is name itself, as it is but on volumes that look names up without regard to letter
-// case or to how letters are composed. A link counts itself. Returns false, with errno set, when
-// the system doesn't say. Threads: any.
+// Finds out how an open folder spells the name of an object in it. stored becomes empty when that
+// is name itself; it can differ on volumes that look names up without regard to letter case or to
+// how letters are composed. A link isn't followed. Returns false, with errno set, when the system
+// doesn't say. Threads: any.
 bool StoredName(int folder, const char* name, std::string& stored);
 
-// Whether the volume of an existing folder may take another spelling for the same name. In doubt it
-// may. Threads: any.
+// Whether the volume of an existing folder may treat two spellings as the same name. True in doubt.
+// Threads: any.
 bool MayIgnoreSpelling(const std::string& folder);
 
 }  // namespace platform

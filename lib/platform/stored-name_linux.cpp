@@ -19,8 +19,9 @@ QChar InOtherCase(QChar letter) {
     return letter == (letter.isLower() ? other.toLower() : other.toUpper()) ? other : letter;
 }
 
-// Spells a name in other letter case: the letters of ASCII, which every volume that ignores letter
-// case knows, or else all. false when there are none, or the name is too long for any volume.
+// Writes a name in the other letter case. If it has ASCII letters, only these are changed: every
+// volume that ignores letter case knows them. Returns false when the name has no letters that could
+// be changed, or is too long for any volume.
 bool SpellInOtherCase(const char* name, char (&other)[NAME_MAX + 1]) {
     bool has_letters = false;
     bool is_ascii = true;
@@ -47,8 +48,8 @@ bool SpellInOtherCase(const char* name, char (&other)[NAME_MAX + 1]) {
     return spelled.size() <= NAME_MAX && spelled != name;
 }
 
-// The entry that a volume which ignores letter case takes for the name. Not each of them gives an
-// object the same inode under each spelling, so that doesn't tell.
+// Finds the entry that a volume which ignores letter case takes for the name. It compares names,
+// for some of these volumes give an object another inode under another spelling.
 bool FindEntry(int folder, const char* name, std::string& stored) {
     const platform::DirStream stream =
         platform::OpenStream(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -63,7 +64,7 @@ bool FindEntry(int folder, const char* name, std::string& stored) {
             return errno == 0;
         }
         if (std::strcmp(name, entry->d_name) == 0) {
-            stored.clear();  // the other spelling is another object's
+            stored.clear();  // the other spelling belongs to another object
             return true;
         }
         if (text.compare(QString::fromUtf8(entry->d_name), Qt::CaseInsensitive) == 0) {
@@ -76,7 +77,7 @@ bool FindEntry(int folder, const char* name, std::string& stored) {
 
 namespace platform {
 
-// Most names need one call: spelled in the other case they lead nowhere.
+// Most names need one call: in the other letter case they don't exist.
 bool StoredName(int folder, const char* name, std::string& stored) {
     char other[NAME_MAX + 1];
     struct stat status;
@@ -86,7 +87,7 @@ bool StoredName(int folder, const char* name, std::string& stored) {
            FindEntry(folder, name, stored);
 }
 
-// Spelled in the other case, the folder's own path leads nowhere.
+// The volume distinguishes letter case if the folder's own name doesn't exist in the other case.
 bool MayIgnoreSpelling(const std::string& folder) {
     const std::size_t name = folder.rfind('/') + 1;
     char other[NAME_MAX + 1];

@@ -26,7 +26,7 @@ bool StoredName(int folder, const char* name, std::string& stored) {
     return true;
 }
 
-// Those that tell letter cases apart still ignore how letters are composed.
+// Even volumes that distinguish letter case ignore how letters are composed.
 bool MayIgnoreSpelling(const std::string&) {
     return true;
 }

@@ -13,7 +13,7 @@ const std::size_t kValue = 3;  // where its value begins
 namespace platform {
 
 void NameTimeZone() {
-    static_cast<void>(setenv("TZ", kEntry.data() + kValue, 0) == 0);  // without it, it takes longer
+    static_cast<void>(setenv("TZ", kEntry.data() + kValue, 0) == 0);  // if it fails, we are slower
 }
 
 bool IsNamedTimeZone(const char* entry) {

@@ -3,13 +3,13 @@
 
 namespace platform {
 
-// Without TZ in the environment the C library asks for the system's time zone file again at each
-// conversion of a time, and reading a package converts several for each entry. Names that file in
-// TZ unless there is one, which changes no time. Must run before there are other threads.
+// Sets TZ to the system's time zone file, unless TZ is set. Times stay the same; but without TZ the
+// C library looks at that file for each conversion of a time, and reading a package converts
+// several times for each entry. Must be called before other threads exist.
 void NameTimeZone();
 
-// Whether an entry of the environment ("NAME=value") is what NameTimeZone() puts there, which is
-// for us and not for the programs that we start. Threads: any.
+// Whether an entry of the environment ("NAME=value") is the one that NameTimeZone() sets. It is for
+// this process, not for the programs that it starts. Threads: any.
 bool IsNamedTimeZone(const char* entry);
 
 }  // namespace platform
