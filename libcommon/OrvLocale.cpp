@@ -8,13 +8,13 @@ namespace {
 
 const char kSourcePath[] = "../libcommon/OrvLocale.cpp";
 
-// A locale name in lower case (zh_tw) or its language part (zh), and the code that it chooses.
+// A locale name in lower case (zh_tw) or its language part (zh), and the code for it.
 struct Choice {
     const char* name;
     const char* code;
 };
 
-// Whole locale names, looked at before the language.
+// Whole locale names; they take precedence over kLanguages.
 const Choice kLocales[] = {
     {"zh_tw", "cht"}, {"zh_hk", "cht"}, {"zh_mo", "cht"}, {"pt", "ptg"}, {"pt_pt", "ptg"}};
 
@@ -34,7 +34,7 @@ QString Find(const Choice (&choices)[Count], const QString& name) {
     return QString();
 }
 
-// One debug message. The numbers of the lines are part of their text; so are the expressions.
+// Writes debug messages. Line number and expression are fixed parts of their text.
 class Trace {
   public:
     explicit Trace(const char* function) : function_(function) {}

@@ -4,10 +4,10 @@
 #include <QString>
 #include <QStringList>
 
-// The language of the user interface. Languages have three-letter codes of their own ("enu",
-// "cht", "ptg"); each has a catalog among the embedded resources, ":/" + code + ".qm".
+// The language of the user interface. Each language has a three-letter code of this product ("enu",
+// "cht", "ptg") and a catalog among the embedded resources, ":/" + code + ".qm".
 //
-// The operations write what they find to Qt's debug messages. Threads: any may call them.
+// The operations report what they find as Qt debug messages. Threads: any.
 class OrvLocale {
   public:
     // The code for the system's locale; "enu" when the locale's language isn't known or has no

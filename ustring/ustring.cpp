@@ -21,7 +21,7 @@ namespace {
 
 const std::size_t kFirstCapacity = 4;  // of both buffers of a new object
 
-// The warnings' text has these fixed numbers.
+// Line numbers that are a fixed part of the warnings.
 const int kFromUtf8Line = 921;
 const int kToUtf8Line = 888;
 const int kInstanceLine = 1014;
@@ -33,7 +33,8 @@ void Warn(const char* function, UErrorCode error, int line) {
     static_cast<void>(std::fflush(stderr));
 }
 
-// Keeps a capacity that the text fits into and fills by half, else takes what the text needs.
+// Returns the capacity if the text fits and fills at least half of it, otherwise what the text
+// needs.
 std::size_t NewCapacity(std::size_t capacity, std::size_t need) {
     return need <= capacity && capacity / 2 <= need ? capacity : need;
 }
@@ -49,7 +50,7 @@ Unit* Resize(Unit* buffer, std::size_t need) {
     return static_cast<Unit*>(resized);
 }
 
-// Like Resize, but drops the content, which takes a fraction of the time for a small buffer.
+// Like Resize, but drops the content, which is faster for a small buffer.
 template <typename Unit>
 Unit* Renew(Unit* buffer, std::size_t need) {
     Unit* const fresh = Resize<Unit>(nullptr, need);
@@ -89,7 +90,8 @@ bool PointsInto(const Unit* pointer, const Unit* buffer, std::size_t length) {
     return !before(pointer, buffer) && !before(buffer + length, pointer);
 }
 
-// The capacity for a text that grows by n units. Throws std::bad_alloc if no buffer can have it.
+// The capacity for a text that grows by n units. Throws std::bad_alloc if no buffer can be so
+// large.
 template <typename Unit>
 std::size_t Needed(std::size_t length, std::size_t n) {
     if (n >= std::numeric_limits<std::ptrdiff_t>::max() / sizeof(Unit) - length) {
@@ -186,7 +188,7 @@ ustring::ustring(char byte) : ustring() {
     assign(byte, 1);
 }
 
-// Copies a and appends b, in one step but with the capacity of two.
+// Copies a and appends b in one step. The capacity is what the two steps would give.
 ustring::ustring(std::string_view a, std::string_view b) : ustring(Unallocated()) {
     data_cap = NewCapacity(data_cap, a.size() + 1);
     init(a.size() + b.size() + 1);
@@ -377,10 +379,10 @@ ustring& ustring::assign(char byte, size_type n) {
 }
 
 // Builds the UTF-16 form and copies at most n of its units, from the position that an argument
-// points to. The pointer may be older than the form: the buffer outlives a form that was dropped.
+// points to. The form may have been dropped since the caller got the pointer; its buffer wasn't.
 std::vector<unsigned short> ustring::own_units(const unsigned short* from, size_type n) const {
     const auto offset = static_cast<size_type>(from - wdata);
-    build_wdata();  // can move the buffer
+    build_wdata();  // may move the buffer
     const size_type pos = std::min(offset, wdata_len);
     return std::vector<unsigned short>(wdata + pos, wdata + pos + std::min(n, wdata_len - pos));
 }

@@ -10,15 +10,15 @@
 #include <string_view>
 #include <vector>
 
-// The string type of paths, keys, values and version texts.
+// The string type for paths, keys, values and version texts.
 //
 // A ustring holds its text in two encodings: UTF-8, which is always current, and UTF-16, which is
-// built when something needs it and kept until the UTF-8 form changes. Any bytes are accepted;
-// ill-formed UTF-8 is kept unchanged, has an empty UTF-16 form, and is_valid() is false for it.
+// built when it is needed and kept until the UTF-8 form changes. Any bytes are accepted; ill-formed
+// UTF-8 is kept unchanged, has an empty UTF-16 form, and is_valid() returns false for it.
 //
 // Positions, lengths and counts are in bytes of the UTF-8 form; a count of npos means up to the
 // end. A byte string is NUL-terminated UTF-8, a unit string is a 0-terminated array of UTF-16 code
-// units. An argument may point into the object itself. A std::string counts up to its first NUL.
+// units. An argument may point into the object itself. A std::string is read up to its first NUL.
 //
 // Buffers: an operation keeps a buffer when the new text and its terminator fit and fill at least
 // half of it, and otherwise resizes it to exactly their size. The buffers of a new empty string
@@ -149,7 +149,7 @@ class ustring {
 
     ustring& replace(char from, char to);  // every byte equal to from
 
-    // A copy of the bytes [pos, pos + n), as far as there are any.
+    // A copy of the bytes [pos, pos + n), or up to the end if there are fewer.
     // Throws std::out_of_range "substr" if pos is beyond the end.
     ustring substr(size_type pos = 0, size_type n = npos) const;
 
@@ -166,8 +166,7 @@ class ustring {
     static ustring normalize(const ustring& source, normalization_form form);
 
   private:
-    // Without buffers, which no other object is: for constructors and results, which size them
-    // next.
+    // Leaves the object without buffers, for callers that allocate them next at their size.
     struct Unallocated {};
     explicit ustring(Unallocated);
     ustring(std::string_view a, std::string_view b);

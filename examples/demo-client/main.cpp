@@ -1,5 +1,5 @@
-// A small client for the demonstration package. It shows its version, leaves its process id in
-// ~/.Tarnwell/ui.pid for the launcher, and ends when its window is closed or on SIGTERM.
+// A small client for the demonstration package. It shows its version, writes its process id to
+// ~/.Tarnwell/ui.pid for the launcher, and ends on SIGTERM or when its window is closed.
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -21,8 +21,8 @@
 
 namespace {
 
-// The pid file, there as long as the object lives. Its lock, which the kernel drops with the
-// process, keeps a second client from running beside the first.
+// The pid file, which exists as long as this object. Its lock, which the kernel releases when the
+// process ends, keeps a second client from running.
 class PidFile {
   public:
     PidFile()
@@ -58,7 +58,7 @@ class PidFile {
     bool runningElsewhere() const { return running_elsewhere_; }
 
   private:
-    // Whether an earlier client has removed the file between our opening and our locking it.
+    // Whether an earlier client removed the file after we opened and before we locked it.
     bool wasRemoved() const {
         struct stat ours;
         struct stat there;
@@ -80,7 +80,7 @@ class PidFile {
     bool running_elsewhere_ = false;
 };
 
-// The path of what has this name in the application.
+// The path of a file or folder in the application, by its name there.
 QString InApplication(const char* name) {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../../") +
            QString::fromLatin1(name);
