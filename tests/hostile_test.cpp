@@ -174,8 +174,8 @@ std::string NameOf(const testing::TestParamInfo<Package>& info) {
 
 const std::string kThrough = "': leads through a link";
 const std::string kThroughTarget = "': links through a link";
-const std::string kAside = "': links to what is outside";
-const std::string kNoFile = "': links to no file";
+const std::string kAside = "': links out of the target folder";
+const std::string kNoFile = "': links to something other than a file";
 const std::string kNode = "refused entry 'a': is a pipe, socket or device";
 const std::string kRoot = "': would replace the target folder";
 const std::string kWriter = "archive_read_extract2 failed: '";
@@ -298,7 +298,7 @@ TEST_F(HostileTest, AManifestDoesNotLeadOut) {
          {"./b type=dir mode=0700 link=../outside/folder", "./b type=file mode=044 link=../outside",
           "./b type=link link=../outside type=file mode=044", "./. type=dir link=outside"}) {
         EXPECT_EQ(extract(std::string("#mtree\n") + entry + "\n./b/new type=file mode=0644\n"), -1);
-        EXPECT_TRUE(HasOneLine(log_, "': is a link and something else")) << log_;
+        EXPECT_TRUE(HasOneLine(log_, "': is a link and has another type")) << log_;
     }
 }
 

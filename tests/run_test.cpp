@@ -139,7 +139,7 @@ TEST_F(RunTest, ARecordThatIsNoneIsNeverObeyed) {
     for (std::size_t i = 0; i < cases.size(); ++i) {
         cases[i]();
         const Installation::Result result = installation_.run();
-        EXPECT_TRUE(Logged(result, "which is no record of an upgrade")) << "case " << i;
+        EXPECT_TRUE(Logged(result, "which isn't the record of an upgrade")) << "case " << i;
         EXPECT_TRUE(installation_.clientStarted());
         fs::remove_all(installation_.user("log"));
         EXPECT_EQ(Tree(installation_.home()), before) << "case " << i;
@@ -353,7 +353,7 @@ TEST_F(RunTest, AnotherInstallationWaitsForARunningUpgrade) {
     const auto second_logged = [this](const std::string& text) {
         return HasOneLine(ReadFile(installation_.user("log/launcher.log")), text);
     };
-    EXPECT_TRUE(WaitFor([&] { return second_logged("another launcher is at work"); }));
+    EXPECT_TRUE(WaitFor([&] { return second_logged("waiting for another launcher"); }));
     EXPECT_FALSE(Exists(installation_.home() + "/started"));
     close(pipe);  // a package of no bytes
     EXPECT_EQ(Installation::wait(first), 0);
@@ -378,7 +378,7 @@ TEST_F(RunTest, AnApplicationThatMayBeIncompleteIsReplacedOrKept) {
         MakeFile(installation_.user("upgrade.journal"), record);
         for (int start = 0; start < 12; ++start) {
             MakeFile(installation_.package(), package.substr(0, 1000));
-            EXPECT_TRUE(Logged(installation_.run(), "may be incomplete and is replaced"));
+            EXPECT_TRUE(Logged(installation_.run(), "may be incomplete and will be replaced"));
             EXPECT_EQ(Tree(installation_.app()), doubtful);
         }
         MakeFile(installation_.package(), package);

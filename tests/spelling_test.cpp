@@ -96,7 +96,7 @@ TEST_F(SpellingTest, NoEntryTakesThePlaceOfAnother) {
     for (const std::vector<Entry>& entries : refused) {
         EXPECT_EQ(extract(entries), -1) << entries[1].name;
         EXPECT_TRUE(HasOneLine(log_, "refused entry '" + entries[1].name +
-                                         "': this volume takes its name for another entry's"))
+                                         "': has the same name as another entry on this volume"))
             << log_;
     }
 }

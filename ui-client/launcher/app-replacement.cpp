@@ -45,7 +45,7 @@ ustring GetAppBackupDir(ustring const& app, int n) {
 Presence LookAt(const ustring& path, std::uint64_t* object = nullptr) {
     const Presence presence = platform::LookAt(path.c_str(), object);
     if (presence == Presence::CantTell) {
-        LOG_MSG(ERROR, "failed to look at '%s': %s (%d)\n", path.c_str(), strerror(errno), errno);
+        LOG_MSG(ERROR, "failed to examine '%s': %s (%d)\n", path.c_str(), strerror(errno), errno);
     }
     return presence;
 }
@@ -73,7 +73,7 @@ void AppReplacement::Lock() {
     const auto deadline = std::chrono::steady_clock::now() + kLockPatience;
     lock_ = std::make_unique<platform::InstanceLock>(path);
     if (lock_->heldElsewhere()) {
-        LOG_MSG(NOTE, "another launcher is at work, waiting for it\n");
+        LOG_MSG(NOTE, "waiting for another launcher to finish\n");
     }
     while (lock_->heldElsewhere() && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::sleep_for(kLockInterval);
@@ -95,17 +95,17 @@ void AppReplacement::Recover() {
     if (finding == UpgradeJournal::Finding::Nothing) {
         condition_ = lock_->heldElsewhere() ? Condition::Blocked : Condition::Settled;
     } else if (!lock_->held() || finding == UpgradeJournal::Finding::CantTell) {
-        LOG_MSG(ERROR, "failed to undo an upgrade that was cut off\n");
+        LOG_MSG(ERROR, "failed to undo an interrupted upgrade\n");
     } else if (finding == UpgradeJournal::Finding::Damaged) {
-        LOG_MSG(WARNING, "removing '%s', which is no record of an upgrade\n",
+        LOG_MSG(WARNING, "removing '%s', which isn't the record of an upgrade\n",
                 journal_.path().c_str());
-        journal_.remove();  // when it fails, the next run tries again
+        journal_.remove();  // if that fails, the next run tries again
         condition_ = Condition::Settled;
     } else {
         condition_ =
             record_.state == UpgradeJournal::Installed ? RecoverInstalled() : RecoverReplacing();
         if (condition_ == Condition::Blocked) {
-            LOG_MSG(ERROR, "failed to undo an upgrade that was cut off\n");
+            LOG_MSG(ERROR, "failed to undo an interrupted upgrade\n");
         }
     }
 }
@@ -116,11 +116,11 @@ AppReplacement::Condition AppReplacement::RecoverInstalled() {
         return Condition::Blocked;
     }
     if (client == Presence::There) {
-        LOG_MSG(WARNING, "an upgrade was cut off after its end, removing backup app\n");
+        LOG_MSG(WARNING, "an upgrade was interrupted after its commit, removing backup app\n");
         RemoveBackups();
         return Condition::Settled;
     }
-    // Somebody has taken the new application away: a backup may be the only one.
+    // Somebody has removed the new application: a backup may be the only one left.
     if (record_.backup != UpgradeJournal::kNone && IsComplete(backup())) {
         LOG_MSG(WARNING, "the new application is gone, rollback to old installation '%s'\n",
                 backup().c_str());
@@ -140,17 +140,17 @@ AppReplacement::Condition AppReplacement::RecoverReplacing() {
         aside == Presence::CantTell) {
         return Condition::Blocked;
     }
-    // Backup names are free when a record names them, and the part is renamed to become the backup,
-    // so what is at either of the two is the old application. One that may be incomplete and has
-    // no client is none.
-    const bool is_none = record_.object == 0 && in_place == Presence::There &&
-                         aside == Presence::There &&
-                         FindStartableClient(backup().c_str()) == Presence::NotThere;
-    if (is_none) {
+    // A backup name is free before a record names it, and the part is renamed to become the backup.
+    // So what is at either of the two is the old application. If the record says that it may be
+    // incomplete, and it has no client, it doesn't count as an application.
+    const bool is_useless = record_.object == 0 && in_place == Presence::There &&
+                            aside == Presence::There &&
+                            FindStartableClient(backup().c_str()) == Presence::NotThere;
+    if (is_useless) {
         record_.leftovers |= 1U << record_.backup;
         FSRemoveOwnTree(backup());
     } else if (aside == Presence::There || part == Presence::There) {
-        LOG_MSG(WARNING, "an upgrade was cut off, rollback to old installation '%s'\n",
+        LOG_MSG(WARNING, "an upgrade was interrupted, rollback to old installation '%s'\n",
                 aside == Presence::There ? backup().c_str() : part_.c_str());
         const bool may_remove =
             IsComplete(backup()) || FindStartableClient(app_.c_str()) == Presence::NotThere;
@@ -163,16 +163,16 @@ AppReplacement::Condition AppReplacement::RecoverReplacing() {
         return Condition::Settled;
     }
     if (has_backup && object == record_.object) {
-        LOG_MSG(WARNING, "an upgrade was cut off before it moved anything\n");
+        LOG_MSG(WARNING, "an upgrade was interrupted before it moved anything\n");
         return Settle();
     }
-    LOG_MSG(WARNING, "an upgrade was not finished, '%s' may be incomplete and is replaced\n",
+    LOG_MSG(WARNING, "an upgrade was not finished, '%s' may be incomplete and will be replaced\n",
             app_.c_str());
     record_.object = 0;
     return Settle();
 }
 
-// What is in the application's place stays there: says so in the record, or removes the record.
+// Keeps what is in the application's place: records that, or removes the record.
 AppReplacement::Condition AppReplacement::Settle() {
     if (platform::SyncFolder(folder_.c_str()) != 0) {
         return Condition::Blocked;
@@ -183,7 +183,7 @@ AppReplacement::Condition AppReplacement::Settle() {
         return journal_.write(record_) == 0 ? Condition::Incomplete : Condition::Blocked;
     }
     if (record_.leftovers == 0) {
-        journal_.remove();  // left, it says that nothing was moved, which is right
+        journal_.remove();  // if it stays, it says that nothing was moved, which is true
         return Condition::Settled;
     }
     record_.state = UpgradeJournal::Installed;
@@ -196,16 +196,16 @@ AppReplacement::Condition AppReplacement::Settle() {
 
 int AppReplacement::Begin() {
     if (condition_ == Condition::Blocked) {
-        LOG_MSG(ERROR, "another upgrade is not finished\n");
+        LOG_MSG(ERROR, "not upgrading, because another upgrade is not finished\n");
         return -1;
     }
     const bool incomplete = condition_ == Condition::Incomplete;
     const std::uint32_t leftovers = Removable();
     record_ = UpgradeJournal::Record();
     record_.leftovers = leftovers;
-    condition_ = Condition::Blocked;  // until this one is settled
+    condition_ = Condition::Blocked;  // until this upgrade is settled
     if (platform::LookAtTarget(app_.c_str()) == Presence::NotThere) {
-        return BeginInstallation();  // which a dangling link keeps from succeeding
+        return BeginInstallation();  // fails if a dangling link is there
     }
     std::uint64_t object = 0;
     if (LookAt(app_, &object) != Presence::There) {
@@ -221,12 +221,12 @@ int AppReplacement::BeginInstallation() {
         LOG_MSG(ERROR, "failed to create folder: '%s'\n", app_.c_str());
     } else {
         if (!lock_->held()) {
-            Lock();  // there was no folder for it before
+            Lock();  // the lock's folder may not have existed before
         }
         if (lock_->held() && journal_.write(record_) == 0) {
             return 0;
         }
-        rmdir(app_.c_str());  // without a client it is not installed, if it stays
+        rmdir(app_.c_str());  // if it stays, it has no client, so it isn't considered installed
     }
     LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
     return -1;
@@ -250,8 +250,8 @@ int AppReplacement::BackUp() {
     return -1;
 }
 
-// One attempt to move the application to the backup's name, which must be free: then what is there
-// later can only be the application.
+// Tries once to move the application to the backup's name, which must be free, so that what is
+// there later can only be the application.
 AppReplacement::Attempt AppReplacement::TryBackUp() {
     const ustring to = backup();
     const bool is_free = rmdir(to.c_str()) == 0 || errno == ENOENT;
@@ -262,8 +262,8 @@ AppReplacement::Attempt AppReplacement::TryBackUp() {
         !MoveFolderByEntries(app_, part_, to) && !RestoreEntries()) {
         return Attempt::CantTell;
     }
-    // Look, for a remote disk can report a failure for what it has done. The move must be on the
-    // disk before something new gets the application's name.
+    // Check by looking, because a remote disk can report a failure for a rename that it has done.
+    // The move must be on the disk before a new application gets the name.
     if (Is(Presence::NotThere, to)) {
         return Attempt::NotMoved;
     }
@@ -274,8 +274,8 @@ AppReplacement::Attempt AppReplacement::TryBackUp() {
     return durable ? Attempt::Moved : RestoreBackup(false) ? Attempt::NotMoved : Attempt::CantTell;
 }
 
-// Moves back what was moved entry by entry, also in an earlier run. The application's inode may be
-// another one then.
+// Moves back what was moved entry by entry, also by an earlier run. This can change the
+// application's inode.
 bool AppReplacement::RestoreEntries() {
     const Presence part = LookAt(part_);
     if (part == Presence::NotThere) {
@@ -294,20 +294,20 @@ bool AppReplacement::RestoreEntries() {
 
 int AppReplacement::Commit() {
     if (must_have_client_ && !IsComplete(app_)) {
-        LOG_MSG(ERROR, "the package has no client\n");
+        LOG_MSG(ERROR, "the package has no client that can be started\n");
         RollBack();
         return -1;
     }
     if (platform::SyncVolume(app_.c_str()) != 0) {
-        LOG_MSG(ERROR, "failed to put '%s' on the disk: %s (%d)\n", app_.c_str(), strerror(errno),
+        LOG_MSG(ERROR, "failed to force '%s' to the disk: %s (%d)\n", app_.c_str(), strerror(errno),
                 errno);
         RollBack();
         return -1;
     }
     record_.state = UpgradeJournal::Installed;
-    record_.leftovers |= 1;  // an earlier version's may be there also when nothing was moved
+    record_.leftovers |= 1;  // an earlier version of the launcher may have left this backup
     if (journal_.write(record_) != 0) {
-        return -1;  // which of the two records is on the disk isn't known: both fit what is there
+        return -1;  // either record may be on the disk now, and both describe what is there
     }
     LOG_MSG(INFO, "user installation is ready, removing backup app\n");
     RemoveBackups();
@@ -326,8 +326,8 @@ void AppReplacement::RollBack() {
     }
 }
 
-// Puts the old application back in the place of what an unfinished upgrade has left there, which is
-// removed if it may be, or else set aside.
+// Moves the old application back. What an unfinished upgrade left in its place is removed, if
+// may_remove, or set aside.
 bool AppReplacement::RestoreBackup(bool may_remove) {
     for (int attempt = 0; attempt < kRestoreAttempts; ++attempt) {
         std::uint64_t object = 0;
@@ -344,12 +344,12 @@ bool AppReplacement::RestoreBackup(bool may_remove) {
         if (!Is(Presence::NotThere, app_) && !SetAside()) {
             continue;
         }
-        static_cast<void>(std::rename(backup().c_str(), app_.c_str()));  // the next look tells
+        static_cast<void>(std::rename(backup().c_str(), app_.c_str()));  // checked by looking
     }
     return Is(Presence::NotThere, backup()) && Is(Presence::There, app_);
 }
 
-// Makes the record know the old application by its present inode: moving it can have changed that.
+// Records the old application's present inode: moving it may have changed that.
 bool AppReplacement::Identify(std::uint64_t object) {
     if (record_.object == 0 || record_.object == object) {
         return true;
@@ -358,8 +358,8 @@ bool AppReplacement::Identify(std::uint64_t object) {
     return journal_.write(record_) == 0;
 }
 
-// Takes what is in the application's place away, to a free backup name that the record names from
-// before. If that is complete, what was set aside earlier isn't needed any more.
+// Moves what is in the application's place to a free backup name, which is recorded first. If it is
+// complete, what was set aside earlier isn't needed any more and is removed.
 bool AppReplacement::SetAside() {
     for (int n = 0; n < UpgradeJournal::kMaxBackups && IsComplete(app_); ++n) {
         if ((record_.leftovers >> n & 1) != 0 && n != record_.backup) {
@@ -383,8 +383,8 @@ std::uint32_t AppReplacement::Removable() const {
     return record_.leftovers | (installed ? (1U << (record_.backup + 1)) - 1 : 0);
 }
 
-// Removes these backups, and then the record. What can't be removed now keeps the record, so that
-// the next run tries again.
+// Removes these backups, and then the record. If a backup can't be removed now, the record stays,
+// so that the next run tries again.
 void AppReplacement::RemoveBackups() {
     bool gone = true;
     for (int n = 0; n < UpgradeJournal::kMaxBackups; ++n) {

@@ -41,8 +41,8 @@ const char* EntryGuard::admit(archive_entry* entry) {
     return nullptr;
 }
 
-// The path of a name as the writer reads it: without empty and "." elements, every element ending
-// in "/". false when there is a ".." among them.
+// Builds the path of a name as the writer understands it: without empty and "." elements, with a
+// "/" after each. Returns false when one of them is "..".
 bool EntryGuard::resolve(std::string_view name, std::string& path) const {
     path = root_;
     while (!name.empty()) {
@@ -58,13 +58,13 @@ bool EntryGuard::resolve(std::string_view name, std::string& path) const {
     return true;
 }
 
-// What the elements of a folder's path below the destination are: folders, a link among them, or
-// from one of them on not there. A file among them is the writer's business. Missing folders are
-// made as far as the first made bytes of the path reach.
+// Finds out whether the elements of a folder's path below the destination are folders, whether a
+// link is among them, or from which one on they are missing. A file among them is left to the
+// writer. Missing folders are created if they end within the first `made` bytes of the path.
 //
-// What the path shares with the one found before is not looked at again: only a link entry can put
-// a link there, and then the path before is that of the folder it is in. Each element is opened
-// from the one before; the whole paths, the writer's too, would be walked from the start each time.
+// The part that the path has in common with the last one isn't checked again: only a link entry can
+// put a link there, and then the last path is that of the folder it is in. Each element is opened
+// from the one before, because the system would walk whole paths from the start each time.
 EntryGuard::Way EntryGuard::walk(const std::string& folder, std::size_t made) {
     const auto shared =
         std::mismatch(checked_.begin(), checked_.end(), folder.begin(), folder.end()).second;
@@ -96,7 +96,7 @@ EntryGuard::Way EntryGuard::walk(const std::string& folder, std::size_t made) {
     return Way::Free;
 }
 
-// Of what couldn't be opened as a folder.
+// Classifies what couldn't be opened as a folder.
 EntryGuard::Way EntryGuard::whatIsAt(int folder, const char* name) {
     struct stat status;
     if (fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
@@ -117,10 +117,10 @@ const char* EntryGuard::refusal(archive_entry* entry) {
     if (IsNode(entry)) {
         return "is a pipe, socket or device";
     }
-    // The text formats can call a link a file or a folder. The writer makes the link, and then
-    // gives what it leads to the rights of the file.
+    // In text formats a link can have the type of a file or a folder. The writer creates the link,
+    // and then sets the permissions of its target.
     if (archive_entry_symlink(entry) != nullptr && archive_entry_filetype(entry) != AE_IFLNK) {
-        return "is a link and something else";
+        return "is a link and has another type";
     }
     if (path == root_ && !is_folder) {
         return "would replace the target folder";
@@ -133,18 +133,18 @@ const char* EntryGuard::refusal(archive_entry* entry) {
 }
 
 const char* EntryGuard::refusalOfPlace(const std::string& path, bool is_folder) {
-    // The writer takes a link to a folder for the folder, but replaces a link in a file's place.
-    // The folder itself is the writer's to make, with the entry's permissions.
+    // The writer follows a link where a folder should be, but replaces one where a file should be.
+    // It also creates the folder itself, with the entry's permissions.
     const std::string parent = FolderOf(path);
     const Way way = walk(is_folder ? path : parent, parent.size());
     return way == Way::Linked    ? "leads through a link"
            : way == Way::Unknown ? "its folder can't be opened"
-           : isOthersPlace(path) ? "this volume takes its name for another entry's"
+           : isOthersPlace(path) ? "has the same name as another entry on this volume"
                                  : nullptr;
 }
 
-// Whether the writer would replace what an entry of another name has left at the path, or at the
-// first part of it where walk() found no folder.
+// Whether an entry that is spelled differently has created what is at the path, or at the first
+// part of it where walk() found no folder. The writer would replace that.
 bool EntryGuard::isOthersPlace(const std::string& path) const {
     if (!ignores_spelling_ || checked_ == path) {
         return false;
@@ -174,18 +174,19 @@ bool EntryGuard::isStoredAs(const std::string& path) const {
     return true;
 }
 
-// The writer refuses a target that doesn't exist.
+// A target that doesn't exist is left to the writer, which refuses it.
 const char* EntryGuard::refusalOfTarget(const char* target) {
     std::string path;
     if (!resolve(target, path)) {
-        return "links to what is outside";
+        return "links out of the target folder";
     }
     const Way way = path == root_ ? Way::Free : walk(FolderOf(path), 0);
     if (way == Way::Linked || way == Way::Unknown) {
-        return way == Way::Linked ? "links through a link" : "its target can't be looked at";
+        return way == Way::Linked ? "links through a link" : "its target can't be examined";
     }
     path.pop_back();
     struct stat status;
-    return lstat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) ? "links to no file"
-                                                                         : nullptr;
+    return lstat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)
+               ? "links to something other than a file"
+               : nullptr;
 }

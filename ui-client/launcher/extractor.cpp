@@ -25,14 +25,14 @@ namespace {
 
 const ustring log_component("extractor_debug");
 
-// Bytes of a file that is worth a call of its own, to be on its way to the disk while the next ones
-// are unpacked.
+// From this size on, in bytes, the system is asked to start writing a file to the disk while the
+// next ones are unpacked. For smaller files the call isn't worth it.
 const la_int64_t kLargeFile = 131072;
 const int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
-// The message of the object that failed; for a failed extraction it can be either's. It may quote
-// a name.
+// The error text of the object that failed. When extracting fails, either object may have it. It
+// may quote a name, so it is made printable.
 std::string ErrorText(archive* failed, archive* other = nullptr) {
     for (archive* const object : {failed, other}) {
         const char* const text = object != nullptr ? archive_error_string(object) : nullptr;
@@ -62,11 +62,11 @@ bool OpenForListing(const Extractor& extractor, PackageReader& package) {
     return true;
 }
 
-// The folders that their owner may not write, read or search once all is unpacked. libarchive gives
-// them their permissions when it is closed, and doesn't say when that fails.
+// The folders that their owner may not read, write or search when everything is unpacked.
+// libarchive sets their permissions when the writer is closed, and doesn't report a failure.
 class ClosedFolders {
   public:
-    // Before the entry is written: one that is there already keeps the permissions that it has.
+    // Call it before the entry is written: a folder that exists already keeps its permissions.
     void add(archive_entry* entry) {
         const mode_t mode = archive_entry_perm(entry);
         struct stat status;
@@ -76,7 +76,7 @@ class ClosedFolders {
         }
     }
 
-    // Whether each that is still there has no other permissions than those of its last entry.
+    // Whether none of those that still exist has a permission that its last entry doesn't give.
     bool areClosed() const {
         std::set<ino_t> seen;
         for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder) {
@@ -125,10 +125,10 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGu
     return 0;
 }
 
-// Whether an archive that was read to its last entry without an error is all there.
+// Whether an archive that was read to its last entry without an error is complete.
 bool IsWhole(PackageReader& package, int entries) {
     if (!package.endIsThere()) {
-        LOG_MSG(ERROR, "the archive was cut off after %d entries\n", entries);
+        LOG_MSG(ERROR, "the archive is truncated after %d entries\n", entries);
         return false;
     }
     if (package.finish() != ARCHIVE_OK) {
@@ -190,7 +190,7 @@ int Extractor::Extract() {
     if (ExtractEntries(package, writer.get(), dest_dir, total, closed) != 0) {
         return -1;
     }
-    // Closing applies what was put off until now: the permissions of folders.
+    // Closing sets the permissions of folders, which libarchive has postponed.
     if (archive_write_close(writer.get()) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_write_close failed: '%s'\n", ErrorText(writer.get()).c_str());
         return -1;
@@ -207,7 +207,7 @@ int Extractor::Count() {
     archive_entry* entry = nullptr;
     while (package.next(entry) == ARCHIVE_OK) {
         ++count;
-        archive_read_data_skip(package.get());  // a damaged entry shows at the next header
+        archive_read_data_skip(package.get());  // if that fails, so does the next header
     }
     return count;
 }
