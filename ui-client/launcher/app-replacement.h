@@ -13,31 +13,32 @@
 //
 // Begin moves the old application aside under a backup name; Commit makes the new one the user's
 // and removes the backup; RollBack moves the old one back. A journal on the disk lets the next run
-// finish or undo what was cut off. Its invariants, whatever fails or is cut off:
+// finish or undo an interrupted upgrade. The invariants, whatever fails or interrupts a run:
 //
 //   1. Looking at a path says "there", "not there" or "can't tell". "Can't tell" never leads to
 //      removing something, unpacking over it, or dropping the record: everything stays as it is.
-//   2. A tree is removed only when this run has created it or has seen a complete application
-//      elsewhere, or when it has no client, so that it is no application, and the old one is there.
-//      What could be the only application is set aside under a free backup name instead.
-//   3. Nothing is unpacked without a durable record, a first installation included. What is in the
-//      application's place under such a record is never taken for installed.
+//   2. A tree is removed only when this run has created it, when this run has seen a complete
+//      application elsewhere, or when it has no client, so that it isn't an application, and the
+//      old one exists. A tree that could be the only application is set aside instead, under a
+//      free backup name.
+//   3. Nothing is unpacked without a durable record, also in a first installation. What is in the
+//      application's place under such a record is never considered installed.
 //   4. The record changes atomically.
 //   5. Folders in a tree of ours are made accessible before the tree is removed. Links are not
 //      followed, other volumes are not entered.
 //   6. One launcher at a time works on a user's folder, also when several copies are installed.
-//   7. At most one backup is left, and nothing else, as soon as a run could remove the rest.
+//   7. As soon as a run can remove the others, at most one backup is left, and nothing else.
 //   8. Our paths are looked up by the bytes that the system gave.
 //
-// The log lines carry the tag of tarnwell-service, the source whose operations they report.
+// The log lines have the tag of tarnwell-service, whose operations they report.
 // Threads: an object belongs to one thread.
 class AppReplacement {
   public:
     // The user folder, and the application folder in it.
     AppReplacement(ustring folder, ustring app);
 
-    // Takes the lock, which is held until the object is destroyed. Waits up to a minute for another
-    // launcher that holds it.
+    // Takes the lock, which is held until the object is destroyed. If another launcher holds it,
+    // waits up to a minute.
     void Lock();
 
     // Whether the application may be started: false when another launcher is replacing it.
@@ -49,7 +50,7 @@ class AppReplacement {
         Blocked      // the system can't tell, or another launcher is at work: nothing may change
     };
 
-    // Finishes or undoes what an earlier run was cut off in. Must run before anything looks at the
+    // Finishes or undoes an interrupted upgrade. Must be called before anything looks at the
     // application.
     void Recover();
     Condition condition() const { return condition_; }
@@ -63,8 +64,8 @@ class AppReplacement {
     // everything has been left for the next run, because the record can't be written.
     int Commit();
 
-    // Undoes Begin after a failed extraction. What the extraction of a first installation has left
-    // stays; the next run replaces it.
+    // Undoes Begin after a failed extraction. What a failed first installation has unpacked stays;
+    // the next run replaces it.
     void RollBack();
 
   private:
@@ -88,12 +89,12 @@ class AppReplacement {
 
     const ustring folder_;
     const ustring app_;
-    const ustring part_;  // where the entries of an application that can't be renamed are gathered
+    const ustring part_;  // collects the entries of an application folder that can't be renamed
     const UpgradeJournal journal_;
     std::unique_ptr<platform::InstanceLock> lock_;
     UpgradeJournal::Record record_;
     Condition condition_ = Condition::Blocked;
-    bool must_have_client_ = false;  // the old application has one, or the system can't tell
+    bool must_have_client_ = false;  // the old application has a client, or the system can't tell
 };
 
 #endif

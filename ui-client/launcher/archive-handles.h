@@ -6,8 +6,8 @@
 
 #include <memory>
 
-// The owners of libarchive's objects. Their ends only release: what closing an object that writes
-// returns must have been looked at before, or the work has failed anyway.
+// Owners of libarchive's objects. They ignore errors when they free an object, so close a writer
+// and check the result before, unless the work has failed anyway.
 
 struct ArchiveFreer {
     void operator()(archive* object) const { archive_free(object); }

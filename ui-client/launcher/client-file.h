@@ -5,7 +5,7 @@
 
 #include "lib/platform/presence.h"
 
-// The client in the application folder at path app, whose bytes are used as they are. CantTell when
+// Look for the client in the application folder at path app (bytes, used unchanged). CantTell when
 // the system doesn't let us look (no permission, too many open files, a failing disk).
 // Threads: any.
 

@@ -8,9 +8,9 @@
 
 namespace {
 
-const std::size_t kHeadSize = 8;  // bytes, up to what says which checksum there is
+const std::size_t kHeadSize = 8;  // bytes; enough for the field that says which checksum there is
 
-// Of the compression of a file that begins with head.
+// Whether a file with this compression that begins with head has a checksum.
 bool StreamHasChecksum(int compression, std::string_view head) {
     switch (compression) {
         case ARCHIVE_FILTER_GZIP:

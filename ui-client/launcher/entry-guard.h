@@ -9,9 +9,9 @@
 #include "lib/platform/stored-name.h"
 
 // Keeps the entries of a package, which isn't trusted, inside the folder that they are unpacked
-// into, and apart from each other: on a volume that ignores letter case, one must not take the
-// place of another under another spelling. Nobody else may change that folder meanwhile. Threads:
-// one object belongs to one thread.
+// into, and apart from each other: on a volume that ignores letter case, an entry must not replace
+// one that is spelled differently. Nobody else may change that folder meanwhile. Threads: one
+// object belongs to one thread.
 class EntryGuard {
   public:
     // destination is the path of an existing folder.
@@ -19,12 +19,12 @@ class EntryGuard {
         : root_(destination + '/'), ignores_spelling_(platform::MayIgnoreSpelling(destination)) {}
 
     // Prepares an entry for libarchive's disk writer, which must have written or refused the one
-    // before. Returns null when the entry may be written: its path and the target of a hard link
-    // then are below the destination, no link leads there, and the folder that it is in exists.
-    // Otherwise says why not, in a text that lives forever, and leaves the entry as it is.
+    // before. Returns null when the entry may be written: then its path and the target of a hard
+    // link are below the destination, no link leads there, and the folder that it is in exists.
+    // Otherwise returns the reason, a literal, and leaves the entry unchanged.
     //
-    // The entry must have a name. Names that hold ".." and folders that can't be made are left to
-    // the writer, which refuses them.
+    // The entry must have a name. Names that contain ".." and folders that can't be created are
+    // left to the writer, which refuses them.
     const char* admit(archive_entry* entry);
 
   private:

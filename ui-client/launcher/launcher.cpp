@@ -66,9 +66,9 @@ void Worker::HandleServicce() {
 Launcher::Launcher() : worker(new Worker), dialog(ProcessingProgressDialog::Create()) {
     dialog->setCancelButton(nullptr);
     dialog->setAutoReset(false);
-    // Left alone, a progress dialog shows itself after a while, also when there is no upgrade.
+    // By default a progress dialog shows itself after a while, even if there is no upgrade.
     dialog->setMinimumDuration(std::numeric_limits<int>::max());
-    // The user may close the window; the run ends when the work is done.
+    // The user may close the window; the run continues until the work is done.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     connect(this, SIGNAL(sigStart()), worker.get(), SLOT(HandleServicce()));

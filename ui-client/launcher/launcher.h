@@ -18,8 +18,8 @@ class HandlerThread : public QThread {
     void run() override;
 };
 
-// Runs the upgrade on a thread that it owns. Created and destroyed on the main thread;
-// its slot runs on the worker thread. Destroying it waits for a run that has begun.
+// Runs the upgrade on a thread that it owns. Created and destroyed on the main thread; its slot
+// runs on the worker thread. The destructor waits for a run that has begun.
 class Worker : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY(Worker)
@@ -29,7 +29,7 @@ class Worker : public QObject {
     ~Worker() override;
 
     void StartThread();
-    void QuitThread();  // once the slot has returned
+    void QuitThread();  // takes effect when the slot has returned
     void JoinThread();  // waits without a time limit
 
   signals:

@@ -33,9 +33,9 @@ const ustring log_component("launcher_debug");
 
 const int kRotateCount = 50;
 
-// File names are UTF-8, whatever character set the environment names: a package unpacks the same
-// for every user. Qt reads the environment again while the application object is made, so the C
-// library's part comes after it.
+// File names are UTF-8, whatever character set the environment names, so that a package is unpacked
+// to the same names for every user. Qt sets the C library's locale from the environment while the
+// application object is created, so UseUtf8InLibC() is called after that.
 void UseUtf8InQt() {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
@@ -53,14 +53,13 @@ QString SetLibraryPath(const char* program_path) {
                                       QStringLiteral("/../../Frameworks/plugins"));
     QCoreApplication::setLibraryPaths(QStringList(plugins));
     std::printf("lib path = '%s'\n", plugins.toUtf8().constData());
-    static_cast<void>(
-        std::fflush(stdout));  // to be seen also when Qt finds no plug-in there and gives up
+    static_cast<void>(std::fflush(stdout));  // because Qt aborts if it finds no plug-in there
     return plugins;
 }
 
-// Names the platform plug-in's folder to Qt while the application object is made, where the library
-// path doesn't lead there: for a program name that was found in PATH, or that isn't ASCII. Without
-// that plug-in Qt would end the process.
+// Tells Qt the platform plug-in's folder while the application object is created, if the library
+// path doesn't lead there: the program's name was found in PATH, or isn't ASCII. Without that
+// plug-in Qt aborts.
 class PlatformPluginPath {
   public:
     explicit PlatformPluginPath(const QString& library_path)
@@ -72,7 +71,7 @@ class PlatformPluginPath {
                                       QStringLiteral("/../Frameworks/plugins/platforms")));
         }
     }
-    // It is for us, not for the client that we start.
+    // The variable is for this process, not for the client that it starts.
     void release() const {
         if (needed_) {
             qunsetenv(kVariable);
@@ -84,13 +83,13 @@ class PlatformPluginPath {
     const bool needed_;
 };
 
-// Anything else in the log file's place could hold us up, or be somebody else's.
+// Anything but a regular file in the log's place could block this process or lead elsewhere.
 bool MayOpenLog(const ustring& path) {
     struct stat status;
     return lstat(path.c_str(), &status) != 0 || S_ISREG(status.st_mode);
 }
 
-// Without a log file the messages go to standard error.
+// If there can't be a log file, the messages go to standard error.
 void InitializeLog() {
     const ustring level_file =
         Service::GetRootTarnwellInstallPath() + "/" + install_layout::kLevelFile;
@@ -113,7 +112,7 @@ bool IsUtf8(const QByteArray& bytes) {
     return QString::fromUtf8(bytes).toUtf8() == bytes;
 }
 
-// Qt would take another folder for a home that isn't named in UTF-8.
+// If the home isn't named in UTF-8, Qt would use another folder.
 void OnlyStartClient(const QByteArray& home) {
     LOG_MSG(ERROR, "home folder '%s' is not named in UTF-8, the client is not upgraded\n",
             home.constData());

@@ -39,8 +39,8 @@ bool IsEmptyFolder(const Place& place) {
     return chain.enter(place) && chain.read(entry) == 0;
 }
 
-// The two chains are at the same level between the steps. Both halves of a folder are unlocked
-// together only while its own entries are moved; the new half gets its permissions back before the
+// Between two steps both chains are at the same level. Both halves of a folder are unlocked at the
+// same time only while its own entries are moved; the new half gets its permissions back before the
 // next folder is entered, so that they can be read from it after a kill.
 class EntryMove : private file_op::Walk {
   public:
@@ -75,9 +75,9 @@ class EntryMove : private file_op::Walk {
         return true;
     }
 
-    // The permissions of a folder of which a move that was killed has left a half on each side. One
-    // half can have been unlocked for its owner. The newer one, if empty, can have been made just
-    // before the kill, for its owner alone.
+    // The permissions of a folder of which a killed move has left a half on each side. One half may
+    // have been unlocked for its owner. The newer half, if empty, may have been created just before
+    // the kill, for its owner only.
     mode_t mergedMode() const {
         const mode_t others = 07777 & ~S_IRWXU;
         const mode_t mode = to_.mode() & (chain_.mode() | others);
@@ -110,7 +110,7 @@ class EntryMove : private file_op::Walk {
             if (renameat(src.folder, src.name, dst.folder, dst.name) == 0) {
                 return true;
             }
-            // To rename a folder changes its "..", for which its owner needs the right to write.
+            // Renaming a folder changes its "..", which needs the permission to write to it.
             const bool must_stay =
                 errno == EXDEV || (errno == EACCES && (status.st_mode & S_IWUSR) == 0);
             if (!is_folder || !must_stay || !MakeFolderLike(src, dst)) {
@@ -134,11 +134,11 @@ class EntryMove : private file_op::Walk {
         if (!chain_.leave() || !to_.leave()) {
             return false;
         }
-        return chain_.empty() || removeLeft() ||
-               (file_op::IsNoPermission() && chain_.unlock() && removeLeft());
+        return chain_.empty() || removeEmptied() ||
+               (file_op::IsNoPermission() && chain_.unlock() && removeEmptied());
     }
 
-    bool removeLeft() const {
+    bool removeEmptied() const {
         const Place emptied = left(from_);
         return unlinkat(emptied.folder, emptied.name, AT_REMOVEDIR) == 0;
     }
@@ -159,7 +159,7 @@ bool MoveEntries(const ustring& from, const ustring& to) {
 }
 
 bool MoveFolderByEntries(const ustring& from, const ustring& via, const ustring& to) {
-    rmdir(via.c_str());  // an empty one may be left
+    rmdir(via.c_str());  // an earlier run may have left an empty one
     return MakeFolderLike(from, via) && MoveEntries(from, via) &&
            platform::SyncVolume(via.c_str()) == 0 && std::rename(via.c_str(), to.c_str()) == 0 &&
            rmdir(from.c_str()) == 0;

@@ -4,9 +4,9 @@
 #include <QObject>
 #include <QString>
 
-// Passes the progress of an extraction, which knows no user interface, on to its listeners. There
-// is one in the process; it belongs to the thread of the first GetInstance(), which must be the
-// main thread. Threads: the methods may be called from any thread.
+// Passes on the progress of an extraction, which has no user interface itself. There is one object
+// in the process; it belongs to the thread of the first GetInstance(), which must be the main
+// thread. Threads: the methods may be called from any thread.
 class Notify_Adapter : public QObject {
     Q_OBJECT
 

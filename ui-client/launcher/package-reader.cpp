@@ -7,8 +7,9 @@ namespace {
 const std::size_t kBlockSize = 10240;          // bytes read from the file at a time
 const std::size_t kDecompressedBlock = 65536;  // bytes
 
-// Enables what libarchive decompresses itself. Where it was built without a library, it would run a
-// program, and says so with a warning; for lrzip and grzip it always would.
+// Enables the compressions that libarchive decodes itself. For one whose library it was built
+// without, it would run a program, and enabling it returns a warning. lrzip and grzip are left out:
+// for them it always runs a program.
 void SupportCompressions(archive* reader) {
     const ArchiveHandle trial(archive_read_new());
     for (int (*const support)(archive*) :
@@ -24,8 +25,8 @@ void SupportCompressions(archive* reader) {
     }
 }
 
-// A zip that was cut in the directory at its end still gives its files, but their modes and links
-// are lost.
+// From a zip whose directory at the end is truncated, libarchive still reads the files, but without
+// their modes and links.
 bool HasWholeDirectory(const char* path) {
     const ArchiveHandle reader(archive_read_new());
     archive_entry* entry = nullptr;
@@ -52,9 +53,9 @@ int PackageReader::open(const char* path, Stream stream) {
     return stream == Stream::Verified ? openVerified() : ARCHIVE_OK;
 }
 
-// In one reader libarchive would neither look at gzip's checksum nor read on to the end of the
-// stream, where checksums are. So zlib reads the file, which hands on what isn't gzip as it is, one
-// reader decompresses the rest, and another one finds the entries in that.
+// A single libarchive reader would neither verify gzip's checksum nor read to the end of the
+// stream, where the other checksums are. So zlib reads the file and passes through what isn't gzip,
+// one reader decompresses that, and another one finds the entries.
 int PackageReader::openVerified() {
     entries_.reset(archive_read_new());
     stream_.reset(archive_read_new());
@@ -123,10 +124,10 @@ bool PackageReader::endIsThere() {
     if (format == ARCHIVE_FORMAT_TAR) {
         return archive_filter_bytes(entries_.get(), 0) != position_;
     }
-    if (format != ARCHIVE_FORMAT_ZIP || compression_ != ARCHIVE_FILTER_NONE) {  // has no end to see
-        return true;
+    if (format != ARCHIVE_FORMAT_ZIP || compression_ != ARCHIVE_FILTER_NONE) {
+        return true;  // nothing marks the end
     }
-    entries_.reset();  // it may hold as much of the directory as the next one
+    entries_.reset();  // to have one copy of the directory in memory, not two
     return HasWholeDirectory(path_.c_str());
 }
 

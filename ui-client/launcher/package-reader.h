@@ -10,12 +10,12 @@
 #include "ui-client/launcher/archive-handles.h"
 
 // Reads the entries of a package in any format and compression that libarchive decodes itself; no
-// other program is run for one that it doesn't. The checksums that the package carries over its
-// content are verified: those of single entries (zip, 7z) when the entry's data is read to its end,
-// that of a compressed stream at the latest by finish().
+// other program is run. The package's checksums over its content are verified: those of single
+// entries (zip, 7z) when the entry's data is read to its end, that of a compressed stream at the
+// latest by finish().
 //
-// The operations return libarchive's results; after a failure, get() knows the reason. Threads: one
-// object belongs to one thread.
+// The operations return libarchive's results; after a failure, get() has the error text. Threads:
+// one object belongs to one thread.
 class PackageReader {
   public:
     PackageReader();
@@ -23,29 +23,30 @@ class PackageReader {
     PackageReader(const PackageReader&) = delete;
     PackageReader& operator=(const PackageReader&) = delete;
 
-    // false when there is no memory; then nothing else may be called.
+    // False when memory ran out; then nothing else may be called.
     bool allocated() const { return entries_ != nullptr; }
 
-    // Opens the file at path (UTF-8). To be called once, before everything below. With
-    // Stream::Unverified, the checksum of a compressed stream isn't looked at, which takes less
-    // time and will do for the names of the entries.
+    // Opens the file at path (UTF-8). Call it once, before everything below. With
+    // Stream::Unverified, the checksum of a compressed stream isn't verified, which takes less time
+    // and is enough to list the entries.
     enum class Stream { Verified, Unverified };
     int open(const char* path, Stream stream);
 
-    // The reader of the current entry's data; owned by this object. null when memory ran out, and
-    // at the end of a zip.
+    // The reader of the current entry's data; owned by this object. Null when memory ran out, and
+    // after endIsThere() of a zip.
     archive* get() const { return entries_.get(); }
 
-    // Goes to the next entry, which is owned by this object and valid until the next call.
-    // ARCHIVE_EOF after the last one.
+    // Advances to the next entry, which is owned by this object and valid until the next call.
+    // Returns ARCHIVE_EOF after the last one.
     int next(archive_entry*& entry);
 
-    // Whether what marks the end of a tar or zip is there: a file that was cut off between two
-    // entries has none. To be called once, after ARCHIVE_EOF; no entry can be read afterwards.
+    // Whether the mark at the end of a tar, or the directory at the end of a zip, is there: a file
+    // that is truncated between two entries has none. True for other formats and for a compressed
+    // zip. Call it once, after ARCHIVE_EOF; no entry can be read afterwards.
     bool endIsThere();
 
-    // Reads what follows the entries in a compressed stream, the checksum at its end included. To
-    // be called after ARCHIVE_EOF.
+    // Reads what follows the entries in a compressed stream, including the checksum at its end.
+    // Call it after ARCHIVE_EOF.
     int finish();
 
     // How the file as a whole is compressed: one of libarchive's ARCHIVE_FILTER_ codes. Of several
@@ -65,10 +66,10 @@ class PackageReader {
     int compression_ = ARCHIVE_FILTER_NONE;
     la_int64_t position_ = 0;  // in the archive, where the last entry ended
 
-    // Of a compressed file; each reads from the one before.
-    std::unique_ptr<gzFile_s, GzipCloser> file_;  // its bytes, decompressed if they are gzip's
-    std::vector<unsigned char> block_;            // those that were read last
-    ArchiveHandle stream_;                        // decompresses whatever else they are
+    // For a compressed file; each reads from the one before.
+    std::unique_ptr<gzFile_s, GzipCloser> file_;  // decompresses gzip, passes other bytes through
+    std::vector<unsigned char> block_;            // the bytes that were read last
+    ArchiveHandle stream_;                        // decompresses everything else
 
     ArchiveHandle entries_;  // reads from the stream, or from a file that isn't compressed
 };

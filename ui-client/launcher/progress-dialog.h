@@ -12,8 +12,8 @@ class ProcessingProgressDialog : public QProgressDialog {
   public:
     ProcessingProgressDialog();
 
-    // Gives the application the family of the dialog's font, then creates the dialog. A dialog is
-    // laid out before it has its own font: when both have one family, no second font is loaded.
+    // Sets the application's font family to the dialog's, then creates the dialog. A dialog is laid
+    // out before it gets its own font: with two families, two fonts would be loaded.
     static std::unique_ptr<ProcessingProgressDialog> Create();
 };
 

@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 namespace {
 
 // Whether a canonical path is that of a client in the application folder or in one of its backups,
-// which have its name and something after a "_".
+// whose names begin with the application's and "_".
 bool IsClientPath(const fs::path& path, const fs::path& app) {
     std::error_code error;
     const fs::path relative = path.lexically_relative(fs::canonical(app.parent_path(), error));
@@ -31,7 +31,7 @@ bool IsScript(const std::string& path, const std::string& app) {
            platform::ReadUpTo(file.get(), 1, begin) && begin == "#!";
 }
 
-// The file that an interpreter was given: its first argument, or the second one after an option.
+// The script of an interpreter: its first argument, or the second if the first is an option.
 fs::path Script(const platform::ProcessInfo& process) {
     const auto& arguments = process.arguments;
     const std::size_t at = arguments.size() > 2 && arguments[1][0] == '-' ? 2 : 1;
@@ -53,7 +53,7 @@ bool RunsClient(const platform::ProcessInfo& process, const std::string& app) {
         is_run(file)) {
         return true;
     }
-    // In a container the same path can be that of another file.
+    // A process in a container may run another file that has the same path there.
     const bool elsewhere =
         !process.executable_gone && stat(process.executable.c_str(), &file) == 0 && !is_run(file);
     if (!elsewhere && IsClientPath(process.executable, app)) {

@@ -5,9 +5,10 @@
 
 #include "lib/platform/process-info.h"
 
-// Whether a process, of which the executable is known, runs the client of the application folder at
-// path app: its executable, or the script when the client is one, is that very file, or is gone
-// from there, or is in the folder of a backup of the application. Threads: any.
+// Whether a process, whose executable must be known, runs the client of the application folder at
+// path app. That is so when its executable, or its script if the client is one, is the client's
+// file, was at the client's path before it was removed, or is the client of a backup of the
+// application. Threads: any.
 bool RunsClient(const platform::ProcessInfo& process, const std::string& app);
 
 #endif

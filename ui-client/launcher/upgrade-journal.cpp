@@ -58,7 +58,7 @@ int BackupIn(const std::string& value) {
                                                                    : UpgradeJournal::kNone;
 }
 
-// Reads what it can; whether all of it was the text of a record, comparing the texts will tell.
+// Parses what it can. The caller formats the result again and compares the texts to detect damage.
 UpgradeJournal::Record RecordIn(const std::string& text) {
     UpgradeJournal::Record record;
     record.state = ValueOf("state", text) == kStates[UpgradeJournal::Installed]
@@ -72,9 +72,9 @@ UpgradeJournal::Record RecordIn(const std::string& text) {
     return record;
 }
 
-// Creates a file of the text that is on the disk when this returns 0; -1 with errno set.
+// Creates a file with the text and forces it to the disk. Returns 0, or -1 with errno set.
 int WriteDurably(const char* path, const std::string& text) {
-    unlink(path);  // when it fails, so does the open
+    unlink(path);  // if this fails on an existing file, so does open()
     platform::Descriptor file(
         open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     const bool written =
@@ -132,5 +132,5 @@ int UpgradeJournal::remove() const {
 }
 
 void UpgradeJournal::removeUnfinished() const {
-    unlink(new_path_.c_str());  // in most runs nothing is there
+    unlink(new_path_.c_str());  // usually there is none
 }

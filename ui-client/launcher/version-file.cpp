@@ -29,8 +29,8 @@ Reading LoadVersion(const char* path, VerInfo& version, const char* inside) {
         const bool forbidden = reading == Reading::Failed && (errno == EACCES || errno == EPERM);
         return forbidden ? Reading::Refused : reading;
     }
-    // QSettings would open the file once more, without a word when that fails, and would take one
-    // of the same size and time that has replaced it for the one that it has read before.
+    // QSettings gets a copy, because it would open the file again and not report a failure. It also
+    // caches files: it would not notice that one was replaced by one of the same size and time.
     const platform::MemoryFile copy(text);
     const QString copy_path = QString::fromStdString(copy.path());
     if (!QFile::exists(copy_path)) {

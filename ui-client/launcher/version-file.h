@@ -12,13 +12,13 @@ struct VerInfo {
     ustring icon_overlay_version;
 };
 
-// Reads the version file at path (bytes, used as they are) into version. With inside, the file must
-// be in that folder once links are followed. A key that is missing leaves its field as it was, and
-// so does every result but Done:
+// Reads the version file at path (bytes, used unchanged) into version. inside, unless null, is a
+// folder that must contain the file, at any depth, once links are followed. A missing key leaves
+// its field unchanged, and so does every result but Done:
 //   Missing  there is no such file
 //   Refused  it isn't a regular file of at most 1 MiB in that folder, or this user may not read it;
-//            it will be no different at the next try
-//   Failed   the system can't tell now (EIO, EMFILE, ENFILE, ENOMEM, ...): the version is unknown,
+//            trying again would give the same result
+//   Failed   the system can't say now (EIO, EMFILE, ENFILE, ENOMEM, ...): the version is unknown,
 //            which isn't the same as none
 // Threads: any.
 platform::Reading LoadVersion(const char* path, VerInfo& version, const char* inside = nullptr);

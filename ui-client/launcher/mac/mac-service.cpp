@@ -36,8 +36,8 @@ int BuildNumber(const VerInfo& version) {
     return static_cast<int>(std::strtol(version.build_version.c_str(), nullptr, 10));
 }
 
-// The process id in the pid file's entry, or -1 for what must not be signalled: no positive number
-// (0 and less address process groups), one that no process can have, and ourselves.
+// The process id in the pid file's entry. -1 for what must not be signalled: anything but a
+// positive number (0 and less address process groups), an id that no process can have, and our own.
 pid_t ClientPid(const std::map<ustring, ustring>& entries, const ustring& pid_file) {
     const auto entry = entries.find("pid");
     const char* const text = entry != entries.end() ? entry->second.c_str() : "";
@@ -50,9 +50,9 @@ pid_t ClientPid(const std::map<ustring, ustring>& entries, const ustring& pid_fi
 }
 
 // Whether the process is the client of this application folder that wrote the pid file at that
-// time, and not one that was given the client's id after its end. What the process runs decides
-// where that can be read, and otherwise when it was started. In doubt it is the client: one that
-// can't be looked at is most often another user's, who can't be signalled.
+// time, and not another process that got its id later. If the process's executable can be read, it
+// decides; otherwise the time of the start does. True in doubt: a process that can't be examined
+// usually belongs to another user and can't be signalled anyway.
 bool IsClient(pid_t pid, std::time_t written, const ustring& app) {
     const platform::ProcessInfo process = platform::DescribeProcess(pid);
     if (!process.executable.empty()) {
@@ -75,7 +75,7 @@ bool IsGone(pid_t pid) {
     return kill(pid, 0) != 0 && errno == ESRCH;
 }
 
-// Ends the client, whose id can be given to another process meanwhile.
+// Ends the client. Checks it again before SIGKILL, because another process may have its id by then.
 void EndClient(pid_t pid, std::time_t written, const ustring& app) {
     if (kill(pid, SIGTERM) != 0) {
         if (errno == ESRCH) {
@@ -88,7 +88,7 @@ void EndClient(pid_t pid, std::time_t written, const ustring& app) {
             return;
         }
         for (unsigned left = 1; left > 0; left = sleep(left)) {
-            // a signal may end the sleep too early
+            // a signal can end the sleep early
         }
     }
     if (IsClient(pid, written, app)) {

@@ -15,14 +15,15 @@ class MacService : public Service {
     void StopService() override;
     int HandlePackageUpgrade() override;
     void PostUpgrade() override;  // starts the per-user application
-    // Finishes what an earlier run was cut off in, then loads and logs both versions.
+    // Finishes or undoes an interrupted upgrade, then loads and logs both versions.
     void PreUpgrade() override;
-    // True when no client is installed, or when the target's build number is the greater one. Where
-    // the system can't tell whether there is a client, the numbers alone decide.
+    // True when no client is installed, when the application may be incomplete, or when the
+    // target's build number is greater than the source's. False when the source's can't be read at
+    // present. When the system can't tell whether there is a client, the numbers alone decide.
     bool IsNeedUpgrade() override;
 
     bool PerUserBinPathExist();  // whether a client is installed, or may be (see FindClient)
-    int LaunchPerUserBin();      // 0 when the system took the request, else -1
+    int LaunchPerUserBin();      // 0 when the system accepted the request, else -1
 
     void LoadSourceVerInfo();
     void LoadTargetVerInfo();

@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-// One row per string id, in order: the key, and the default text as the catalogs know it.
-// A row is a line:
+// One row per string id, in order: the key, and the default text, which the catalogs translate.
+// One line per row:
 // clang-format off
 const StrTableRow kStrTableRows[StrTable::kRowCount] = {
     {"btn_resume", QT_TRANSLATE_NOOP("global", "Resume")},

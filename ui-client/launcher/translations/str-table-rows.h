@@ -3,7 +3,7 @@
 
 #include "ui-client/launcher/translations/str-table.h"
 
-// The rows that StrTable::InitStrTable() fills its table from, by string id.
+// The content of StrTable, by string id.
 struct StrTableRow {
     const char* key;   // ASCII
     const char* text;  // default English text, UTF-8

@@ -24,7 +24,7 @@ class StrTable {
     // a line break and a tab.
     static QString LoadStr(int id);
 
-    // The id whose key equals key, whatever the letter case; -1 when there is none.
+    // The id of a key, which is compared without regard to letter case; -1 when there is none.
     static int LookupStrID(QString key);
 
   private:
