@@ -1,5 +1,5 @@
-# Part of an installation: adds to the launcher's bundle what comes from the client, after
-# read-client.cmake.
+# Runs during an installation, after read-client.cmake: adds to the launcher's bundle what comes from
+# the client.
 set(bundle "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Tarnwell.app")
 set(resources "${bundle}/Contents/Resources")
 set(readable OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
@@ -12,7 +12,7 @@ if(NOT EXISTS "${dialog_icon}")
         "72 by 72 pixels")
 endif()
 
-# copy(FROM TO): file(INSTALL) would put DESTDIR in front of a path that has it.
+# copy(FROM TO). Not file(INSTALL), which would put DESTDIR in front of a path that has it already.
 function(copy from to)
     configure_file("${from}" "${resources}/${to}" COPYONLY FILE_PERMISSIONS ${readable})
 endfunction()

@@ -1,8 +1,8 @@
-# Part of an installation: what a Linux desktop shows, after read-client.cmake.
+# Runs during an installation, after read-client.cmake: installs what a Linux desktop shows.
 set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
 set(readable OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
-# make_folder(PATH): with those above it. What is there already stays as it is.
+# make_folder(PATH) creates a folder and those above it. Existing folders stay unchanged.
 function(make_folder path)
     if(NOT IS_DIRECTORY "${path}")
         get_filename_component(above "${path}" DIRECTORY)

@@ -1,5 +1,5 @@
-# Part of an installation on a Mac: copies the licence texts of each library in the bundle from the
-# folder that Homebrew has installed it in, one of those in kegs. A library without any is an error.
+# Runs during an installation on a Mac: copies the licence texts of each library in the bundle from
+# the folder below ${kegs} that Homebrew installed it in. A library without licence texts is an error.
 set(bundle "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Tarnwell.app")
 file(GLOB libraries "${bundle}/Contents/Frameworks/*.dylib"
     "${bundle}/Contents/Frameworks/*.framework")

@@ -28,7 +28,7 @@ std::string ApplicationIn(const std::string& folder) {
     return found == "/" ? "" : found;
 }
 
-// Names the folder that was probably meant.
+// Throws unless app is an application folder. The advice names the folder that was probably meant.
 void RequireApplicationFolder(const std::string& app, const std::string& shown_as) {
     std::error_code error;
     const fs::path folder = fs::canonical(app, error);
@@ -38,7 +38,7 @@ void RequireApplicationFolder(const std::string& app, const std::string& shown_a
     }
     if (!fs::is_directory(folder, error)) {
         throw PackageError(shown_as, "isn't an application folder",
-                           "name the one that holds Contents");
+                           "name the folder that contains Contents");
     }
     if (IsBundle(app)) {
         throw PackageError(shown_as, "is a launcher's bundle, not the client that goes into one",
@@ -48,16 +48,17 @@ void RequireApplicationFolder(const std::string& app, const std::string& shown_a
         return;
     }
     if (folder.filename() == "Contents") {
-        throw PackageError(shown_as, "is the Contents of an application",
+        throw PackageError(shown_as, "is the folder Contents of an application",
                            "name the folder above it: " + folder.parent_path().native());
     }
     const std::string inner = ApplicationIn(app);
     throw PackageError(shown_as, "has no folder Contents",
-                       inner.empty() ? "name the application folder, which holds one"
+                       inner.empty() ? "name the application folder, which has one"
                                      : "name the application in it: " + shown_as + "/" + inner);
 }
 
-// The system starts what the property list names, not what the launcher looks for.
+// Checks the property list and the executable that it names. The system starts that one, not the
+// one that the launcher looks for.
 void CheckInfoPlist(const std::string& app, Application& application, TreeCheck& check) {
     if (!check.requireFile(kInfoPlist, "without it the application can't be opened")) {
         return;
@@ -80,7 +81,7 @@ void CheckInfoPlist(const std::string& app, Application& application, TreeCheck&
 Application ReadApplication(const std::string& app, const std::string& shown_as) {
     RequireApplicationFolder(app, shown_as);
     Application application = {ReadTree(app), {}, 0, {}, ExecutableKind::None};
-    application.left_out = TakeOutDroppings(application.tree);
+    application.left_out = RemoveDesktopFiles(application.tree);
     TreeCheck check(application.tree);
     if (check.requireExecutable(kClient, "put the client's executable there")) {
         application.client = CheckKind(app, kClient, check);

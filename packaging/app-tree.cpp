@@ -26,7 +26,7 @@ Node Describe(const std::string& path) {
     std::error_code error;
     if (S_ISLNK(node.mode)) {
         node.target = fs::read_symlink(path, error).native();
-    } else {  // to the nanosecond, which the structure has under another name on each system
+    } else {  // to the nanosecond; in struct stat each system has another name for that field
         const auto modified = fs::last_write_time(path, error).time_since_epoch();
         node.stamp += ' ' + std::to_string(std::chrono::nanoseconds(modified).count());
     }
@@ -36,7 +36,7 @@ Node Describe(const std::string& path) {
     return node;
 }
 
-// Adds what is in the folder to the nodes; returns why it can't be listed.
+// Adds the content of the folder to the nodes. Returns why it can't be listed, or "".
 std::string ReadFolder(const fs::path& root, const std::string& folder,
                        std::map<std::string, Node>& nodes) {
     std::error_code error;
@@ -51,10 +51,10 @@ std::string ReadFolder(const fs::path& root, const std::string& folder,
     return error ? error.message() : "";
 }
 
-bool IsDropping(const std::string& path) {
+bool IsDesktopFile(const std::string& path) {
     const std::string name = path.substr(path.rfind('/') + 1);
     return name == ".DS_Store" || name == "Thumbs.db" || name == "desktop.ini" ||
-           name.rfind("._", 0) == 0;  // a file's Mac metadata, on a disk that can't hold it
+           name.rfind("._", 0) == 0;  // a file's metadata, on a disk that can't store it
 }
 
 }  // namespace
@@ -78,10 +78,10 @@ AppTree ReadTree(const std::string& path) {
     return tree;
 }
 
-std::vector<std::string> TakeOutDroppings(AppTree& tree) {
+std::vector<std::string> RemoveDesktopFiles(AppTree& tree) {
     std::vector<std::string> paths;
     for (auto node = tree.nodes.begin(); node != tree.nodes.end();) {
-        if (S_ISREG(node->second.mode) && IsDropping(node->first)) {
+        if (S_ISREG(node->second.mode) && IsDesktopFile(node->first)) {
             paths.push_back(node->first);
             node = tree.nodes.erase(node);
         } else {

@@ -11,7 +11,7 @@
 
 namespace {
 
-const std::size_t kMaxSize = std::size_t{1024} * 1024;  // bytes; the launcher reads no more
+const std::size_t kMaxSize = std::size_t{1024} * 1024;  // bytes; the launcher refuses larger files
 
 bool ReadSmallFile(const std::string& file, std::string& text, Fault& fault) {
     switch (platform::ReadRegularFile(file.c_str(), kMaxSize, text)) {
@@ -41,7 +41,7 @@ bool ReadBuildNumber(const std::string& file, int& number, Fault& fault) {
         fault.what = "can't be read";
         return false;
     }
-    // The launcher takes the number up to the first other character.
+    // The launcher reads the number up to the first other character.
     const QString text = QString::fromUtf8(version.build_version.c_str());
     bool is_number = false;
     number = text.toInt(&is_number);

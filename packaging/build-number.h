@@ -6,14 +6,14 @@
 
 #include "packaging/fault.h"
 
-// The files that name and number an application. Both readings return false and say why in fault,
-// all but where, when the launcher couldn't use the file on every user's machine.
+// Read the files that name and number an application. Both return false when the launcher couldn't
+// use the file on every user's machine, and set fault except for its path.
 
-// Reads the build number of a version file. A number that the launcher would understand, but not as
-// it is written there, is refused.
+// Reads the build number of a version file. A number that the launcher would read differently from
+// how it is written is refused.
 bool ReadBuildNumber(const std::string& file, int& number, Fault& fault);
 
-// Reads a whole property list, which must be XML that names an executable.
+// Reads a property list, which must be XML and name an executable.
 bool ReadInfoPlist(const std::string& file, QByteArray& text, Fault& fault);
 
 #endif

@@ -95,7 +95,7 @@ class BundleCheck {
         const auto after = tree_.nodes.lower_bound(kPlugins + "/");
         if (!check_.isFaulty(kPlugins) &&
             (after == tree_.nodes.end() || after->first.rfind(kPlugins + "/", 0) != 0)) {
-            check_.add(kPlugins, "has no plug-in, without which Qt ends the launcher",
+            check_.add(kPlugins, "has no plug-in, without which Qt aborts the launcher",
                        "make the bundle again");
         }
     }
@@ -130,7 +130,7 @@ class BundleCheck {
         for (const Fault& fault : error.faults()) {
             const bool is_inside = fault.where.rfind(bundle_ + "/", 0) == 0;
             if (!is_inside) {
-                throw PackageError(error);  // not the bundle's: a temporary folder
+                throw PackageError(error);  // a fault outside the bundle, such as in TMPDIR
             }
             check_.add(fault.where.substr(bundle_.size() + 1), fault.what, fault.advice);
         }

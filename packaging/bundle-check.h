@@ -5,12 +5,12 @@
 
 #include "packaging/summary.h"
 
-// Checks a launcher's bundle with all that is in it: that every user of a machine can run it, that
-// its package is accepted, and that its numbers agree. Throws a PackageError with all faults. The
-// summary is that of the package.
+// Checks a launcher's bundle and everything in it: that every user of a machine can run it, that
+// the launcher accepts its package, and that its build numbers agree. Throws a PackageError with
+// all faults. Returns the package's summary.
 Summary CheckBundle(const std::string& bundle, const Progress& progress);
 
-// The bundle whose package this file is, by its place; empty when it is in none.
+// The bundle that this package file is in; empty when it isn't at the place of a bundle's package.
 std::string BundleOf(const std::string& package);
 
 #endif

@@ -8,7 +8,7 @@
 
 namespace {
 
-const std::size_t kHead = 512;  // bytes; holds the longest first line that a system reads
+const std::size_t kHead = 512;  // bytes; at least the longest "#!" line that a system reads
 
 std::string ReadHead(const std::string& path) {
     const platform::Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
@@ -20,7 +20,7 @@ std::string ReadHead(const std::string& path) {
     return std::string(head, static_cast<std::size_t>(size));
 }
 
-// A number of the file's own byte order.
+// Reads a number of size bytes, in the given byte order.
 unsigned Number(const std::string& head, std::size_t at, std::size_t size, bool little) {
     unsigned number = 0;
     for (std::size_t i = 0; i < size; ++i) {
@@ -37,8 +37,8 @@ bool IsElfProgram(const std::string& head) {
                         "\x7F"
                         "ELF") == 0 &&
            (head[5] == 1 || head[5] == 2) &&
-           (Number(head, kType, 2, head[5] == 1) == 2 ||  // executable, or one that can be
-            Number(head, kType, 2, head[5] == 1) == 3);   // loaded anywhere
+           (Number(head, kType, 2, head[5] == 1) == 2 ||  // ET_EXEC
+            Number(head, kType, 2, head[5] == 1) == 3);   // ET_DYN: position-independent
 }
 
 bool IsMachOProgram(const std::string& head) {
@@ -48,10 +48,11 @@ bool IsMachOProgram(const std::string& head) {
     for (const bool little : {true, false}) {
         const unsigned magic = Number(head, 0, 4, little);
         if (magic == 0xFEEDFACE || magic == 0xFEEDFACF) {
-            return Number(head, 12, 4, little) == 2;  // an executable
+            return Number(head, 12, 4, little) == 2;  // MH_EXECUTE
         }
     }
-    // Java's classes begin with the same four bytes, and their version follows, which is greater.
+    // Java classes begin with the same four bytes. Their version follows, which is at least 45;
+    // here it is the number of processors.
     const unsigned magic = Number(head, 0, 4, false);
     return (magic == 0xCAFEBABE || magic == 0xCAFEBABF) && Number(head, 4, 4, false) < 40;
 }

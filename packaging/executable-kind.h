@@ -5,16 +5,16 @@
 
 // What a system needs to start a file.
 enum class ExecutableKind {
-    None,    // no system could
+    None,    // no system can start it
     Elf,     // Linux
-    MachO,   // a Mac; universal ones too
-    Script,  // the interpreter that its first line names, on either
+    MachO,   // a Mac; also universal programs
+    Script,  // either system, with the interpreter that its first line names
 };
 
-// By the first bytes of a regular file. Throws a PackageError when they can't be read.
+// Looks at the first bytes of a regular file. Throws a PackageError when they can't be read.
 ExecutableKind KindOf(const std::string& path);
 
-// For messages: "an ELF program", ...
+// For messages: "a script", ...
 const char* NameOf(ExecutableKind kind);
 
 #endif

@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-// Something that keeps an application from being packed, or a package or a bundle from being
-// shipped.
+// A reason why an application can't be packed, or why a package or a bundle can't be shipped.
 struct Fault {
     std::string where;   // a path
     std::string what;    // what is wrong with it
@@ -19,7 +18,7 @@ using Faults = std::vector<Fault>;
 // The fault as one line of printable text.
 std::string Text(const Fault& fault);
 
-// Makes each path, which is below the folder, one that begins with the folder.
+// Puts the folder in front of each path.
 Faults Below(const std::string& folder, Faults faults);
 
 // Carries at least one fault; what() is the text of the first.

@@ -1,11 +1,11 @@
-# What makes the bundle a program of a Linux desktop, and the Debian package of both. The component
-# "desktop" expects the component "launcher" in lib/tarnwell below the same prefix.
+# Installs what a Linux desktop needs to show the bundle as a program, and makes a Debian package of
+# both. The component "desktop" expects the component "launcher" in lib/tarnwell below its prefix.
 set(TARNWELL_LICENCE LicenseRef-proprietary CACHE STRING
     "Licence of what is shipped, an SPDX expression")
 set(TARNWELL_MAINTAINER "" CACHE STRING
-    "Who answers for the Debian package, NAME <ADDRESS> (default: DEBFULLNAME, DEBEMAIL)")
+    "Maintainer of the Debian package, NAME <ADDRESS> (default: DEBFULLNAME, DEBEMAIL)")
 set(TARNWELL_DEPENDS "" CACHE STRING
-    "Packages that the client needs, as in the field Depends, beside those of the launcher")
+    "Packages that the client needs in addition to the launcher's, as in the field Depends")
 
 install(CODE "set(licence \"${TARNWELL_LICENCE}\")
     set(launcher_licence \"${PROJECT_SOURCE_DIR}/LICENSE\")"

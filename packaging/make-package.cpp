@@ -1,5 +1,5 @@
-// Makes the package that the launcher's bundle carries out of an application folder, and checks
-// folders, packages and bundles.
+// Packs an application folder into the package that the launcher's bundle carries, and checks
+// application folders, packages and bundles.
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,8 +31,8 @@ void Interrupt(int) {
     interrupted = 1;
 }
 
-// What is written must not depend on who writes it, where and when.
-void LeaveTheEnvironment() {
+// Makes the output independent of the user's locale, time zone and umask.
+void FixEnvironment() {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     if (setlocale(LC_ALL, "C.UTF-8") == nullptr) {
         static_cast<void>(setlocale(LC_CTYPE, "UTF-8"));  // its name on macOS
@@ -42,7 +42,7 @@ void LeaveTheEnvironment() {
     umask(022);
 }
 
-// A line that is written over as the work goes on, on a terminal only.
+// Shows the progress on one line of a terminal, and removes the line in the end.
 class ProgressLine {
   public:
     explicit ProgressLine(std::string what) : what_(std::move(what)) {}
@@ -110,7 +110,7 @@ int Run(const Options& options) {
 
 int main(int argc, char** argv) {
     const QCoreApplication app(argc, argv);
-    LeaveTheEnvironment();
+    FixEnvironment();
     StrTable::InitStrTable();
     Options options;
     switch (ParseOptions(argc, argv, options)) {

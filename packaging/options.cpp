@@ -13,19 +13,19 @@ const char kUsage[] =
 
 const char kHelp[] =
     "\n"
-    "Makes the package that the launcher's bundle carries out of an application folder. What "
-    "would\n"
-    "fail on a user's machine is refused.\n"
+    "Packs an application folder into the package that the launcher's bundle carries. Refuses "
+    "what\n"
+    "would fail on a user's machine.\n"
     "\n"
-    "  APP_FOLDER     the client's application, the folder that holds Contents\n"
-    "  OUT.opk        the package to make; a package that is there is replaced\n"
+    "  APP_FOLDER     the client's application, the folder that contains Contents\n"
+    "  OUT.opk        the package to make; an existing package is replaced\n"
     "  --check        check an application folder without packing it, a package, or a bundle with\n"
-    "                 the package in it\n"
+    "                 its package\n"
     "  --newer-than   refuse a build number that isn't greater than that of the package OLD.opk\n"
     "  --format       %s (default: %s)\n"
     "  --json         print the result to standard output as a JSON object\n"
     "\n"
-    "Exit status: 0 good, 1 refused or failed, 2 wrong use.\n";
+    "Exit status: 0 success, 1 refused or failed, 2 wrong usage.\n";
 
 enum Choice : int { kCheck = 1, kFormat, kHelpWanted, kJson, kNewerThan, kVersion };
 
@@ -48,7 +48,7 @@ Parsed Refuse(const std::string& reason) {
     return Parsed::Wrong;
 }
 
-// Without a "/" at its end, so that messages can put names behind it.
+// The path without a "/" at its end, so that messages can append names to it.
 std::string Trimmed(std::string path) {
     while (path.size() > 1 && path.back() == '/') {
         path.pop_back();
@@ -58,13 +58,13 @@ std::string Trimmed(std::string path) {
 
 Parsed Judge(const Options& options) {
     if (!PackageWriter::knows(options.package.format)) {
-        return Refuse("no format '" + options.package.format +
-                      "', but one of: " + PackageWriter::formats());
+        return Refuse("unknown format '" + options.package.format +
+                      "', choose one of: " + PackageWriter::formats());
     }
     const std::size_t wanted = options.check ? 1 : 2;
     if (options.paths.size() != wanted) {
-        return Refuse(options.check ? "--check needs one path"
-                                    : "an application folder and a package are needed");
+        return Refuse(options.check ? "--check needs exactly one path"
+                                    : "name one application folder and one package");
     }
     return Parsed::Run;
 }
@@ -101,7 +101,7 @@ Parsed ParseOptions(int argc, char** argv, Options& options) {
             case ':':
                 return Refuse(std::string(argv[at]) + " needs a value");
             default:
-                return Refuse("no such option: " + std::string(argv[at]));
+                return Refuse("unknown option: " + std::string(argv[at]));
         }
     }
 }

@@ -16,8 +16,8 @@ struct Options {
 
 enum class Parsed {
     Run,
-    Done,  // what was asked for is printed
-    Wrong  // said why on standard error
+    Done,  // help or version was printed
+    Wrong  // the reason was printed to standard error
 };
 
 Parsed ParseOptions(int argc, char** argv, Options& options);

@@ -15,20 +15,20 @@
 
 namespace {
 
-// What the launcher's log says first, which is the cause, without the time and the source.
+// The first message in the launcher's log, which has the cause, without time and source.
 std::string FirstMessage(const std::string& log) {
     std::ifstream file(log);
     std::string line;
     std::getline(file, line);
     const std::size_t begin = line.find("): ");
-    return begin != std::string::npos ? line.substr(begin + 3) : "it doesn't say why";
+    return begin != std::string::npos ? line.substr(begin + 3) : "it logs no reason";
 }
 
 void Extract(const std::string& file, const std::string& app, const TemporaryFolder& folder,
              const Progress& progress) {
     const std::string log = folder / "log";
     Logger::Initialize(Logger::TYPE_FILE, log, "", 1);
-    bool go_on = true;  // signals carry no exceptions
+    bool go_on = true;  // a slot must not throw
     const QMetaObject::Connection connection = QObject::connect(
         Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress,
         [&](int total, int current) { go_on = progress(current, total) && go_on; });
@@ -39,7 +39,7 @@ void Extract(const std::string& file, const std::string& app, const TemporaryFol
     QObject::disconnect(connection);
     Logger::Destroy();
     if (!go_on) {
-        throw PackageError(file, "was not checked to the end: interrupted", "run again");
+        throw PackageError(file, "was not checked to its end: interrupted", "run again");
     }
     if (result != 0) {
         folder.requireSpace();
@@ -48,7 +48,7 @@ void Extract(const std::string& file, const std::string& app, const TemporaryFol
     }
 }
 
-// The faults of a package that can be read.
+// Throws the fault of a readable package, if it has one.
 void CheckContent(const std::string& file, const PackageContent& content) {
     if (!content.has_client && !content.wrapper.empty()) {
         throw PackageError(file, "has " + content.wrapper + "/ around the application",
@@ -57,8 +57,7 @@ void CheckContent(const std::string& file, const PackageContent& content) {
     if (content.has_client && content.last != install_layout::kClient) {
         throw PackageError(file,
                            "doesn't end with " + std::string(install_layout::kClient) +
-                               ", so that an installation that was cut off could be taken for "
-                               "complete",
+                               ", so an interrupted installation could look complete",
                            "make it with make-package");
     }
 }
@@ -85,7 +84,7 @@ CheckedPackage CheckPackage(const std::string& file, const Progress& progress) {
     }
     for (const std::string& path : application.left_out) {
         summary.warnings.push_back(
-            Text({file, "carries " + path + ", which is no part of an application",
+            Text({file, "contains " + path + ", which isn't part of an application",
                   "make it with make-package"}));
     }
     return {summary, application.client};

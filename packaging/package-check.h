@@ -12,8 +12,8 @@ struct CheckedPackage {
     ExecutableKind client;
 };
 
-// Unpacks the package in this file with the launcher's own code into a temporary folder, and checks
-// what that gives. Throws a PackageError with all faults.
+// Unpacks the package in this file into a temporary folder, with the launcher's own code, and
+// checks the result. Throws a PackageError with all faults.
 CheckedPackage CheckPackage(const std::string& file, const Progress& progress);
 
 #endif

@@ -43,9 +43,9 @@ class Scan {
             fail("is damaged after " + std::to_string(content_.entries) + " entries: ");
         }
         if (!reader_.endIsThere()) {
-            throw PackageError(file_,
-                               "was cut off after " + std::to_string(content_.entries) + " entries",
-                               kAdvice);
+            throw PackageError(
+                file_, "is truncated after " + std::to_string(content_.entries) + " entries",
+                kAdvice);
         }
         if (reader_.finish() != ARCHIVE_OK) {
             fail("is damaged after its last entry: ");
@@ -55,7 +55,7 @@ class Scan {
     }
 
   private:
-    static constexpr char kNoArchive[] = "is no archive that the launcher can read: ";
+    static constexpr char kNoArchive[] = "isn't an archive that the launcher can read: ";
     static constexpr char kAdvice[] = "make it again, or copy it again";
 
     [[noreturn]] void fail(const std::string& what) const {

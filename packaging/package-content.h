@@ -7,17 +7,18 @@
 
 #include "packaging/summary.h"
 
-// A package, read from its first byte to its last as the launcher reads it, but not unpacked.
+// What a package contains. It was read from its first byte to its last, as the launcher reads it,
+// but not unpacked.
 struct PackageContent {
     std::size_t entries = 0;
     std::string last;  // the last entry's path
     bool has_client = false;
-    std::string wrapper;   // a folder around the application, which must not be there; else empty
+    std::string wrapper;   // a folder around the application, which isn't allowed; empty if none
     int build_number = 0;  // 0 when there is no version file, or none that holds a number
-    std::string digest;    // the same for the same names, contents, modes and link targets
+    std::string digest;    // equal for equal names, contents, modes and link targets
 };
 
-// Throws a PackageError when the file can't be read, is damaged or was cut off.
+// Throws a PackageError when the file can't be read, is damaged or truncated.
 PackageContent ReadPackage(const std::string& file, const Progress& progress);
 
 std::int64_t SizeOf(const std::string& file);   // in bytes

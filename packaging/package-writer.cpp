@@ -17,16 +17,16 @@
 namespace {
 
 const std::size_t kBlockSize = 65536;
-const std::time_t kTimeStamp = 315532800;  // 1980, where the time of a zip begins
+const std::time_t kTimeStamp = 315532800;  // 1980-01-01, the earliest time in a zip
 
 struct Format {
     const char* name;
     const char* container;
     const char* filter;   // libarchive's; null for none
-    const char* options;  // that make the bytes the same each time
+    const char* options;  // to write the same bytes each time; null for none
 };
 
-// GNU's tar keeps names as they are, byte by byte.
+// GNU tar stores names byte for byte.
 const Format kFormats[] = {{"tar.zst", "gnutar", nullptr, nullptr},
                            {"tar.gz", "gnutar", "gzip", "gzip:!timestamp"},
                            {"tar.xz", "gnutar", "xz", nullptr},
@@ -83,7 +83,7 @@ void PackageWriter::add(const std::string& app, const std::string& name,
     const EntryHandle entry(archive_entry_new());
     archive_entry_set_pathname(entry.get(), name.c_str());
     archive_entry_set_filetype(entry.get(), node.mode & AE_IFMT);
-    // Those of a link differ between systems and mean nothing.
+    // A link's permissions differ between systems and have no meaning.
     archive_entry_set_perm(entry.get(), S_ISLNK(node.mode) ? 0777 : node.mode & 0777);
     archive_entry_set_size(entry.get(), node.size);
     archive_entry_set_mtime(entry.get(), kTimeStamp, 0);
@@ -107,7 +107,8 @@ void PackageWriter::finish() {
     }
 }
 
-// A failure is kept for check(): libarchive leaks after one, and no exception may pass through it.
+// Stores a failure for check(): libarchive would leak memory after one, and exceptions must not
+// pass through it.
 la_ssize_t PackageWriter::write(archive*, void* self, const void* data, std::size_t size) {
     PackageWriter& writer = *static_cast<PackageWriter*>(self);
     try {

@@ -10,15 +10,15 @@
 #include "packaging/zstd-stream.h"
 #include "ui-client/launcher/archive-handles.h"
 
-// Writes an archive whose bytes depend on nothing but the names, contents, permission bits and link
-// targets that are added, and the order in which that is done. Failures are PackageErrors.
+// Writes an archive whose bytes depend only on the names, contents, permission bits and link
+// targets that are added, and on their order. Throws PackageErrors.
 class PackageWriter {
   public:
     static const char* const kDefaultFormat;
     static bool knows(const std::string& format);
-    static std::string formats();  // all names, with blanks between them
+    static std::string formats();  // all names, separated by blanks
 
-    // Writes to fd, which stays the caller's; messages call it shown_as. total is the sum of the
+    // Writes to fd, which the caller owns; messages call the file shown_as. total is the sum of the
     // files' sizes, for the progress.
     PackageWriter(const std::string& format, int fd, std::string shown_as, const Progress& progress,
                   std::int64_t total);
@@ -26,10 +26,10 @@ class PackageWriter {
     PackageWriter(const PackageWriter&) = delete;
     PackageWriter& operator=(const PackageWriter&) = delete;
 
-    // Adds the object at name below the folder app.
+    // Adds the object with this path below the folder app.
     void add(const std::string& app, const std::string& name, const AppTree::Node& node);
 
-    // Must be called after everything was added. Without it the archive isn't complete.
+    // Completes the archive. Must be called after the last add().
     void finish();
 
   private:
@@ -43,9 +43,9 @@ class PackageWriter {
     const Progress& progress_;
     std::int64_t done_ = 0;
     const std::int64_t total_;
-    std::string error_;                 // of the first write that failed; libarchive knows no text
+    std::string error_;                 // of the first failed write; libarchive has no text for it
     std::unique_ptr<ZstdStream> zstd_;  // between the archive and the file, unless null
-    const ArchiveHandle archive_;       // writes as long as it exists
+    const ArchiveHandle archive_;       // last, because freeing it can still write
 };
 
 #endif

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Where the package will be: its folder with links followed. It must not be in the application.
+// The package's path, with links in its folder resolved. Throws if it is in the application.
 fs::path ResolveOut(const std::string& app, const std::string& out) {
     std::error_code error;
     const fs::path folder = fs::canonical(fs::absolute(out).parent_path(), error);
@@ -38,14 +38,14 @@ fs::path ResolveOut(const std::string& app, const std::string& out) {
     }
 }
 
-// The package that is to be replaced, if there is one.
+// Reads the package that is to be replaced, if there is one.
 std::optional<PackageContent> ReadPrevious(const fs::path& path, const std::string& out,
                                            const Progress& progress) {
     std::error_code error;
     if (!fs::exists(path, error)) {
         return std::nullopt;
     }
-    std::string reason = "has no client in it";
+    std::string reason = "has no client";
     try {
         const PackageContent content = ReadPackage(path, progress);
         if (content.has_client) {
@@ -54,7 +54,7 @@ std::optional<PackageContent> ReadPrevious(const fs::path& path, const std::stri
     } catch (const PackageError& failure) {
         reason = failure.faults().front().what;
     }
-    throw PackageError(out, "is there and is no whole package: it " + reason,
+    throw PackageError(out, "exists and isn't a complete package: it " + reason,
                        "remove it first, or name another file");
 }
 
@@ -63,10 +63,10 @@ std::vector<std::string> WarningsAbout(const std::string& out, const PackageCont
     const std::string was = out + ": was build " + std::to_string(previous.build_number);
     const std::string advice = "; raise build_version in " + std::string(install_layout::kInfo);
     if (previous.build_number > number) {
-        return {was + ", which no user would replace by build " + std::to_string(number) + advice};
+        return {was + ", whose users would not get build " + std::to_string(number) + advice};
     }
     if (previous.build_number == number && previous.digest != digest) {
-        return {was + " too, with another content, which users of that build keep" + advice};
+        return {was + " too, with other content, whose users would not get this one" + advice};
     }
     return {};
 }
@@ -77,12 +77,12 @@ Summary Describe(const Application& application) {
     summary.entries = application.tree.nodes.size();
     summary.info_plist = application.info_plist;
     for (const std::string& path : application.left_out) {
-        summary.warnings.push_back(path + ": left out, as it is no part of an application");
+        summary.warnings.push_back(path + ": left out, as it isn't part of an application");
     }
     return summary;
 }
 
-// The client comes last.
+// Writes all entries, the client last, and checks that the application didn't change meanwhile.
 void Write(const Application& application, const std::string& app, PackageWriter& writer) {
     for (const auto& [name, node] : application.tree.nodes) {
         if (name != install_layout::kClient) {
@@ -92,7 +92,7 @@ void Write(const Application& application, const std::string& app, PackageWriter
     writer.add(app, install_layout::kClient, application.tree.nodes.at(install_layout::kClient));
     writer.finish();
     AppTree now = ReadTree(app);
-    TakeOutDroppings(now);
+    RemoveDesktopFiles(now);
     if (!(now == application.tree)) {
         throw PackageError(app, "was changed while it was read", "pack when nothing writes to it");
     }

@@ -1,5 +1,5 @@
-# Part of an installation, before anything is written: finds the client, which must be one that can
-# be packed, and sets what the bundle is named after.
+# Runs during an installation, before anything is written: finds the client, which must be one that
+# can be packed, and sets the names that the bundle takes from it.
 set(app "${default_app}")
 if(NOT "$ENV{TARNWELL_APP}" STREQUAL "")
     set(app "$ENV{TARNWELL_APP}")
@@ -16,8 +16,8 @@ execute_process(COMMAND "${make_package}" --check "${app}" COMMAND_ERROR_IS_FATA
 execute_process(COMMAND "${make_package}" --json --check "${app}" COMMAND_ERROR_IS_FATAL ANY
     OUTPUT_VARIABLE client_facts)
 
-# read_name(VARIABLE KEY DEFAULT): what the client's property list says, as XML wants it, and in
-# VARIABLE_plain as it is.
+# read_name(VARIABLE KEY DEFAULT) sets VARIABLE to a value of the client's property list, escaped for
+# XML, and VARIABLE_plain to the plain value.
 function(read_name variable key default)
     string(JSON value GET "${client_facts}" names ${key})
     if(value STREQUAL "")

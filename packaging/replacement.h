@@ -6,8 +6,8 @@
 
 #include "lib/platform/handles.h"
 
-// A new file that takes another one's place when it is complete. Until commit() it is beside that
-// place under a temporary name; without commit() it is removed.
+// A new file that replaces another one when it is complete. Until commit() it has a temporary name
+// in the same folder; without commit() it is removed.
 class Replacement {
   public:
     // The file's folder must exist. Throws a PackageError on failure.

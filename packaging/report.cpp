@@ -24,7 +24,7 @@ QJsonArray ToJson(const Faults& faults) {
     return list;
 }
 
-// What the bundle around a client is named after.
+// The keys of the client's property list that the bundle takes over.
 QJsonObject NamesIn(const QByteArray& info_plist) {
     QJsonObject names;
     for (const char* const key : {"CFBundleDisplayName", "CFBundleIconFile", "CFBundleIdentifier",

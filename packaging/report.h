@@ -5,13 +5,13 @@
 #include "packaging/options.h"
 #include "packaging/summary.h"
 
-// What make-package prints at the end: the result or the faults, for people or for machines.
+// What make-package prints at the end: the result or the faults, as text or as JSON.
 class Report {
   public:
     explicit Report(const Options& options) : options_(options) {}
 
     Summary summary;
-    Faults faults;  // empty for a good result
+    Faults faults;  // empty on success
 
     // Returns the exit status.
     int print() const;

@@ -15,10 +15,10 @@ struct Summary {
     std::int64_t size = 0;  // of the package in bytes
     std::string sha256;     // of the package, in hexadecimal digits; empty when there is none
     QByteArray info_plist;  // the text of the application's property list
-    std::vector<std::string> warnings;  // each a line
+    std::vector<std::string> warnings;  // one line each
 };
 
-// Is called with how much of the work is done; returns whether to go on.
+// Called with the amount of work done; returns whether to continue.
 using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
 
 #endif

@@ -25,7 +25,7 @@ TemporaryFolder::TemporaryFolder() {
     const char* const variable = std::getenv("TMPDIR");
     const std::string parent = variable != nullptr && *variable != '\0' ? variable : "/tmp";
     std::error_code error;
-    const std::string canonical = fs::canonical(parent, error);  // ".." is refused when unpacking
+    const std::string canonical = fs::canonical(parent, error);  // unpacking refuses ".."
     path_ = (error ? parent : canonical) + "/make-package-XXXXXX";
     if (mkdtemp(path_.data()) == nullptr) {
         FailWithErrno(parent, "no temporary folder can be made in it", kAdvice);
@@ -40,7 +40,7 @@ void TemporaryFolder::requireSpace() const {
     const platform::Descriptor probe(
         open((path_ + "/probe").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
     const std::vector<char> block(kProbe);
-    errno = ENOSPC;  // what a short write means
+    errno = ENOSPC;  // for a short write, which sets no errno
     if (probe.get() < 0 ||
         write(probe.get(), block.data(), kProbe) != static_cast<ssize_t>(kProbe)) {
         FailWithErrno(path_, "nothing can be written to this temporary folder", kAdvice);

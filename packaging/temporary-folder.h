@@ -3,8 +3,8 @@
 
 #include <string>
 
-// A folder below TMPDIR, or below the system's folder for temporary files, which is removed with
-// all that is in it. Throws a PackageError when it can't be made.
+// A folder in TMPDIR, or in /tmp if that isn't set. It is removed with the object, with everything
+// in it. Throws a PackageError when it can't be created.
 class TemporaryFolder {
   public:
     TemporaryFolder();
@@ -14,7 +14,7 @@ class TemporaryFolder {
 
     std::string operator/(const std::string& name) const { return path_ + "/" + name; }
 
-    // Throws a PackageError when nothing more can be written to the folder.
+    // Throws a PackageError when nothing can be written to the folder any more.
     void requireSpace() const;
 
   private:

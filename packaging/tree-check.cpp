@@ -4,9 +4,10 @@
 
 namespace {
 
-// A Mac takes paths of 1023 bytes; this leaves 223 for the home folder and .Tarnwell/Tarnwell.app.
+// A Mac accepts paths of 1023 bytes; this leaves 223 for the home folder and
+// .Tarnwell/Tarnwell.app.
 const std::size_t kMaxPath = 800;
-const int kMaxLinks = 32;  // in one path; a Mac follows no more
+const int kMaxLinks = 32;  // in one path; macOS follows no more
 
 std::string FolderOf(const std::string& name) {
     const std::size_t end = name.rfind('/');
@@ -63,8 +64,8 @@ void TreeCheck::checkName(const std::string& path) {
         add(path, "isn't named in UTF-8", "rename it");
     } else if (name.normalized(QString::NormalizationForm_C) != name) {
         add(path,
-            "has a name that isn't in Unicode's composed form (NFC), which other systems would not "
-            "find again",
+            "has a name that isn't in Unicode's composed form (NFC), so other systems may not find "
+            "it",
             "rename it");
     } else if (path.size() > kMaxPath) {
         add(path,
@@ -92,7 +93,7 @@ void TreeCheck::checkMode(const std::string& path, const AppTree::Node& node) {
     }
 }
 
-// Follows a link as the system will where nothing but the tree is there.
+// Follows a link as the system would if there were nothing outside the tree.
 void TreeCheck::checkLink(const std::string& path) {
     std::string at = FolderOf(path);
     std::string rest = tree_.nodes.at(path).target;
@@ -106,7 +107,7 @@ void TreeCheck::checkLink(const std::string& path) {
         if (element == "..") {
             if (at.empty()) {
                 return add(path, "is a link that leads out of the application",
-                           "let it lead to what is inside");
+                           "change its target to one inside");
             }
             at = FolderOf(at);
         } else if (element != ".") {

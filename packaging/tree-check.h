@@ -7,12 +7,12 @@
 #include "packaging/app-tree.h"
 #include "packaging/fault.h"
 
-// The faults of a tree that is to be put on a user's disk. Paths are below the tree's folder. What
-// is in a faulty folder isn't looked at, so that one cause gives one fault.
+// The faults of a tree that is to be installed on a user's disk. Paths are relative to the tree's
+// folder. The content of a faulty folder isn't checked, so that one cause gives one fault.
 class TreeCheck {
   public:
-    // Finds what is wrong with every tree, whatever is in it: names that not every system keeps,
-    // links that lead elsewhere, modes that keep the owner from using or removing something. The
+    // Makes the checks that apply to any tree: for names that not every system can store, for links
+    // that lead elsewhere, and for modes that keep the owner from using or removing something. The
     // tree must outlive this object.
     explicit TreeCheck(const AppTree& tree);
 
@@ -24,8 +24,8 @@ class TreeCheck {
     // Whether the object at path, or a folder above it, has a fault.
     bool isFaulty(const std::string& path) const;
 
-    // Adds a fault unless there is a file with content at path, or an executable one. The advice is
-    // what to do where there is none. Returns whether it has no fault.
+    // Add a fault unless a file with content, or one that is also executable, is at path. advice
+    // says what to do if there is none. Return whether path has no fault.
     bool requireFile(const std::string& path, const std::string& advice);
     bool requireExecutable(const std::string& path, const std::string& advice);
 

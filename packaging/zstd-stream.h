@@ -7,11 +7,11 @@
 #include <memory>
 #include <vector>
 
-// Compresses with Zstandard and puts its checksum over the content at the end, which libarchive's
-// own writer leaves out. Throws std::runtime_error when the library fails.
+// Compresses with Zstandard and appends its checksum over the content, which libarchive's own
+// writer leaves out. Throws std::runtime_error when the library fails.
 class ZstdStream {
   public:
-    // Is called with each piece of the result.
+    // Called with each piece of the result.
     using Sink = std::function<void(const char* data, std::size_t size)>;
 
     explicit ZstdStream(Sink sink);

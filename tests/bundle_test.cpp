@@ -53,7 +53,7 @@ TEST_F(BundleTest, RefusesWhatWouldNotUpgradeOrStart) {
         {"truncate -s -9 $B/$R/package/*", kPackage, "is damaged"},
         {"rm $B/$R/images/*", "Contents/Resources/images/ico_72_tarnwell.png", "is missing; put"},
         {"rm $B/Contents/Frameworks/plugins/platforms/*", "Contents/Frameworks/plugins/platforms",
-         "has no plug-in, without which Qt ends the launcher"},
+         "has no plug-in, without which Qt aborts the launcher"},
         {"rm $B/Contents/MacOS/*", "Contents/MacOS/tarnwell-launcher", "is missing; put the"},
         // A client for a Mac beside a launcher for Linux.
         {"cp -R $DEMO ../mac; printf '\\317\\372\\355\\376\\7\\0\\0\\1\\3\\0\\0\\0\\2\\0\\0\\0' "

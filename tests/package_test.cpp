@@ -44,10 +44,10 @@ TEST_F(PackageTest, KeepsModesAndLinksAndPutsTheClientLast) {
         "chmod 2750 $R; ln $C Contents/MacOS/again; for i in .DS_Store ._INFO desktop.ini; do "
         "echo x >$R/$i; done; $MAKE . $OUT");
     EXPECT_EQ(result.err,
-              "make-package: warning: Contents/Resources/.DS_Store: left out, as it is no part of "
+              "make-package: warning: Contents/Resources/.DS_Store: left out, as it isn't part of "
               "an application\nmake-package: warning: Contents/Resources/._INFO: left out, as it "
-              "is no part of an application\nmake-package: warning: Contents/Resources/"
-              "desktop.ini: left out, as it is no part of an application\n");
+              "isn't part of an application\nmake-package: warning: Contents/Resources/"
+              "desktop.ini: left out, as it isn't part of an application\n");
     const Result list = shell("LC_ALL=C.UTF-8 bsdtar -tvf $OUT | sed 's/ .* Contents/ /'");
     EXPECT_EQ(list.out,
               "drwxr-xr-x /\n-rw-r--r-- /Info.plist\ndrwxr-xr-x /MacOS/\n-rwxr-xr-x /MacOS/again\n"
@@ -143,7 +143,7 @@ TEST_F(PackageTest, ReportsAllFaultsInOneGo) {
 
 TEST_F(PackageTest, NamesTheFolderThatWasMeant) {
     const Refusal rows[] = {
-        {"cd Contents; $MAKE . $OUT", ".", "is the Contents of an application; name the folder "},
+        {"cd Contents; $MAKE . $OUT", ".", "is the folder Contents of an application; name "},
         {"cd ..; mv app A.app; $MAKE . x.opk; s=$?; mv A.app app; exit $s", ".",
          "has no folder Contents; name the application in it: ./A.app"},
         {"$MAKE $OUT.none $OUT", out_ + ".none", "can't be opened: No such file or directory"},
@@ -171,11 +171,12 @@ TEST_F(PackageTest, WritesOverNothingButAPackage) {
         {"mknod $OUT c 1 3 2>&- || mkfifo $OUT", "", "isn't a regular file; name the file to make"},
         {"ln -s /dev/null $OUT", "", "isn't a regular file"},
         {"ln -s none $OUT", "", "isn't a regular file"},
-        {"echo thesis >$OUT", "", "is there and is no whole package: it is no archive that the"},
-        {": >$OUT", "", "is there and is no whole package: it is empty; remove it first"},
-        {"bsdtar --format zip -cf $OUT $R", "", "is there and is no whole package: it has no cli"},
+        {"echo thesis >$OUT", "", "exists and isn't a complete package: it isn't an archive that"},
+        {": >$OUT", "", "exists and isn't a complete package: it is empty; remove it first"},
+        {"bsdtar --format zip -cf $OUT $R", "",
+         "exists and isn't a complete package: it has no cli"},
         {"$MAKE . $OUT; truncate -s -9 $OUT", "",
-         "is there and is no whole package: it is damaged"},
+         "exists and isn't a complete package: it is damaged"},
     };
     for (const Refusal& row : rows) {
         SCOPED_TRACE(row.arrange);
@@ -196,11 +197,10 @@ TEST_F(PackageTest, WarnsWhenNoUserWouldGetTheBuild) {
     EXPECT_EQ(packAs("8", "").err, "");
     EXPECT_EQ(packAs("8", "--format zip").err, "");  // the same content
     EXPECT_EQ(packAs("5", "").err, "make-package: warning: " + out_ +
-                                       ": was build 8, which no user would replace by build 5" +
-                                       raise);
+                                       ": was build 8, whose users would not get build 5" + raise);
     EXPECT_EQ(shell("echo more >more; $MAKE . $OUT").err,
               "make-package: warning: " + out_ +
-                  ": was build 5 too, with another content, which users of that build keep" +
+                  ": was build 5 too, with other content, whose users would not get this one" +
                   raise);
     const std::string bytes = ReadFile(out_);
     for (const std::string number : {"4", "5"}) {
@@ -228,9 +228,9 @@ TEST_F(PackageTest, ChecksWhetherTheLauncherAcceptsAPackage) {
     EXPECT_EQ(pack().code, 0);
     const Refusal rows[] = {
         {": >$OUT", "", "is empty; make the package again"},
-        {"echo text >$OUT", "", "is no archive that the launcher can read: Unrecognized archive"},
-        {"head -c 9999 /dev/urandom >$OUT", "", "is "},
-        {"rm $OUT; $MAKE --format zip . $OUT; truncate -s -30 $OUT", "", "was cut off after"},
+        {"echo text >$OUT", "", "isn't an archive that the launcher can read: Unrecognized"},
+        {"head -c 9999 /dev/urandom >$OUT", "", "is"},
+        {"rm $OUT; $MAKE --format zip . $OUT; truncate -s -30 $OUT", "", "is truncated after"},
         {"rm $OUT; $MAKE . $OUT; truncate -s -9 $OUT", "", "is damaged"},
         {"cd ..; mv app A.app; bsdtar --format zip -cf $OUT A.app; mv A.app app", "",
          "has A.app/ around the application; pack what is in that folder: make-package A.app"},
