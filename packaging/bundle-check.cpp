@@ -21,7 +21,7 @@ const std::string kResources = install_layout::kResources;
 const std::string kPackage = kResources + "/" + install_layout::kPackage;
 const std::string kIcon = kResources + "/" + install_layout::kIcon;
 const std::string kPlugins = "Contents/Frameworks/plugins/platforms";
-const std::string kLevelFile = "log/launcher.debug";
+const std::string kLevelFile = install_layout::kLevelFile;
 
 class BundleCheck {
   public:

@@ -68,7 +68,7 @@ CheckedPackage CheckPackage(const std::string& file, const Progress& progress) {
     const PackageContent content = ReadPackage(file, progress);
     CheckContent(file, content);
     const TemporaryFolder folder;
-    const std::string app = folder / "Tarnwell.app";
+    const std::string app = folder / install_layout::kApp;
     Extract(file, app, folder, progress);
     const Application application = ReadApplication(app, file);
     Summary summary;

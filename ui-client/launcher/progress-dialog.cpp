@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QIcon>
 
+#include "lib/install-layout.h"
 #include "ui-client/launcher/tarnwell-service.h"
 #include "ui-client/launcher/translations/str-table.h"
 
@@ -24,7 +25,7 @@ std::unique_ptr<ProcessingProgressDialog> ProcessingProgressDialog::Create() {
 
 ProcessingProgressDialog::ProcessingProgressDialog() {
     const QString icon = QString::fromUtf8(Service::GetRootTarnwellResourceInstallPath().c_str()) +
-                         QStringLiteral("/images/ico_72_tarnwell.png");
+                         QLatin1Char('/') + QString::fromLatin1(install_layout::kIcon);
     setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
     setWindowIcon(QIcon(icon));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
