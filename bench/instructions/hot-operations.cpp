@@ -1,5 +1,5 @@
-// Runs one operation as often as its instructions are to be counted, all of it within Counted(),
-// and arranges what it needs outside. Used by instructions.sh.
+// Runs one operation repeatedly within Counted(), whose instructions count.sh counts, and arranges
+// what the operation needs outside.
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -11,15 +11,13 @@
 #include <string>
 #include <vector>
 
+#include "bench/operations.h"
 #include "lib/libclient/file-op.h"
-#include "lib/liblogger/log.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/app-replacement.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/mac/mac-service.h"
 #include "ui-client/launcher/translations/str-table.h"
-
-#define LOG_SOURCE "hot-operations"
 
 int qInitResources_texts();  // generated with the catalogs
 
@@ -32,14 +30,8 @@ extern "C" [[gnu::noinline]] bool Counted(const std::function<bool()>& operation
 
 namespace {
 
-const ustring log_component("hot_debug");
-
-// What macOS stores for names with accents: decomposed.
-const char kDecomposed[] =
-    "/Users/Rene\xCC\x81/Bibliothe\xCC\x80que/Tarnwell.app/Contents/Resources/"
-    "E\xCC\x81te\xCC\x81.txt";
-const char kFolder[] = "/home/user/.Tarnwell/Tarnwell.app/Contents/Resources";
-const char kName[] = "images/ico_72_tarnwell.png";
+using operations::kFolder;
+using operations::kName;
 
 const char kVersionFile[] = ".Tarnwell/Tarnwell.app/Contents/Resources/INFO";
 const char kVersion[] =
@@ -85,7 +77,7 @@ void LogToFile(const Folder& folder) {
 void LogWritten(const Folder& folder, int count) {
     LogToFile(folder);
     Repeat(count, [] {
-        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' (%d)\n", kFolder, kName, 17);
+        operations::WriteLogLine();
         return true;
     });
     if (LinesWith(ReadFile(folder / "log"), kName).size() != static_cast<std::size_t>(count) + 1) {
@@ -96,7 +88,7 @@ void LogWritten(const Folder& folder, int count) {
 void LogDropped(const Folder& folder, int count) {
     LogToFile(folder);
     Repeat(count, [] {
-        LOG_MSG(DEBUG, " org path [%s]\n", kFolder);
+        operations::DropLogLine();
         return true;
     });
     if (!ReadFile(folder / "log").empty()) {
@@ -108,14 +100,14 @@ void JoinPath(const Folder&, int count) {
     const ustring folder(kFolder);
     const ustring name(kName);
     Repeat(count, [&] {
-        const ustring path = folder + "/" + name;
-        return path.size() == std::strlen(kFolder) + std::strlen(kName) + 1;
+        return operations::JoinPath(folder, "/", name).size() ==
+               std::strlen(kFolder) + std::strlen(kName) + 1;
     });
 }
 
 void ComposePath(const Folder&, int count) {
-    const ustring path(kDecomposed);
-    Repeat(count, [&] { return path.normalize(ustring::NFC).size() == path.size() - 4; });
+    const std::size_t composed = std::strlen(operations::kDecomposed) - 4;
+    Repeat(count, [&] { return operations::ComposePath().size() == composed; });
 }
 
 void FileExists(const Folder& folder, int count) {
@@ -186,14 +178,6 @@ void Unpack(const Folder& folder, int count, const std::string& format) {
     }
 }
 
-void UnpackZip(const Folder& folder, int count) {
-    Unpack(folder, count, "zip");
-}
-
-void UnpackTarGz(const Folder& folder, int count) {
-    Unpack(folder, count, "tar.gz");
-}
-
 void LoadString(const Folder&, int count) {
     qInitResources_texts();
     StrTable::InitStrTable();
@@ -250,8 +234,11 @@ const Operation kOperations[] = {
     {"make-existing-folder", 200, MakeExistingFolder},
     {"remove-tree", 200, RemoveTree},
     {"copy-file", 50, CopyFile},
-    {"unpack-zip", 200, UnpackZip},
-    {"unpack-tar-gz", 200, UnpackTarGz},
+    {"unpack-zip", 200, [](const Folder& folder, int count) { Unpack(folder, count, "zip"); }},
+    {"unpack-tar-gz", 200,
+     [](const Folder& folder, int count) { Unpack(folder, count, "tar.gz"); }},
+    {"unpack-tar-zst", 200,
+     [](const Folder& folder, int count) { Unpack(folder, count, "tar.zst"); }},
     {"load-string", 200, LoadString},
     {"read-version", 50, ReadVersion},
     {"find-no-record", 200, FindNoRecord},
@@ -284,7 +271,7 @@ int main(int argc, char** argv) {
         }
     }
     if (name != "--list") {
-        std::cerr << "usage: hot_operations OPERATION | --list\n";
+        std::cerr << "usage: hot-operations OPERATION | --list\n";
         return 2;
     }
     return 0;

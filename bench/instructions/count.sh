@@ -1,28 +1,25 @@
 #!/usr/bin/env bash
-# Counts the instructions of the hot operations, and compares them with the bars in
-# instructions.txt.
+# Counts the instructions of the hot operations and compares them with the bars in bars.txt.
 set -euo pipefail
 shopt -s inherit_errexit
 
 usage() {
     cat <<'END'
-usage: tests/instructions.sh --update
-       tests/instructions.sh PROGRAM OPERATION
-  --update  builds hot_operations for release, counts each of its operations and writes the bars
-
-With the path of hot_operations, fails when the operation takes more than 20 % above its bar.
+usage: bench/instructions/count.sh --update
+       bench/instructions/count.sh PROGRAM OPERATION
+  --update   build hot-operations for release, count each of its operations and write the bars
+  PROGRAM    the path of hot-operations; fails when OPERATION takes over 20 % more than its bar
 END
 }
 
-table=$(dirname "$0")/instructions.txt
+bars=$(dirname "$0")/bars.txt
 
 # The instructions of one operation: count PROGRAM OPERATION TIMES. The environment is the same
-# everywhere: without other locales, time zones and hash seeds, symbols looked up at the start, and
-# the C library's choice of code the same for each processor.
+# everywhere: no other locales, time zones and hash seeds, symbols looked up at the start, and the C
+# library's choice of code the same for each processor.
 count() {
     local profile total plain=-AVX_Fast_Unaligned_Load,-AVX2,-AVX,-BMI2,-ERMS,-FSRM,-SSSE3
-    profile=$(dirname "$1")/instructions/$2.callgrind
-    mkdir -p "$(dirname "$profile")"
+    profile=$(dirname "$1")/$2.callgrind
     (
         cd /tmp
         umask 022
@@ -38,38 +35,39 @@ count() {
 
 update() {
     local program name times rows bar
-    cd "$(dirname "$0")/.." >/dev/null
-    table=tests/instructions.txt
+    cd "$(dirname "$0")/../.." >/dev/null
+    bars=bench/instructions/bars.txt
     cmake --preset release >/dev/null
-    cmake --build --preset release --target hot_operations
-    program=$PWD/build/release/tests/hot_operations
+    cmake --build --preset release --target hot-operations
+    program=$PWD/build/release/bench/instructions/hot-operations
     rows=$("$program" --list | while read -r name times; do
         bar=$(count "$program" "$name" "$times")
         printf '%-22s %d\n' "$name" "$bar"
     done)
-    { grep '^#' "$table"; echo "$rows"; } >"$table.new"
-    mv "$table.new" "$table"
+    { grep '^#' "$bars"; echo "$rows"; } >"$bars.new"
+    mv "$bars.new" "$bars"
     echo "$rows"
 }
 
 check() {
-    local program=$1 name=$2 operations times bar now
+    local program name=$2 operations times bar now
+    program=$(realpath "$1")
     operations=$("$program" --list)
-    if ! diff <(cut -d ' ' -f 1 <<<"$operations") <(grep '^[a-z]' "$table" | cut -d ' ' -f 1); then
-        echo "The operations aren't those of $table; run tests/instructions.sh --update" >&2
+    if ! diff <(cut -d ' ' -f 1 <<<"$operations") <(grep '^[a-z]' "$bars" | cut -d ' ' -f 1); then
+        echo "bars.txt lists other operations than hot-operations; run $0 --update" >&2
         return 1
     fi
     times=$(sed -n "s/^$name //p" <<<"$operations")
-    bar=$(sed -n "s/^$name  *//p" "$table")
+    bar=$(sed -n "s/^$name  *//p" "$bars")
     now=$(count "$program" "$name" "$times")
     echo "$name: $now instructions, bar $bar"
     if [ $((now * 100)) -gt $((bar * 120)) ]; then
-        echo "$name has become over 20 % dearer. To see where it spends them:" >&2
-        echo "  callgrind_annotate $(dirname "$program")/instructions/$name.callgrind" >&2
+        echo "$name takes over 20 % more than its bar. To see where:" >&2
+        echo "  callgrind_annotate $(dirname "$program")/$name.callgrind" >&2
         return 1
     fi
     if [ $((now * 100)) -lt $((bar * 80)) ]; then
-        echo "$name has become over 20 % cheaper: tests/instructions.sh --update lowers the bar"
+        echo "$name takes over 20 % less than its bar; $0 --update lowers it"
     fi
 }
 
