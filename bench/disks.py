@@ -1,0 +1,46 @@
+"""File systems to work on."""
+
+import contextlib
+import os
+import pathlib
+import subprocess
+import tempfile
+
+SIZE = 6 << 30  # bytes at the most; only what is used takes room
+MAKERS = {"ext4": ["mkfs.ext4", "-q"], "btrfs": ["mkfs.btrfs", "-q"], "xfs": ["mkfs.xfs", "-q"]}
+ALL = (*MAKERS, "tmpfs")
+
+
+def mount(kind, root):
+    """Mounts a new file system on a new folder below root."""
+    disk = root / "disk"
+    disk.mkdir()
+    if kind == "tmpfs":
+        subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={SIZE}", "tmpfs", disk], check=True)
+        return disk
+    image = root / "image"
+    with open(image, "wb") as file:
+        file.truncate(SIZE)
+    subprocess.run([*MAKERS[kind], image], check=True)
+    subprocess.run(["mount", "-o", "loop", image, disk], check=True)
+    device = subprocess.run(["findmnt", "-no", "SOURCE", disk], check=True, capture_output=True,
+                            text=True).stdout.strip()
+    # What goes to the file goes past the machine's cache, as it would to a disk.
+    subprocess.run(["losetup", "--direct-io=on", device], check=True)
+    return disk
+
+
+@contextlib.contextmanager
+def own_disk(kind, folder):
+    """A folder to work in: below the given one, or, for root, on a new file system in a file below
+    build/, so that neither age nor mount options of the machine's own count."""
+    with tempfile.TemporaryDirectory(dir=folder or pathlib.Path.cwd() / "build") as made:
+        root = pathlib.Path(made)
+        if folder or os.geteuid() != 0:
+            yield root
+            return
+        disk = mount(kind, root)
+        try:
+            yield disk
+        finally:
+            subprocess.run(["umount", "-l", disk], check=True)

@@ -1,0 +1,80 @@
+"""Runs the operations of rows and series in turn and keeps what each took."""
+
+import dataclasses
+import statistics
+
+import rows
+
+
+def quartiles(values):
+    return statistics.quantiles(values, n=4, method="inclusive") if len(values) > 1 else values * 3
+
+
+def verdict(values, limit):
+    low, _, high = quartiles(values)
+    if limit is None:
+        return ""
+    return "reached" if high <= limit else "missed" if low > limit else "undecided"
+
+
+@dataclasses.dataclass
+class Result:
+    """What a row has come to. The ratio is the median of the rounds' ratios."""
+
+    row: rows.Row
+    ours: list
+    peer: list
+
+    @property
+    def ratios(self):
+        return [ours / peer for ours, peer in zip(self.ours, self.peer)]
+
+    @property
+    def verdict(self):
+        return verdict(self.ratios, self.row.limit)
+
+
+@dataclasses.dataclass
+class SeriesResult:
+    """What a series has come to: for each size, what each round took."""
+
+    table: rows.Table
+    series: rows.Series
+    values: dict
+
+    @property
+    def medians(self):
+        return [statistics.median(self.values[size]) for size in self.table.sizes]
+
+    @property
+    def ratios(self):
+        return [large / small for large, small in
+                zip(self.values[self.table.sizes[-1]], self.values[self.table.beside])]
+
+    @property
+    def verdict(self):
+        return verdict(self.ratios, self.series.limit)
+
+
+def in_turn(workbench, operations, rounds):
+    """What each operation took in each round. The order changes from round to round, so that none
+    always follows the same other one; the first round only warms up."""
+    took = {operation: [] for operation in operations}
+    for number in range(rounds + 1):
+        for operation in operations if number % 2 else reversed(operations):
+            method, *arguments = operation
+            took[operation].append(getattr(workbench, method)(*arguments))
+    return {operation: values[1:] for operation, values in took.items()}
+
+
+def measure_part(workbench, part, rounds):
+    operations = dict.fromkeys(operation for row in part.rows for operation in (row.ours, row.peer))
+    took = in_turn(workbench, list(operations), rounds or part.rounds)
+    return [Result(row, took[row.ours], took[row.peer]) for row in part.rows]
+
+
+def measure_series(workbench, table, series, rounds):
+    took = in_turn(workbench, [series.operation + (size,) for size in table.sizes],
+                   rounds or table.rounds)
+    return SeriesResult(table, series,
+                        {size: took[series.operation + (size,)] for size in table.sizes})
