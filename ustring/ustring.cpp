@@ -585,12 +585,13 @@ ustring ustring::normalize(const ustring& source, normalization_form form) {
         return result;
     }
     source.build_wdata();
+    const int32_t units = u_strlen(source.wdata);  // looking for the end costs the normalizer more
     UErrorCode error = U_ZERO_ERROR;
-    const int32_t needed = unorm2_normalize(normalizer, source.wdata, -1, nullptr, 0, &error);
+    const int32_t needed = unorm2_normalize(normalizer, source.wdata, units, nullptr, 0, &error);
     result.realloc_wdata(static_cast<size_type>(needed) + 1);
     error = U_ZERO_ERROR;
     source.build_wdata();
-    int32_t length = unorm2_normalize(normalizer, source.wdata, -1, result.wdata,
+    int32_t length = unorm2_normalize(normalizer, source.wdata, units, result.wdata,
                                       static_cast<int32_t>(result.wdata_cap), &error);
     if (U_FAILURE(error)) {
         Warn("unorm2_normalize", error, kNormalizeLine);
