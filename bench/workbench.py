@@ -6,6 +6,7 @@ import pathlib
 import random
 import select
 import shutil
+import statistics
 import subprocess
 import sys
 import time
@@ -294,10 +295,11 @@ class Workbench:
             return self.reported("files", "unpack", self.deep_package(depth, folders), root)
         last = "/".join([str(root)] + ["d"] * depth)
         made = self.reported("files", "make-folders", last)
-        arguments = {"describe": [last], "copy-tree": [root, self.fresh("copied")],
-                     "remove": [root]}
+        arguments = {"copy-tree": [root, self.fresh("copied")], "remove": [root]}
         if operation == "make-folders":
             return made
+        if operation == "describe":  # one takes a millisecond
+            return statistics.median(self.reported("files", operation, last) for _ in range(9))
         return self.reported("files", operation, *arguments[operation])
 
     # == The small operations
