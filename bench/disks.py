@@ -21,7 +21,7 @@ def mount(kind, root):
     image = root / "image"
     with open(image, "wb") as file:
         file.truncate(SIZE)
-    subprocess.run([*MAKERS[kind], image], check=True)
+    subprocess.run([*MAKERS[kind], image], check=True, stdout=subprocess.DEVNULL)
     subprocess.run(["mount", "-o", "loop", image, disk], check=True)
     device = subprocess.run(["findmnt", "-no", "SOURCE", disk], check=True, capture_output=True,
                             text=True).stdout.strip()
