@@ -54,10 +54,10 @@ std::string Quoted(std::map<ustring, ustring>& entries) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Scratch scratch;
-    static const std::string path = scratch / "file";
+    static const Folder folder(InMemory());
+    static const std::string path = folder / "file";
     const std::string file = TextOf(data, size);
-    WriteFile(path, file);
+    MakeFile(path, file);
 
     Config config;
     config.entries["earlier"] = "entry";
@@ -78,11 +78,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         REQUIRE(config.get_int(key) == NumberOf(value.c_str()));
     }
     REQUIRE(config.read("") == -1);
-    REQUIRE(config.read(scratch / "missing") == -1);
+    REQUIRE(config.read(folder / "missing") == -1);
 
     // What was read can be written and read again.
     Config again;
-    WriteFile(path, Quoted(config.entries));
+    MakeFile(path, Quoted(config.entries));
     REQUIRE(again.read(path) == 0);
     REQUIRE(again.entries == config.entries);
     return 0;

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
 #include <numeric>
 #include <set>
 
@@ -30,9 +31,9 @@ const std::size_t kChecksumAt = 148;
 const std::size_t kChecksumSize = 8;
 const char kSentinel[] = "must stay";
 
-const Scratch& World() {
-    static const Scratch scratch;
-    return scratch;
+const Folder& World() {
+    static const Folder folder(InMemory());
+    return folder;
 }
 
 // The folder beside the destination, into which nothing may be written.
@@ -130,8 +131,8 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
     REQUIRE(std::freopen("/dev/null", "w", stdout) != nullptr);
     std::signal(SIGXFSZ, SIG_IGN);
     umask(022);
-    std::filesystem::create_directory(Outside());
-    WriteFile(Outside() + "/sentinel", kSentinel);
+    MakeFolder(Outside());
+    MakeFile(Outside() + "/sentinel", kSentinel);
     return 0;
 }
 
@@ -154,9 +155,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string sentinel = Outside() + "/sentinel";
     const struct stat folder_before = StatusOf(Outside());
     const struct stat sentinel_before = StatusOf(sentinel);
-    std::filesystem::create_directory(World() / "dest");
+    MakeFolder(World() / "dest");
     const struct stat dest_before = StatusOf(World() / "dest");
-    WriteFile(World() / "package", TextOf(data, size));
+    MakeFile(World() / "package", TextOf(data, size));
 
     Extractor extractor;
     extractor.dest_dir = (World() / "dest").c_str();
@@ -179,7 +180,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     REQUIRE(SameStatus(StatusOf(sentinel), sentinel_before));
 
     Remove(World() / "dest");
-    std::filesystem::create_directory(World() / "dest");
+    MakeFolder(World() / "dest");
     CopyAllData(extractor);
     LimitFileSize(RLIM_INFINITY);
     Remove(World() / "dest");

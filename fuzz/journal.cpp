@@ -18,14 +18,14 @@ void CheckRecord(const UpgradeJournal& journal, const UpgradeJournal::Record& re
 }
 
 // A folder that is missing, and one in the record's place.
-void CheckSurroundings(const Scratch& scratch) {
-    const UpgradeJournal nowhere((scratch / "missing").c_str());
+void CheckSurroundings(const Folder& folder) {
+    const UpgradeJournal nowhere((folder / "missing").c_str());
     UpgradeJournal::Record record;
     REQUIRE(nowhere.read(record) == Finding::Nothing);
     REQUIRE(nowhere.write(record) == -1);
 
-    const UpgradeJournal journal(scratch.path().c_str());
-    std::filesystem::create_directory(journal.path().c_str());
+    const UpgradeJournal journal(folder.path().c_str());
+    MakeFolder(journal.path().c_str());
     REQUIRE(journal.read(record) == Finding::Damaged);
     REQUIRE(journal.write(record) == -1);
     REQUIRE(journal.remove() == 0);
@@ -40,12 +40,12 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Scratch scratch;
-    static const UpgradeJournal journal(scratch.path().c_str());
-    static const bool surroundings = (CheckSurroundings(scratch), true);
+    static const Folder folder(InMemory());
+    static const UpgradeJournal journal(folder.path().c_str());
+    static const bool surroundings = (CheckSurroundings(folder), true);
     REQUIRE(surroundings);
 
-    WriteFile(journal.path().c_str(), TextOf(data, size));
+    MakeFile(journal.path().c_str(), TextOf(data, size));
     UpgradeJournal::Record record;
     const Finding finding = journal.read(record);
     REQUIRE(finding == Finding::Found || finding == Finding::Damaged);

@@ -27,11 +27,7 @@ QByteArray Wrapped(const QString& name) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Scratch scratch;
-    static const std::string contents = scratch / "bundle.app/Contents";
-    static const bool made = std::filesystem::create_directories(contents);
-    REQUIRE(made);
-
+    static const Folder folder(InMemory());
     const std::string file = TextOf(data, size);
     const QByteArray bytes(file.data(), static_cast<int>(file.size()));
     const QString name = platform::BundleExecutable(bytes);
@@ -46,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             QLatin1String("Tarnwell"));
 
     // Whatever the file names, this bundle has no executable.
-    WriteFile(contents + "/Info.plist", file);
-    REQUIRE(!platform::OpenBundle(scratch / "bundle.app"));
+    MakeFile(folder / "bundle.app/Contents/Info.plist", file);
+    REQUIRE(!platform::OpenBundle(folder / "bundle.app"));
     return 0;
 }

@@ -144,7 +144,7 @@ TEST_F(BundleTest, TakesNamesNumberAndIconsFromTheClient) {
                                     "Up &amp; Down", "4.2", "101"}) {
         EXPECT_NE(made.find("<string>" + value + "</string>"), std::string::npos) << made;
     }
-    EXPECT_EQ(ReadFile(bundle_ + "/" + kPackedInfo), InfoText("101"));
+    EXPECT_EQ(ReadFile(bundle_ + "/" + kPackedInfo), VersionFile("101"));
     EXPECT_EQ(shell("cmp $R/sync.icns $B/$R/sync.icns").code, 0);
 
     EXPECT_EQ(shell("TARNWELL_APP=. install --component desktop --prefix ../usr >&2; grep Name= "

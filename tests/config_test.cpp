@@ -5,6 +5,7 @@
 #include <climits>
 
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 
 namespace {
 

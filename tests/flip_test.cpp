@@ -8,6 +8,7 @@
 #include <iostream>
 #include <random>
 
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/content-checksum.h"
 #include "ui-client/launcher/extractor.h"
@@ -21,12 +22,6 @@ namespace {
 int Runs() {
     const char* const runs = std::getenv("FLIPPED_BITS");
     return runs != nullptr ? std::atoi(runs) : 40;
-}
-
-std::string Noise(std::size_t size) {
-    std::string noise(size, 0);
-    std::generate(noise.begin(), noise.end(), std::minstd_rand());
-    return noise;
 }
 
 std::vector<Entry> Application(bool small, bool client_last) {

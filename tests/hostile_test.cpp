@@ -3,18 +3,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <climits>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <map>
 #include <optional>
-#include <random>
 #include <sstream>
 
 #include "lib/liblogger/log.h"
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/translations/str-table.h"
 
@@ -159,9 +159,9 @@ void PrintTo(const Package& package, std::ostream* out) {
     *out << package.name;
 }
 
-class PackageTest : public HostileTest, public testing::WithParamInterface<Package> {};
+class HostilePackageTest : public HostileTest, public testing::WithParamInterface<Package> {};
 
-TEST_P(PackageTest, ChangesNothingOutside) {
+TEST_P(HostilePackageTest, ChangesNothingOutside) {
     const Package& package = GetParam();
     ASSERT_EQ(extract(package.bytes + kEnd), package.log.empty() ? 0 : -1) << log_;
     EXPECT_EQ(LinesWith(log_, package.log).empty(), package.log.empty()) << log_;
@@ -224,7 +224,7 @@ const Packages kTraversal = {
      Dir("a/folder", 0) + Link("a/folder", "x") + Link("a", kUp),
      kWriter,
      {{"a", "folder"}, {"a/folder", "link: x"}}}};
-INSTANTIATE_TEST_SUITE_P(Traversal, PackageTest, testing::ValuesIn(kTraversal), NameOf);
+INSTANTIATE_TEST_SUITE_P(Traversal, HostilePackageTest, testing::ValuesIn(kTraversal), NameOf);
 
 const Packages kHardLinks = {
     {"Inside", File("b") + Hard("a", "/b"), "", {{"a", kEvil}, {"b", kEvil}}},
@@ -241,7 +241,7 @@ const Packages kHardLinks = {
     {"ToFolder", Hard("a", "."), kNoFile, {}},
     {"ToItself", File("a") + Hard("a", "a"), kWriter, {{"a", kEvil}}},
     {"ToNothing", Hard("a", "b"), kWriter, {}}};
-INSTANTIATE_TEST_SUITE_P(HardLinks, PackageTest, testing::ValuesIn(kHardLinks), NameOf);
+INSTANTIATE_TEST_SUITE_P(HardLinks, HostilePackageTest, testing::ValuesIn(kHardLinks), NameOf);
 
 const Packages kKinds = {
     {"CharDevice", Node("a", kCharDevice), kNode, {}},
@@ -260,7 +260,7 @@ const Packages kKinds = {
      Raw("a", kFile, "", 1 << 20, 0644, "short"),
      kWriter,
      {{"a", DescribeFile(0644, "short" + std::string((1 << 20) - 5, '\0'))}}}};
-INSTANTIATE_TEST_SUITE_P(Kinds, PackageTest, testing::ValuesIn(kKinds), NameOf);
+INSTANTIATE_TEST_SUITE_P(Kinds, HostilePackageTest, testing::ValuesIn(kKinds), NameOf);
 
 const Packages kNames = {{"NotUtf8", File("\xff\xfe"), "", {{"\xff\xfe", kEvil}}},
                          {"Of300Bytes", File(std::string(300, 'n')), kWriter, {}},
@@ -271,7 +271,7 @@ const Packages kNames = {{"NotUtf8", File("\xff\xfe"), "", {{"\xff\xfe", kEvil}}
                          {"DotHardLink", File("b") + Hard(".", "b"), kRoot, {{"b", kEvil}}},
                          {"DotFolder", Dir("./", 0) + File("./a"), "", {{"a", kEvil}}},
                          {"SlashFolder", Dir("/", 0) + File("a"), "", {{"a", kEvil}}}};
-INSTANTIATE_TEST_SUITE_P(Names, PackageTest, testing::ValuesIn(kNames), NameOf);
+INSTANTIATE_TEST_SUITE_P(Names, HostilePackageTest, testing::ValuesIn(kNames), NameOf);
 
 std::string DeepPath(std::size_t size) {
     std::string path;
@@ -306,8 +306,7 @@ class CutTest : public HostileTest, public testing::WithParamInterface<const cha
 
 TEST_P(CutTest, FailsOrIsWhole) {
     const std::string format = GetParam();
-    std::string noise(20000, 0);
-    std::generate(noise.begin(), noise.end(), std::minstd_rand());
+    const std::string noise = Noise(20000);
     MakeArchive(folder_ / "whole", format,
                 {{"a/"}, {"a/one", noise}, {"a/link", "", 0777, "one"}, {"a/two", noise + "2"}});
     const std::string bytes = ReadFile(folder_ / "whole");

@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 #include "ui-client/launcher/client-file.h"
 #include "ui-client/launcher/version-file.h"
 

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/tarnwell-service.h"
 #include "ui-client/launcher/translations/str-table.h"

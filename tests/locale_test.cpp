@@ -10,6 +10,7 @@
 #include <QTranslator>
 
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 int qInitResources_texts();

@@ -15,6 +15,7 @@
 
 #include "lib/libclient/file-op.h"
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 #include "tests/support/traced-run.h"
 #include "ui-client/launcher/move-entries.h"
 

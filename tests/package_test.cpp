@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "tests/support/packing.h"
+#include "tests/support/system.h"
 
 namespace {
 
@@ -242,7 +243,7 @@ TEST_F(PackageTest, ChecksWhetherTheLauncherAcceptsAPackage) {
     }
     expectRefusal(shell("$MAKE --check none"), "none: can't be opened");
 
-    const std::vector<Entry> rest = {{kPackedPlist, kPlistText}, {kPackedInfo, InfoText("7")}};
+    const std::vector<Entry> rest = {{kPackedPlist, kInfoPlist}, {kPackedInfo, VersionFile("7")}};
     const Entry client = {"./" + kPackedClient, "#!/bin/sh\n", 0755};
     MakeArchive(out_, "tar.gz", {rest[0], rest[1], client});
     EXPECT_EQ(check().out.rfind(out_ + ": good: build 7, 3 entries", 0), 0u);

@@ -12,6 +12,7 @@
 #include <set>
 
 #include "tests/support/installation.h"
+#include "tests/support/system.h"
 
 namespace fs = std::filesystem;
 

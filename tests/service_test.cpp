@@ -7,6 +7,7 @@
 
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/mac/mac-service.h"

@@ -3,7 +3,9 @@
 #include <unistd.h>
 
 #include "lib/libclient/file-op.h"
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 #include "ui-client/launcher/extractor.h"
 #include "ui-client/launcher/translations/str-table.h"
 

@@ -9,6 +9,7 @@
 #include <fstream>
 
 #include "tests/support/installation.h"
+#include "tests/support/system.h"
 
 namespace fs = std::filesystem;
 
@@ -26,7 +27,7 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
     Installation::Result runWith(const std::string& number, std::vector<Entry> entries = {}) {
         installation_.setBuild(number);
         entries.push_back({"Contents/Info.plist", kInfoPlist});
-        entries.push_back({"Contents/Resources/INFO", "[Version]\nbuild_version=" + number + "\n"});
+        entries.push_back({"Contents/Resources/INFO", VersionFile(number)});
         entries.push_back({"Contents/MacOS/tarnwell-ui", kClient, 0755});
         MakeArchive(installation_.package(), "zip", entries);
         Installation::Result result = installation_.run();
@@ -35,8 +36,7 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
     }
 
     void expectOnly(const std::string& number) {
-        EXPECT_EQ(ReadFile(installation_.app("Contents/Resources/INFO")),
-                  "[Version]\nbuild_version=" + number + "\n");
+        EXPECT_EQ(ReadFile(installation_.app("Contents/Resources/INFO")), VersionFile(number));
         int others = 0;
         for (const auto& entry : fs::directory_iterator(installation_.user())) {
             const std::string name = entry.path().filename();
@@ -45,8 +45,6 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
         EXPECT_EQ(others, 0);
     }
 
-    static constexpr char kInfoPlist[] =
-        "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
     static constexpr char kClient[] = "#!/bin/sh\necho >>\"$HOME/started\"\n";
 
     Installation installation_;

@@ -13,6 +13,7 @@
 
 #include "bench/operations.h"
 #include "lib/libclient/file-op.h"
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 #include "ui-client/launcher/app-replacement.h"
 #include "ui-client/launcher/extractor.h"

@@ -19,9 +19,6 @@ namespace {
 const uid_t kNobody = 65534;
 const mode_t kUsualMode = Entry().mode;
 
-const char kInfoPlist[] =
-    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
-
 int WaitStatus(pid_t pid) {
     int status = 0;
     if (waitpid(pid, &status, 0) != pid) {
@@ -44,9 +41,7 @@ std::vector<Entry> CommonEntries(const std::string& number) {
     return {{"Contents/"},
             {"Contents/Info.plist", kInfoPlist},
             {"Contents/Resources/"},
-            {"Contents/Resources/INFO",
-             "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + number +
-                 "\nicon_overlay_version=7\n"},
+            {"Contents/Resources/INFO", VersionFile(number)},
             {"Contents/Resources/data.bin", std::string(200000, 'x') + number},
             {"Contents/Resources/\xC3\xA9t\xC3\xA9", "summer"},
             {"Contents/Resources/latest", "", 0777, "data.bin"},
@@ -176,9 +171,7 @@ std::string Installation::client() const {
 }
 
 void Installation::setBuild(const std::string& number, const std::string& format, Shape shape) {
-    MakeFile(bundle("Contents/Resources/INFO"),
-             "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + number +
-                 "\nicon_overlay_version=7\n");
+    MakeFile(bundle("Contents/Resources/INFO"), VersionFile(number));
     MakeFolder(fs::path(package()).parent_path());
     MakeArchive(package(), format, PackageEntries(number, shape));
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
 // A running client: a process that executes a command, of which the constructor awaits the first

@@ -5,24 +5,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
-#include <random>
 #include <vector>
 
 const std::string kPackedClient = "Contents/MacOS/tarnwell-ui";
 const std::string kPackedInfo = "Contents/Resources/INFO";
 const std::string kPackedPlist = "Contents/Info.plist";
-const std::string kPlistText =
-    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
-
-std::string InfoText(const std::string& number) {
-    return "[Version]\nmajor_version=2\nbuild_version=" + number + "\n";
-}
-
-std::string Noise(std::size_t size) {
-    std::string noise(size, 0);
-    std::generate(noise.begin(), noise.end(), std::minstd_rand());
-    return noise;
-}
 
 Packing::Packing() {
     makeApp(app_);
@@ -35,12 +22,12 @@ void Packing::makeApp(const std::string& app, bool backwards) {
             MakeFile(app + "/" + kPackedClient, "#!/bin/sh\necho $$ >>\"$HOME/started\"\n", 0755);
         },
         [&] { MakeFile(app + "/Contents/MacOS/helper", Noise(200000), 0555); },
-        [&] { MakeFile(app + "/" + kPackedInfo, InfoText("101")); },
+        [&] { MakeFile(app + "/" + kPackedInfo, VersionFile("101")); },
         [&] { MakeFile(app + "/Contents/Resources/\xC3\xA9t\xC3\xA9", "summer", 0640); },
         [&] { MakeFile(app + "/Contents/Resources-a", ""); },
         [&] { MakeLink("../MacOS/../Resources", app + "/Contents/MacOS/link"); },
         [&] { MakeLink("link/./\xC3\xA9t\xC3\xA9", app + "/Contents/MacOS/far"); },
-        [&] { MakeFile(app + "/" + kPackedPlist, kPlistText); }};
+        [&] { MakeFile(app + "/" + kPackedPlist, kInfoPlist); }};
     if (backwards) {
         std::reverse(steps.begin(), steps.end());
     }

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
 // An application folder that can be packed, and a shell in it in which the packaging tool is run as
@@ -37,8 +38,5 @@ class Packing : public testing::Test {
 extern const std::string kPackedClient;
 extern const std::string kPackedInfo;
 extern const std::string kPackedPlist;
-extern const std::string kPlistText;
-std::string InfoText(const std::string& number);
-std::string Noise(std::size_t size);
 
 #endif

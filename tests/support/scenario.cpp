@@ -1,34 +1,29 @@
 #include "tests/support/scenario.h"
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
-#include <clocale>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <random>
 #include <sstream>
 #include <stdexcept>
 #include <thread>
 
 namespace fs = std::filesystem;
 
-namespace {
-
-void Check(bool ok, const std::string& what) {
-    if (!ok) {
-        throw std::runtime_error(what);
+void Check(bool arranged, const std::string& failure) {
+    if (!arranged) {
+        throw std::runtime_error(failure);
     }
 }
-
-}  // namespace
 
 Folder::Folder(const std::string& parent)
     : path_(fs::canonical(parent).string() + "/tarnwell-test-XXXXXX") {
@@ -106,6 +101,12 @@ std::string ReadFile(const std::string& path) {
 
 bool Exists(const std::string& path) {
     return fs::exists(fs::symlink_status(path));
+}
+
+std::string Noise(std::size_t size) {
+    std::string noise(size, 0);
+    std::generate(noise.begin(), noise.end(), std::minstd_rand());
+    return noise;
 }
 
 std::string DescribeFolder(mode_t mode) {
@@ -202,46 +203,4 @@ std::string CaptureStderr(const std::function<void()>& code) {
     testing::internal::CaptureStderr();
     code();
     return testing::internal::GetCapturedStderr();
-}
-
-void MakeArchive(const std::string& path, const std::string& format,
-                 const std::vector<Entry>& entries) {
-    // Names are UTF-8. The second is macOS's name for it.
-    Check(setlocale(LC_CTYPE, "C.UTF-8") != nullptr || setlocale(LC_CTYPE, "UTF-8") != nullptr,
-          "no UTF-8 in the C library");
-    archive* const out = archive_write_new();
-    const std::map<std::string, std::pair<const char*, const char*>> formats = {
-        {"zip", {"zip", nullptr}},       {"7z", {"7zip", nullptr}},
-        {"cpio", {"newc", nullptr}},     {"tar", {"gnutar", nullptr}},
-        {"tar.gz", {"gnutar", "gzip"}},  {"tar.xz", {"gnutar", "xz"}},
-        {"tar.zst", {"gnutar", "zstd"}}, {"tar.bz2", {"gnutar", "bzip2"}},
-        {"tar.lz4", {"gnutar", "lz4"}},  {"tar.lz", {"gnutar", "lzip"}},
-        {"xar", {"xar", nullptr}}};
-    const auto& [container, filter] = formats.at(format);
-    Check(archive_write_set_format_by_name(out, container) == ARCHIVE_OK &&
-              (filter == nullptr || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&
-              archive_write_open_filename(out, path.c_str()) == ARCHIVE_OK,
-          "can't write " + path);
-    for (const Entry& from : entries) {
-        archive_entry* const entry = archive_entry_new();
-        const bool folder = from.name.back() == '/';
-        archive_entry_set_pathname(entry, from.name.c_str());
-        archive_entry_set_filetype(entry, folder ? AE_IFDIR : AE_IFREG);
-        archive_entry_set_perm(entry, folder && from.mode == Entry().mode ? 0755 : from.mode);
-        archive_entry_set_size(entry, static_cast<la_int64_t>(from.content.size()));
-        if (!from.symlink.empty()) {
-            archive_entry_set_filetype(entry, AE_IFLNK);
-            archive_entry_set_symlink(entry, from.symlink.c_str());
-        }
-        if (!from.hardlink.empty()) {
-            archive_entry_set_hardlink(entry, from.hardlink.c_str());
-        }
-        const bool written = archive_write_header(out, entry) == ARCHIVE_OK &&
-                             archive_write_data(out, from.content.data(), from.content.size()) ==
-                                 static_cast<la_ssize_t>(from.content.size());
-        archive_entry_free(entry);
-        Check(written, "can't add " + from.name);
-    }
-    Check(archive_write_close(out) == ARCHIVE_OK, "can't finish " + path);
-    archive_write_free(out);
 }

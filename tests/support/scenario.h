@@ -10,10 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/system.h"
-
-// A small vocabulary for tests on real files. Whatever can't be arranged throws, which fails the
-// test with the reason.
+// A small vocabulary for tests on real files. What can't be arranged throws, which fails the test
+// with the reason.
+void Check(bool arranged, const std::string& failure);
 
 // A folder of one's own, removed with all it holds at the end. It can be entered by every user.
 class Folder {
@@ -44,6 +43,7 @@ void RemoveTree(const std::string& path);
 
 std::string ReadFile(const std::string& path);  // empty when there is no regular one
 bool Exists(const std::string& path);           // a dangling link does
+std::string Noise(std::size_t size);            // bytes that can't be compressed, always the same
 
 // A folder's content by relative path: "folder", "file 0644: content" or "link: target". Content
 // that is too long to be read is told by its size and hash. With folder_modes also the modes of the
@@ -82,19 +82,5 @@ bool HasOneLine(const std::string& text, const std::string& fragment);
 
 // What the code under test writes to standard error.
 std::string CaptureStderr(const std::function<void()>& code);
-
-// An entry of an archive: a folder when the name ends in "/", a link when there is a target. A
-// folder's mode is 0755 unless another is given.
-struct Entry {
-    std::string name;
-    std::string content = {};
-    mode_t mode = 0644;
-    std::string symlink = {};
-    std::string hardlink = {};
-};
-
-// Writes an archive: zip, 7z, cpio, tar, tar.gz, tar.xz or tar.zst.
-void MakeArchive(const std::string& path, const std::string& format,
-                 const std::vector<Entry>& entries);
 
 #endif

@@ -1,3 +1,5 @@
+#include "tests/support/system.h"
+
 #include <sched.h>
 #include <sys/mount.h>
 

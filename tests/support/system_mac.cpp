@@ -1,3 +1,5 @@
+#include "tests/support/system.h"
+
 #include <unistd.h>
 
 #include "tests/support/scenario.h"

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/support/installation.h"
+#include "tests/support/system.h"
 #include "tests/support/traced-run.h"
 
 // What an upgrade begins with.

@@ -1,0 +1,60 @@
+#include "tests/support/archives.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <clocale>
+#include <map>
+#include <utility>
+
+#include "tests/support/scenario.h"
+
+const char kInfoPlist[] =
+    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
+
+std::string VersionFile(const std::string& build) {
+    return "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + build +
+           "\nicon_overlay_version=7\n";
+}
+
+void MakeArchive(const std::string& path, const std::string& format,
+                 const std::vector<Entry>& entries) {
+    // Names are UTF-8. The second is macOS's name for it.
+    Check(setlocale(LC_CTYPE, "C.UTF-8") != nullptr || setlocale(LC_CTYPE, "UTF-8") != nullptr,
+          "no UTF-8 in the C library");
+    archive* const out = archive_write_new();
+    const std::map<std::string, std::pair<const char*, const char*>> formats = {
+        {"zip", {"zip", nullptr}},       {"7z", {"7zip", nullptr}},
+        {"cpio", {"newc", nullptr}},     {"tar", {"gnutar", nullptr}},
+        {"tar.gz", {"gnutar", "gzip"}},  {"tar.xz", {"gnutar", "xz"}},
+        {"tar.zst", {"gnutar", "zstd"}}, {"tar.bz2", {"gnutar", "bzip2"}},
+        {"tar.lz4", {"gnutar", "lz4"}},  {"tar.lz", {"gnutar", "lzip"}},
+        {"xar", {"xar", nullptr}}};
+    const auto& [container, filter] = formats.at(format);
+    Check(archive_write_set_format_by_name(out, container) == ARCHIVE_OK &&
+              (filter == nullptr || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&
+              archive_write_open_filename(out, path.c_str()) == ARCHIVE_OK,
+          "can't write " + path);
+    for (const Entry& from : entries) {
+        archive_entry* const entry = archive_entry_new();
+        const bool folder = from.name.back() == '/';
+        archive_entry_set_pathname(entry, from.name.c_str());
+        archive_entry_set_filetype(entry, folder ? AE_IFDIR : AE_IFREG);
+        archive_entry_set_perm(entry, folder && from.mode == Entry().mode ? 0755 : from.mode);
+        archive_entry_set_size(entry, static_cast<la_int64_t>(from.content.size()));
+        if (!from.symlink.empty()) {
+            archive_entry_set_filetype(entry, AE_IFLNK);
+            archive_entry_set_symlink(entry, from.symlink.c_str());
+        }
+        if (!from.hardlink.empty()) {
+            archive_entry_set_hardlink(entry, from.hardlink.c_str());
+        }
+        const bool written = archive_write_header(out, entry) == ARCHIVE_OK &&
+                             archive_write_data(out, from.content.data(), from.content.size()) ==
+                                 static_cast<la_ssize_t>(from.content.size());
+        archive_entry_free(entry);
+        Check(written, "can't add " + from.name);
+    }
+    Check(archive_write_close(out) == ARCHIVE_OK, "can't finish " + path);
+    archive_write_free(out);
+}
