@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <map>
 #include <optional>
 #include <sstream>
 
@@ -115,26 +114,22 @@ class HostileTest : public testing::Test {
 
     // All but the content of the destination.
     FileTree sentinel() const {
-        FileTree tree;
-        const auto add = [&](const std::string& path) {
+        const fs::perms mode = fs::status(folder_.path()).permissions();
+        FileTree tree = {{"", DescribeFolder(static_cast<mode_t>(mode))}};
+        for (fs::recursive_directory_iterator at(folder_.path()), end; at != end; ++at) {
+            const std::string path = at->path();
             struct stat status = {};
             lstat(path.c_str(), &status);
             std::ostringstream text;
-            text << std::oct << "mode " << status.st_mode;
-            if (path != dest_) {
+            text << std::oct << status.st_mode;
+            if (path == dest_) {
+                at.disable_recursion_pending();
+            } else {
                 const timespec changed = ChangeTime(status);
-                text << std::dec << ", " << status.st_nlink << " links, changed " << changed.tv_sec
-                     << '.' << changed.tv_nsec << ": "
-                     << (S_ISREG(status.st_mode) ? ReadFile(path) : "");
+                text << ' ' << status.st_nlink << ' ' << changed.tv_sec << ' ' << changed.tv_nsec
+                     << ' ' << ReadFile(path);
             }
             tree[path] = text.str();
-        };
-        add(folder_.path());
-        for (fs::recursive_directory_iterator at(folder_.path()), end; at != end; ++at) {
-            add(at->path());
-            if (at->path() == dest_) {
-                at.disable_recursion_pending();
-            }
         }
         return tree;
     }
@@ -153,7 +148,14 @@ struct Package {
     std::string log;  // empty: it is unpacked
     FileTree tree;    // what is in the destination then
 };
-using Packages = std::vector<Package>;
+
+Package Unpacked(const char* name, const std::string& bytes, const FileTree& tree) {
+    return {name, bytes, "", tree};
+}
+Package Refused(const char* name, const std::string& bytes, const std::string& log,
+                const FileTree& tree = {}) {
+    return {name, bytes, log, tree};
+}
 
 void PrintTo(const Package& package, std::ostream* out) {
     *out << package.name;
@@ -185,92 +187,80 @@ const std::string kFileUp = "../outside/file";
 const FileTree kOnlyLink = {{"a", "link: ../outside"}};
 const FileTree kOnlyFileLink = {{"a", "link: ../outside/file"}};
 
-const Packages kTraversal = {
-    {"FrameworkIsUnpacked",
-     File("f/Versions/A/f") + Link("f/Versions/Current", "A") + Link("f/f", "Versions/Current/f"),
-     "",
-     {{"f", "folder"},
-      {"f/Versions", "folder"},
-      {"f/Versions/A", "folder"},
-      {"f/Versions/A/f", kEvil},
-      {"f/Versions/Current", "link: A"},
-      {"f/f", "link: Versions/Current/f"}}},
-    {"DotDot", File(kFileUp), kWriter, {}},
-    {"DotDotInside", Dir("a") + File("a/../../beside"), kWriter, {{"a", "folder"}}},
-    {"Absolute", File("/outside/file"), "", {{"outside", "folder"}, {"outside/file", kEvil}}},
-    {"ThroughLink", Link("a", kUp) + File("a/file"), kThrough, kOnlyLink},
-    {"NewThroughLink", Link("a", kUp) + File("a//./new"), kThrough, kOnlyLink},
-    {"DeepThroughLink", Link("a", kUp) + File("a/folder/new"), kThrough, kOnlyLink},
-    {"LinkThroughLink", Link("a", kUp) + Link("a/new", "x"), kThrough, kOnlyLink},
-    {"ThroughLinkToLink",
-     Link("b", kUp) + Link("a", "b") + File("a/file"),
-     kThrough,
-     {{"a", "link: b"}, {"b", "link: ../outside"}}},
-    {"ThroughLaterLink",
-     Dir("a") + File("b/x") + Link("a", kUp) + File("a/file"),
-     kThrough,
-     {{"a", "link: ../outside"}, {"b", "folder"}, {"b/x", kEvil}}},
-    {"ThroughLinkInPlaceOfTheLastFolder", Dir("a") + Dir("a") + Link("a", kUp) + File("a/file"),
-     kThrough, kOnlyLink},
-    {"ThroughLinkToFile", Link("a", kFileUp) + File("a/x"), kThrough, kOnlyFileLink},
-    {"FolderOverLink", Link("a", kUp) + Dir("a", 0), kThrough, kOnlyLink},
-    {"FolderBehindLink", Link("a", kUp) + Dir("a/new"), kThrough, kOnlyLink},
-    {"FileOverLink", Link("a", kFileUp) + File("a"), "", {{"a", kEvil}}},
-    {"LateRights",
-     Dir("a", 0) + Link("a", "../outside/folder"),
-     "",
-     {{"a", "link: ../outside/folder"}}},
-    {"LateRightsBelow",
-     Dir("a/folder", 0) + Link("a/folder", "x") + Link("a", kUp),
-     kWriter,
-     {{"a", "folder"}, {"a/folder", "link: x"}}}};
+const FileTree kOnlyEvil = {{"a", kEvil}};
+
+const Package kTraversal[] = {
+    Unpacked("FrameworkIsUnpacked",
+             File("f/Versions/A/f") + Link("f/Versions/Current", "A") +
+                 Link("f/f", "Versions/Current/f"),
+             {{"f", "folder"},
+              {"f/Versions", "folder"},
+              {"f/Versions/A", "folder"},
+              {"f/Versions/A/f", kEvil},
+              {"f/Versions/Current", "link: A"},
+              {"f/f", "link: Versions/Current/f"}}),
+    Refused("DotDot", File(kFileUp), kWriter),
+    Refused("DotDotInside", Dir("a") + File("a/../../beside"), kWriter, {{"a", "folder"}}),
+    Unpacked("Absolute", File("/outside"), {{"outside", kEvil}}),
+    Refused("ThroughLink", Link("a", kUp) + File("a/file"), kThrough, kOnlyLink),
+    Refused("NewThroughLink", Link("a", kUp) + File("a//./new"), kThrough, kOnlyLink),
+    Refused("DeepThroughLink", Link("a", kUp) + File("a/folder/new"), kThrough, kOnlyLink),
+    Refused("LinkThroughLink", Link("a", kUp) + Link("a/new", "x"), kThrough, kOnlyLink),
+    Refused("ThroughLinkToLink", Link("b", kUp) + Link("a", "b") + File("a/file"), kThrough,
+            {{"a", "link: b"}, {"b", "link: ../outside"}}),
+    Refused("ThroughLaterLink", Dir("a") + File("b/x") + Link("a", kUp) + File("a/file"), kThrough,
+            {{"a", "link: ../outside"}, {"b", "folder"}, {"b/x", kEvil}}),
+    Refused("ThroughLinkInPlaceOfTheLastFolder",
+            Dir("a") + Dir("a") + Link("a", kUp) + File("a/file"), kThrough, kOnlyLink),
+    Refused("ThroughLinkToFile", Link("a", kFileUp) + File("a/x"), kThrough, kOnlyFileLink),
+    Refused("FolderOverLink", Link("a", kUp) + Dir("a", 0), kThrough, kOnlyLink),
+    Refused("FolderBehindLink", Link("a", kUp) + Dir("a/new"), kThrough, kOnlyLink),
+    Unpacked("FileOverLink", Link("a", kFileUp) + File("a"), kOnlyEvil),
+    Unpacked("LateRights", Dir("a", 0) + Link("a", kUp), kOnlyLink),
+    Refused("LateRightsBelow", Dir("a/folder", 0) + Link("a/folder", "x") + Link("a", kUp), kWriter,
+            {{"a", "folder"}, {"a/folder", "link: x"}})};
 INSTANTIATE_TEST_SUITE_P(Traversal, HostilePackageTest, testing::ValuesIn(kTraversal), NameOf);
 
-const Packages kHardLinks = {
-    {"Inside", File("b") + Hard("a", "/b"), "", {{"a", kEvil}, {"b", kEvil}}},
-    {"DotDot", Hard("a", kFileUp), kAside, {}},
-    {"DotDotWithData", Hard("a", "x/../../outside/file", "evil"), kAside, {}},
-    {"ThroughLink", Link("a", kUp) + Hard("b", "a/file"), kThroughTarget, kOnlyLink},
-    {"ToLink", Link("a", kFileUp) + Hard("b", "a"), kNoFile, kOnlyFileLink},
-    {"ToLinkWithData", Link("a", kFileUp) + Hard("b", "a", "evil"), kNoFile, kOnlyFileLink},
-    {"WithData", File("b", "old") + Hard("a", "b", "evil"), "", {{"a", kEvil}, {"b", kEvil}}},
-    {"BehindLink",
-     File("b") + Link("a", kUp) + Hard("a/new", "b"),
-     kThrough,
-     {{"a", "link: ../outside"}, {"b", kEvil}}},
-    {"ToFolder", Hard("a", "."), kNoFile, {}},
-    {"ToItself", File("a") + Hard("a", "a"), kWriter, {{"a", kEvil}}},
-    {"ToNothing", Hard("a", "b"), kWriter, {}}};
+const Package kHardLinks[] = {
+    Unpacked("Inside", File("b") + Hard("a", "/b"), {{"a", kEvil}, {"b", kEvil}}),
+    Refused("DotDot", Hard("a", kFileUp), kAside),
+    Refused("DotDotWithData", Hard("a", "x/../../outside/file", "evil"), kAside),
+    Refused("ThroughLink", Link("a", kUp) + Hard("b", "a/file"), kThroughTarget, kOnlyLink),
+    Refused("ToLink", Link("a", kFileUp) + Hard("b", "a"), kNoFile, kOnlyFileLink),
+    Refused("ToLinkWithData", Link("a", kFileUp) + Hard("b", "a", "evil"), kNoFile, kOnlyFileLink),
+    Unpacked("WithData", File("b", "old") + Hard("a", "b", "evil"), {{"a", kEvil}, {"b", kEvil}}),
+    Refused("BehindLink", File("b") + Link("a", kUp) + Hard("a/new", "b"), kThrough,
+            {{"a", "link: ../outside"}, {"b", kEvil}}),
+    Refused("ToFolder", Hard("a", "."), kNoFile),
+    Refused("ToItself", File("a") + Hard("a", "a"), kWriter, kOnlyEvil),
+    Refused("ToNothing", Hard("a", "b"), kWriter)};
 INSTANTIATE_TEST_SUITE_P(HardLinks, HostilePackageTest, testing::ValuesIn(kHardLinks), NameOf);
 
-const Packages kKinds = {
-    {"CharDevice", Node("a", kCharDevice), kNode, {}},
-    {"BlockDevice", Node("a", kBlockDevice), kNode, {}},
-    {"Pipe", Node("a", kPipe), kNode, {}},
-    {"SpecialRights",
-     Dir("a", 07777) + File("b", "", 07777),
-     "",
-     {{"a", "folder"}, {"b", "file 0755: "}}},
-    {"SameNameTwice", File("a", "first") + File("a"), "", {{"a", kEvil}}},
-    {"FileOverFolder", Dir("a") + File("a"), "", {{"a", kEvil}}},
-    {"FileOverFullFolder", File("a/b") + File("a"), kWriter, {{"a", "folder"}, {"a/b", kEvil}}},
-    {"FolderOverFile", File("a") + Dir("a"), "", {{"a", "folder"}}},
-    {"FileInPlaceOfFolder", File("a") + File("a/b"), kWriter, {{"a", kEvil}}},
-    {"LongerThanItsData",
-     Raw("a", kFile, "", 1 << 20, 0644, "short"),
-     kWriter,
-     {{"a", DescribeFile(0644, "short" + std::string((1 << 20) - 5, '\0'))}}}};
+const Package kKinds[] = {
+    Refused("CharDevice", Node("a", kCharDevice), kNode),
+    Refused("BlockDevice", Node("a", kBlockDevice), kNode),
+    Refused("Pipe", Node("a", kPipe), kNode),
+    Unpacked("SpecialRights", Dir("a", 07777) + File("b", "", 07777),
+             {{"a", "folder"}, {"b", "file 0755: "}}),
+    Unpacked("SameNameTwice", File("a", "first") + File("a"), kOnlyEvil),
+    Unpacked("FileOverFolder", Dir("a") + File("a"), kOnlyEvil),
+    Refused("FileOverFullFolder", File("a/b") + File("a"), kWriter,
+            {{"a", "folder"}, {"a/b", kEvil}}),
+    Unpacked("FolderOverFile", File("a") + Dir("a"), {{"a", "folder"}}),
+    Refused("FileInPlaceOfFolder", File("a") + File("a/b"), kWriter, kOnlyEvil),
+    Refused("LongerThanItsData", Raw("a", kFile, "", 1 << 20, 0644, "short"), kWriter,
+            {{"a", DescribeFile(0644, "short" + std::string((1 << 20) - 5, '\0'))}})};
 INSTANTIATE_TEST_SUITE_P(Kinds, HostilePackageTest, testing::ValuesIn(kKinds), NameOf);
 
-const Packages kNames = {{"NotUtf8", File("\xff\xfe"), "", {{"\xff\xfe", kEvil}}},
-                         {"Of300Bytes", File(std::string(300, 'n')), kWriter, {}},
-                         {"EmptyFile", File(""), kRoot, {}},
-                         {"DotFile", File("."), kRoot, {}},
-                         {"SlashFile", File("//."), kRoot, {}},
-                         {"DotSlashLink", Link("./", kUp) + File("file"), kRoot, {}},
-                         {"DotHardLink", File("b") + Hard(".", "b"), kRoot, {{"b", kEvil}}},
-                         {"DotFolder", Dir("./", 0) + File("./a"), "", {{"a", kEvil}}},
-                         {"SlashFolder", Dir("/", 0) + File("a"), "", {{"a", kEvil}}}};
+const Package kNames[] = {Unpacked("NotUtf8", File("\xff\xfe"), {{"\xff\xfe", kEvil}}),
+                          Refused("Of300Bytes", File(std::string(300, 'n')), kWriter),
+                          Refused("EmptyFile", File(""), kRoot),
+                          Refused("DotFile", File("."), kRoot),
+                          Refused("SlashFile", File("//."), kRoot),
+                          Refused("DotSlashLink", Link("./", kUp) + File("file"), kRoot),
+                          Refused("DotHardLink", File("b") + Hard(".", "b"), kRoot, {{"b", kEvil}}),
+                          Unpacked("DotFolder", Dir("./", 0) + File("./a"), kOnlyEvil),
+                          Unpacked("SlashFolder", Dir("/", 0) + File("a"), kOnlyEvil)};
 INSTANTIATE_TEST_SUITE_P(Names, HostilePackageTest, testing::ValuesIn(kNames), NameOf);
 
 std::string DeepPath(std::size_t size) {
@@ -360,27 +350,17 @@ TEST_F(HostileTest, AnOrdinaryUserGetsWhatIsInClosedFolders) {
                       File("a/x2") + File("a/x2", "again") + Dir("last", 0) + kEnd),
               0)
         << log_;
-    std::map<std::string, unsigned> modes;
-    for (const char* const folder : {"a", "a/b", "a/b/c", "a/b/c/d", "last"}) {
-        struct stat status = {};
-        lstat((dest_ + "/" + folder).c_str(), &status);
-        modes[folder] = status.st_mode;
-    }
-    EXPECT_EQ(modes, (std::map<std::string, unsigned>{{"a", 040555},
-                                                      {"a/b", 040000},
-                                                      {"a/b/c", 040311},
-                                                      {"a/b/c/d", 040755},
-                                                      {"last", 040000}}));
-    EXPECT_EQ(Tree(dest_), (FileTree{{"a", "folder"},
-                                     {"a/b", "folder"},
-                                     {"a/b/c", "folder"},
-                                     {"a/b/c/d", "folder"},
-                                     {"a/b/c/d/file", kEvil},
-                                     {"a/b/hard", "file 0400: text"},
-                                     {"a/b/l", "link: hard"},
-                                     {"a/x", "file 0400: text"},
-                                     {"a/x2", "file 0755: again"},
-                                     {"last", "folder"}}));
+    EXPECT_EQ(Tree(dest_, true), (FileTree{{"", "folder 0755"},
+                                           {"a", "folder 0555"},
+                                           {"a/b", "folder 0000"},
+                                           {"a/b/c", "folder 0311"},
+                                           {"a/b/c/d", "folder 0755"},
+                                           {"a/b/c/d/file", kEvil},
+                                           {"a/b/hard", "file 0400: text"},
+                                           {"a/b/l", "link: hard"},
+                                           {"a/x", "file 0400: text"},
+                                           {"a/x2", "file 0755: again"},
+                                           {"last", "folder 0000"}}));
 }
 
 TEST_F(HostileTest, ABombFillsASmallDiskOnly) {

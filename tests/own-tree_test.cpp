@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
-#include <map>
 #include <string>
 
 #include "lib/libclient/file-op.h"
@@ -28,17 +28,6 @@ int reads_until_failure = 0;  // of folders; 0: none fails
 mode_t ModeOf(const std::string& path) {
     struct stat status;
     return lstat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
-// The permissions of a folder and of those below it.
-std::map<std::string, mode_t> ModesIn(const std::string& path) {
-    std::map<std::string, mode_t> modes{{".", ModeOf(path)}};
-    for (const auto& [name, description] : Tree(path)) {
-        if (description == "folder") {
-            modes[name] = ModeOf(path + "/" + name);
-        }
-    }
-    return modes;
 }
 
 class OwnTreeTest : public testing::Test {
@@ -77,10 +66,17 @@ class OwnTreeTest : public testing::Test {
         }
     }
 
-    // Whether this process can also see what it arranges for the other user.
-    static bool isRoot() { return geteuid() == 0; }
-
     Folder folder_{"/dev/shm"};  // in memory, where making folders is fast
+};
+
+// For what only root can see or arrange for the other user.
+class OthersTreeTest : public OwnTreeTest {
+  protected:
+    void SetUp() override {
+        if (geteuid() != 0) {
+            GTEST_SKIP() << "only root can make another user's folders and look into them";
+        }
+    }
 };
 
 TEST_F(OwnTreeTest, RemovesWhatItsOwnerMayNotChange) {
@@ -128,11 +124,8 @@ TEST_F(OwnTreeTest, RemovesOneObject) {
     EXPECT_EQ(ModeOf("fixed"), 0555u) << "the folder that holds the tree";
 }
 
-TEST_F(OwnTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
+TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
     MakeFile("elsewhere/file");
-    if (!isRoot()) {
-        GTEST_SKIP() << "only root can make another user's folders";
-    }
     const SmallDisk disk("tree/closed/disk", "64k");
     MakeFolder("tree/closed/bound");
     if (!disk.mounted() ||
@@ -161,10 +154,7 @@ TEST_F(OwnTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
     umount("tree/closed/bound");
 }
 
-TEST_F(OwnTreeTest, GoesOnAfterWhatCannotBeRemoved) {
-    if (!isRoot()) {
-        GTEST_SKIP() << "only root can make another user's folders";
-    }
+TEST_F(OthersTreeTest, GoesOnAfterWhatCannotBeRemoved) {
     makeClosedTree("tree");
     MakeFile("tree/open/another's/file");
     MakeFolder("tree/open/another's empty");
@@ -200,15 +190,7 @@ TEST_F(OwnTreeTest, NeitherDepthNorWidthHasALimit) {
     const AsNobody nobody;
     const FewDescriptors few;
     for (const mode_t mode : {0555u, 0u}) {
-        MakeDeepTree("tree", 1000);
-        int fd = open("tree", O_RDONLY | O_DIRECTORY);
-        for (int level = 0; level < 1000; ++level) {
-            const int next = openat(fd, "d", O_RDONLY | O_DIRECTORY);
-            fchmod(fd, mode);
-            close(fd);
-            fd = next;
-        }
-        close(fd);
+        MakeDeepTree("tree", 1000, mode);
         EXPECT_TRUE(MakeFolderLike("tree", "to") && MoveEntries("tree", "to"));
         EXPECT_EQ(ModeOf("to"), mode);
         EXPECT_TRUE(MoveEntries("to", "tree"));
@@ -217,30 +199,23 @@ TEST_F(OwnTreeTest, NeitherDepthNorWidthHasALimit) {
     }
 }
 
-TEST_F(OwnTreeTest, MovesThereAndBackWithAllPermissions) {
-    if (!isRoot()) {
-        GTEST_SKIP() << "only root can see into closed folders";
-    }
+TEST_F(OthersTreeTest, MovesThereAndBackWithAllPermissions) {
     for (const mode_t top : {0755u, 0555u, 0u}) {
         makeClosedTree("from", top);
-        const FileTree tree = Tree("from");
-        const auto modes = ModesIn("from");
+        const FileTree tree = Tree("from", true);
         {
             const AsNobody nobody;
             ASSERT_TRUE(MakeFolderLike("from", "to"));
             EXPECT_FALSE(MakeFolderLike("from", "to"));
             EXPECT_TRUE(MoveEntries("from", "to"));
         }
-        EXPECT_EQ(Tree("to"), tree);
-        EXPECT_EQ(ModesIn("to"), modes);
-        EXPECT_EQ(Tree("from").size(), 0u);
-        EXPECT_EQ(ModeOf("from"), top);
+        EXPECT_EQ(Tree("to", true), tree);
+        EXPECT_EQ(Tree("from", true), (FileTree{{"", DescribeFolder(top)}}));
         {
             const AsNobody nobody;
             EXPECT_TRUE(MoveEntries("to", "from"));
         }
-        EXPECT_EQ(Tree("from"), tree);
-        EXPECT_EQ(ModesIn("from"), modes);
+        EXPECT_EQ(Tree("from", true), tree);
         fs::remove_all("from");
         fs::remove_all("to");
     }
@@ -262,16 +237,13 @@ TEST_F(OwnTreeTest, AMergeKeepsWhatOthersMayDo) {
 }
 
 // Kills a move at each of its changes, and then goes on with it, or moves back.
-TEST_F(OwnTreeTest, AMoveCanBeKilledAnywhere) {
-    if (!isRoot()) {
-        GTEST_SKIP() << "only root can see into closed folders";
-    }
+TEST_F(OthersTreeTest, AMoveCanBeKilledAnywhere) {
     int end = 1000 + SIGKILL;
     for (int k = 1; end == 1000 + SIGKILL; ++k) {
         for (const bool back : {false, true}) {
+            SCOPED_TRACE("killed at " + std::to_string(k) + (back ? ", back" : ", on"));
             makeClosedTree("from", 0555);
-            const FileTree tree = Tree("from");
-            const auto modes = ModesIn("from");
+            const FileTree tree = Tree("from", true);
             const pid_t pid = fork();
             if (pid == 0) {
                 BeTraced();
@@ -284,21 +256,19 @@ TEST_F(OwnTreeTest, AMoveCanBeKilledAnywhere) {
             run.fault_at = k;
             run.follow(pid);
             end = run.end;
-            SCOPED_TRACE("killed at " + std::to_string(k) + (back ? ", back" : ", on"));
             {
                 const AsNobody nobody;
                 EXPECT_TRUE(Exists("to") || MakeFolderLike("from", "to"));
                 EXPECT_TRUE(back ? MoveEntries("to", "from") : MoveEntries("from", "to"));
             }
-            const std::string there = back ? "from" : "to";
-            EXPECT_EQ(Tree(there), tree);
-            const std::string emptied = back ? "to" : "from";
-            EXPECT_EQ(Tree(emptied).size(), 0u);
-            EXPECT_EQ(ModeOf(emptied), ModeOf(there));
+            const FileTree moved = Tree(back ? "from" : "to", true);
+            EXPECT_EQ(Tree(back ? "to" : "from", true), (FileTree{{"", moved.at("")}}));
+            EXPECT_EQ(moved.size(), tree.size());
             int unlocked = 0;
-            for (const auto& [name, mode] : ModesIn(there)) {
-                if (mode != modes.at(name)) {
-                    EXPECT_EQ(mode, modes.at(name) | 0700u) << name;
+            for (const auto& [name, description] : moved) {
+                if (description != tree.at(name)) {
+                    const std::string mode = tree.at(name).substr(strlen("folder "));
+                    EXPECT_EQ(description, DescribeFolder(std::stoi(mode, nullptr, 8) | 0700u));
                     EXPECT_EQ(++unlocked, 1) << name;
                 }
             }

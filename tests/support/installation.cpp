@@ -9,8 +9,7 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <stdexcept>
-#include <thread>
+#include <set>
 
 namespace fs = std::filesystem;
 
@@ -18,6 +17,16 @@ namespace {
 
 const uid_t kNobody = 65534;
 const mode_t kUsualMode = Entry().mode;
+
+// As exec() takes them.
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts) {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+    return pointers;
+}
 
 int WaitStatus(pid_t pid) {
     int status = 0;
@@ -82,18 +91,31 @@ std::vector<Entry> PackageEntries(const std::string& number, Shape shape) {
     return entries;
 }
 
+void Unpack(std::vector<Entry> entries, const std::string& folder) {
+    for (const Entry& entry : entries) {
+        const std::string path = folder + "/" + entry.name;
+        if (entry.name.back() == '/') {
+            MakeFolder(path);
+        } else if (!entry.symlink.empty()) {
+            MakeLink(entry.symlink, path);
+        } else {
+            MakeFile(path, entry.content, entry.mode);
+        }
+    }
+    std::reverse(entries.begin(), entries.end());  // a folder after what is in it
+    for (const Entry& entry : entries) {
+        if (entry.name.back() == '/' && entry.mode != kUsualMode) {
+            fs::permissions(folder + "/" + entry.name, static_cast<fs::perms>(entry.mode));
+        }
+    }
+}
+
 }  // namespace
 
-Client::Client(std::vector<std::string> command) {
-    std::vector<char*> arguments;
-    for (std::string& argument : command) {
-        arguments.push_back(argument.data());
-    }
-    arguments.push_back(nullptr);
+Client::Client(std::vector<std::string> command, const std::string& pid_file) {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) {
-        throw std::runtime_error("can't make a pipe");
-    }
+    Check(pipe2(ends, O_CLOEXEC) == 0, "can't make a pipe");
+    const std::vector<char*> arguments = Pointers(command);
     pid_ = fork();
     if (pid_ == 0) {
         dup2(ends[1], STDOUT_FILENO);
@@ -104,11 +126,10 @@ Client::Client(std::vector<std::string> command) {
     char byte = 0;
     const bool ready = read(ends[0], &byte, 1) == 1;
     close(ends[0]);
-    std::packaged_task<int()> task([pid = pid_] { return WaitStatus(pid); });
-    end_ = task.get_future().share();
-    std::thread(std::move(task)).detach();
-    if (!ready) {
-        throw std::runtime_error("can't start " + command[0]);
+    end_ = std::async(std::launch::async, WaitStatus, pid_).share();
+    Check(ready, "can't start " + command[0]);
+    if (!pid_file.empty()) {
+        MakeFile(pid_file, "pid=" + std::to_string(pid_) + "\n");
     }
 }
 
@@ -132,8 +153,8 @@ int Client::wait() {
     return end_.get();
 }
 
-Installation::Installation(const std::string& bundle_folder)
-    : home_(folder_ / "home"),
+Installation::Installation(const std::string& bundle_folder, const std::string& home)
+    : home_(folder_ / home),
       bundle_(fs::path(folder_ / bundle_folder + "/Tarnwell.app").lexically_normal()) {
     MakeFolder(home_);
     MakeFolder(bundle("Contents/MacOS"));
@@ -185,28 +206,14 @@ void Installation::install(const std::string& number) {
 
 void Installation::install(const std::string& number, Shape shape) {
     std::vector<Entry> entries = PackageEntries(number, shape);
-    for (const Entry& entry : entries) {
-        if (entry.name.back() == '/') {
-            MakeFolder(app(entry.name));
-        } else if (!entry.symlink.empty()) {
-            MakeLink(entry.symlink, app(entry.name));
-        } else {
-            MakeFile(app(entry.name), entry.content, entry.mode);
-        }
-    }
     if (shape == Shape::Modes) {
-        MakeFile(app("Contents/closed/file"));  // by the client; no package can have it
+        entries.push_back({"Contents/closed/file"});  // by the client; no package can have it
     }
-    std::reverse(entries.begin(), entries.end());  // a folder after what is in it
-    for (const Entry& entry : entries) {
-        if (entry.name.back() == '/' && entry.mode != kUsualMode) {
-            fs::permissions(app(entry.name), static_cast<fs::perms>(entry.mode));
-        }
-    }
+    Unpack(entries, app());
 }
 
-void Installation::setClientPid(pid_t pid) const {
-    MakeFile(user("ui.pid"), "pid=" + std::to_string(pid) + "\n");
+Client Installation::startClient(const char* behaviour) const {
+    return Client({client(), behaviour}, user("ui.pid"));
 }
 
 void Installation::logEverything() const {
@@ -229,18 +236,15 @@ pid_t Installation::start(void (*before_exec)()) {
     const std::string program = bundle("Contents/MacOS/tarnwell-launcher");
     const std::string out = folder_ / "out";
     const std::string err = folder_ / "err";
+    std::vector<std::string> name = {started_as_.empty() ? program : started_as_};
     std::vector<std::string> variables;
-    std::vector<char*> pointers;
-    for (const auto& [name, value] : environment) {
-        variables.push_back(name + "=" + value);
-        if (name == "ASAN_OPTIONS" && before_exec != nullptr) {
-            variables.back() += ":detect_leaks=0";  // which doesn't work in a traced process
-        }
+    for (const auto& [variable, value] : environment) {
+        // which doesn't work in a traced process
+        const bool without_leaks = variable == "ASAN_OPTIONS" && before_exec != nullptr;
+        variables.push_back(variable + "=" + value + (without_leaks ? ":detect_leaks=0" : ""));
     }
-    for (std::string& variable : variables) {
-        pointers.push_back(variable.data());
-    }
-    pointers.push_back(nullptr);
+    const std::vector<char*> arguments = Pointers(name);
+    const std::vector<char*> environment_of_run = Pointers(variables);
     const pid_t pid = fork();
     if (pid == 0) {
         umask(022);
@@ -253,9 +257,7 @@ pid_t Installation::start(void (*before_exec)()) {
         if (before_exec != nullptr) {
             before_exec();
         }
-        const std::string& name = started_as_.empty() ? program : started_as_;
-        char* const arguments[] = {const_cast<char*>(name.c_str()), nullptr};
-        execve(program.c_str(), arguments, pointers.data());
+        execve(program.c_str(), arguments.data(), environment_of_run.data());
         _exit(127);
     }
     return pid;
@@ -282,26 +284,10 @@ bool Installation::clientStarted() {
     return WaitFor([&] { return Exists(mark); }) && fs::remove(mark);
 }
 
-FileTree Installation::expectedApp(const std::string& number, Shape shape,
-                                   bool folder_modes) const {
-    const auto folder = [&](mode_t mode) {
-        return folder_modes ? DescribeFolder(mode == kUsualMode ? 0755 : mode) : "folder";
-    };
-    FileTree tree;
-    if (folder_modes) {
-        tree[""] = folder(0755);
-    }
-    for (const Entry& entry : PackageEntries(number, shape)) {
-        for (std::size_t slash = entry.name.find('/'); slash < entry.name.size() - 1;
-             slash = entry.name.find('/', slash + 1)) {
-            tree.emplace(entry.name.substr(0, slash), folder(0755));
-        }
-        const std::string name = entry.name.substr(0, entry.name.find_last_not_of('/') + 1);
-        tree[name] = name != entry.name       ? folder(entry.mode)
-                     : !entry.symlink.empty() ? "link: " + entry.symlink
-                                              : DescribeFile(entry.mode, entry.content);
-    }
-    return tree;
+FileTree Installation::expectedApp(const std::string& number, Shape shape, bool folder_modes) {
+    const Folder folder;
+    Unpack(PackageEntries(number, shape), folder.path());
+    return Tree(folder.path(), folder_modes);
 }
 
 bool Logged(const Installation::Result& result, const std::string& fragment) {
@@ -309,10 +295,18 @@ bool Logged(const Installation::Result& result, const std::string& fragment) {
 }
 
 void InstallationTest::startFrom(const std::string& number) {
-    fs::remove_all(installation_.user());
-    installation_.install(number);
+    fs::remove_all(user());
+    install(number);
 }
 
-void InstallationTest::expectBuild(const std::string& number) {
-    EXPECT_EQ(Tree(installation_.app()), installation_.expectedApp(number));
+void InstallationTest::expectBuild(const std::string& number) const {
+    EXPECT_EQ(Tree(app()), expectedApp(number));
+}
+
+void InstallationTest::expectNoLeftovers() const {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(user())) {
+        names.insert(entry.path().filename());
+    }
+    EXPECT_EQ(names, (std::set<std::string>{"Tarnwell.app", "log"}));
 }

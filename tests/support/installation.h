@@ -19,8 +19,11 @@ class Client {
     static constexpr char kEndsAfterTwoSeconds[] = "ends after two seconds";
     static constexpr char kIgnoresSigterm[] = "ignores SIGTERM";
 
-    explicit Client(std::vector<std::string> command);
+    // It may write its process id to a file.
+    explicit Client(std::vector<std::string> command, const std::string& pid_file = "");
     ~Client();
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
 
     static void copyTo(const std::string& path);  // the stand-in's executable
 
@@ -43,7 +46,7 @@ enum class Shape { Plain, Modes, Links, Single, Many, ClientFirst, NoClient };
 // them through the real executable.
 class Installation {
   public:
-    explicit Installation(const std::string& bundle_folder = ".");  // beside the home folder
+    explicit Installation(const std::string& bundle_folder = ".", const std::string& home = "home");
 
     const std::string& home() const { return home_; }
     std::string user(const std::string& name = "") const;  // below ~/.Tarnwell
@@ -58,7 +61,8 @@ class Installation {
     // Puts an application of this build in place, as an earlier run would have.
     void install(const std::string& number);
     void install(const std::string& number, Shape shape);  // of such a package
-    void setClientPid(pid_t pid) const;
+    // Starts the installed client, which the pid file names from now on.
+    Client startClient(const char* behaviour = Client::kEndsAtOnce) const;
     void logEverything() const;  // otherwise errors and warnings only
 
     // Of the launcher: that of a user who has set nothing but what a test adds.
@@ -80,8 +84,8 @@ class Installation {
     static int wait(pid_t pid);
 
     bool clientStarted();  // since the last call; waits for it
-    FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
-                         bool folder_modes = false) const;
+    static FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
+                                bool folder_modes = false);
 
   private:
     Folder folder_;
@@ -93,13 +97,14 @@ class Installation {
 
 bool Logged(const Installation::Result& result, const std::string& fragment);
 
-class InstallationTest : public testing::Test {
+// A test of such runs.
+class InstallationTest : public testing::Test, protected Installation {
   protected:
     // Begins anew, with an application of this build as an earlier run would have left it.
     void startFrom(const std::string& number);
-    void expectBuild(const std::string& number);
-
-    Installation installation_;
+    void expectBuild(const std::string& number) const;
+    // Nothing but the log and the application is left of a run.
+    void expectNoLeftovers() const;
 };
 
 #endif

@@ -33,8 +33,9 @@ class Folder {
 void MakeFolder(const std::string& path);
 void MakeFile(const std::string& path, const std::string& content = "", mode_t mode = 0644);
 void MakeLink(const std::string& target, const std::string& path);
-// Makes a chain of folders named "d", longer than a path may be, with a file at its end.
-void MakeDeepTree(const std::string& path, int depth);
+// Makes a chain of folders named "d", longer than a path may be, with a file at its end. All but
+// the last one have this mode.
+void MakeDeepTree(const std::string& path, int depth, mode_t mode = 0755);
 
 // Copies a folder, a file or a link with its mode, times and owner.
 void CopyTree(const std::string& from, const std::string& to);
@@ -63,10 +64,10 @@ class AsNobody {
     bool active_;
 };
 
-// Lets this process open no more than a hundred files at a time.
+// Lets this process have no more than this number of descriptors.
 class FewDescriptors {
   public:
-    FewDescriptors();
+    explicit FewDescriptors(rlim_t limit = 100);
     ~FewDescriptors();
 
   private:

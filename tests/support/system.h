@@ -20,39 +20,37 @@ bool HasLocaleInEnvironment();
 // A folder on another volume than /tmp that every user can write to; empty where there is none.
 std::string AnotherVolume();
 
-// A small disk in memory on this folder, where this process and its children alone see it. Not
-// every system has one, and not every user may mount one.
-class SmallDisk {
+// A volume that a test has mounted on a folder, where this process and its children alone see it.
+class Volume {
   public:
-    SmallDisk(const std::string& path, const char* size);
-    ~SmallDisk();
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
+    ~Volume();
+    Volume(const Volume&) = delete;
+    Volume& operator=(const Volume&) = delete;
 
+    // Not every system has such volumes, and not every user may mount one.
     bool mounted() const { return mounted_; }
 
-  private:
+  protected:
+    explicit Volume(const std::string& path);  // which it makes
+
     const std::string path_;
-    bool mounted_;
+    bool mounted_ = false;
 };
 
-// A volume on this folder that ignores letter case, where this process and its children alone see
-// it. exFAT keeps names as they are given, but knows no links and no permissions; NTFS, as it is
-// mounted here, lists them in lower case. On a Mac every volume does that knows no other way.
-class CaseIgnoringVolume {
+// A small disk in memory.
+class SmallDisk : public Volume {
+  public:
+    SmallDisk(const std::string& path, const char* size);
+};
+
+// A volume that ignores letter case. exFAT keeps names as they are given, but knows no links and no
+// permissions; NTFS, as it is mounted here, lists them in lower case. On a Mac every volume does
+// that knows no other way.
+class CaseIgnoringVolume : public Volume {
   public:
     enum Kind { ExFat, Ntfs };
 
     CaseIgnoringVolume(const std::string& path, Kind kind);
-    ~CaseIgnoringVolume();
-    CaseIgnoringVolume(const CaseIgnoringVolume&) = delete;
-    CaseIgnoringVolume& operator=(const CaseIgnoringVolume&) = delete;
-
-    bool mounted() const { return mounted_; }
-
-  private:
-    const std::string path_;
-    bool mounted_;
 };
 
 #endif

@@ -50,27 +50,23 @@ std::string AnotherVolume() {
     return "/dev/shm";
 }
 
-SmallDisk::SmallDisk(const std::string& path, const char* size) : path_(path) {
+Volume::Volume(const std::string& path) : path_(path) {
     MakeFolder(path);
+}
+
+Volume::~Volume() {
+    if (mounted_) {
+        umount2(path_.c_str(), MNT_DETACH);
+    }
+}
+
+SmallDisk::SmallDisk(const std::string& path, const char* size) : Volume(path) {
     mounted_ = LeaveMountNamespace() &&
                mount("none", path.c_str(), "tmpfs", 0, ("size=" + std::string(size)).c_str()) == 0;
 }
 
-SmallDisk::~SmallDisk() {
-    if (mounted_) {
-        umount2(path_.c_str(), MNT_DETACH);
-    }
-}
-
-CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind kind) : path_(path) {
-    MakeFolder(path);
+CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind kind) : Volume(path) {
     const char* const name = kind == Ntfs ? "ntfs" : "exfat";
     mounted_ = LeaveMountNamespace() &&
                std::system(("set -- '" + path + "' " + name + kMount).c_str()) == 0;
-}
-
-CaseIgnoringVolume::~CaseIgnoringVolume() {
-    if (mounted_) {
-        umount2(path_.c_str(), MNT_DETACH);
-    }
 }

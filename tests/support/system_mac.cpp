@@ -20,15 +20,14 @@ std::string AnotherVolume() {
     return std::string();
 }
 
-SmallDisk::SmallDisk(const std::string& path, const char*) : path_(path), mounted_(false) {
+Volume::Volume(const std::string& path) : path_(path) {
     MakeFolder(path);
 }
 
-SmallDisk::~SmallDisk() = default;
+Volume::~Volume() = default;
 
-CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind) : path_(path) {
-    MakeFolder(path);
+SmallDisk::SmallDisk(const std::string& path, const char*) : Volume(path) {}
+
+CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind) : Volume(path) {
     mounted_ = pathconf(path.c_str(), _PC_CASE_SENSITIVE) == 0;
 }
-
-CaseIgnoringVolume::~CaseIgnoringVolume() = default;
