@@ -17,21 +17,6 @@ void CheckRecord(const UpgradeJournal& journal, const UpgradeJournal::Record& re
     REQUIRE(again.object == record.object && again.leftovers == record.leftovers);
 }
 
-// A folder that is missing, and one in the record's place.
-void CheckSurroundings(const Folder& folder) {
-    const UpgradeJournal nowhere((folder / "missing").c_str());
-    UpgradeJournal::Record record;
-    REQUIRE(nowhere.read(record) == Finding::Nothing);
-    REQUIRE(nowhere.write(record) == -1);
-
-    const UpgradeJournal journal(folder.path().c_str());
-    MakeFolder(journal.path().c_str());
-    REQUIRE(journal.read(record) == Finding::Damaged);
-    REQUIRE(journal.write(record) == -1);
-    REQUIRE(journal.remove() == 0);
-    REQUIRE(journal.read(record) == Finding::Nothing);
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
@@ -42,9 +27,6 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Folder folder(InMemory());
     static const UpgradeJournal journal(folder.path().c_str());
-    static const bool surroundings = (CheckSurroundings(folder), true);
-    REQUIRE(surroundings);
-
     MakeFile(journal.path().c_str(), TextOf(data, size));
     UpgradeJournal::Record record;
     const Finding finding = journal.read(record);

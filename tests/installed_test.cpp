@@ -18,21 +18,6 @@ namespace {
 using platform::Presence;
 using platform::Reading;
 
-// While it lives, this process can't open anything.
-class NoDescriptors {
-  public:
-    NoDescriptors() {
-        getrlimit(RLIMIT_NOFILE, &saved_);
-        rlimit none = saved_;
-        none.rlim_cur = 0;
-        setrlimit(RLIMIT_NOFILE, &none);
-    }
-    ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &saved_); }
-
-  private:
-    rlimit saved_;
-};
-
 class InstalledTest : public testing::Test {
   protected:
     Reading load(VerInfo& version) const {
@@ -72,27 +57,27 @@ TEST_F(InstalledTest, AReplacedVersionFileIsReadAnew) {
 TEST_F(InstalledTest, NothingButARegularFileInsideIsRead) {
     MakeFile(folder_ / "outside", "[Version]\nbuild_version=1");
     MakeFile(folder_ / "My.app-evil/file", "[Version]\nbuild_version=1");
-    const auto link_to = [](const char* target) {
-        return [target](const std::string& path) { MakeLink(target, path); };
+    using Make = std::function<void(const std::string& path)>;
+    const auto file = [](const std::string& text, mode_t mode = 0644) -> Make {
+        return [=](const std::string& path) { MakeFile(path, text, mode); };
     };
+    const auto link_to = [](const char* target) -> Make {
+        return [=](const std::string& path) { MakeLink(target, path); };
+    };
+    const Make pipe = [](const std::string& path) { mkfifo(path.c_str(), 0644); };
     const struct {
         const char* what;
-        std::function<void(const std::string& path)> make;
+        Make make;
         Reading reading;
         Presence presence;
     } cases[] = {
         {"nothing", [](const std::string&) {}, Reading::Missing, Presence::NotThere},
-        {"file", [](const std::string& path) { MakeFile(path, "x"); }, Reading::Done,
-         Presence::There},
-        {"empty", [](const std::string& path) { MakeFile(path); }, Reading::Done,
-         Presence::NotThere},
-        {"large", [](const std::string& path) { MakeFile(path, std::string((1 << 20) + 1, 'x')); },
-         Reading::Refused, Presence::There},
+        {"file", file("x"), Reading::Done, Presence::There},
+        {"empty", file(""), Reading::Done, Presence::NotThere},
+        {"large", file(std::string((1 << 20) + 1, 'x')), Reading::Refused, Presence::There},
+        {"unreadable", file("x", 0), Reading::Refused, Presence::There},
         {"folder", MakeFolder, Reading::Refused, Presence::NotThere},
-        {"pipe", [](const std::string& path) { mkfifo(path.c_str(), 0644); }, Reading::Refused,
-         Presence::NotThere},
-        {"unreadable", [](const std::string& path) { MakeFile(path, "x", 0); }, Reading::Refused,
-         Presence::There},
+        {"pipe", pipe, Reading::Refused, Presence::NotThere},
         {"link inside", link_to("../real"), Reading::Done, Presence::There},
         {"device", link_to("/dev/zero"), Reading::Refused, Presence::NotThere},
         {"link out", link_to("../../../outside"), Reading::Refused, Presence::NotThere},
@@ -124,7 +109,7 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
     Reading reading = Reading::Done;
     int error = 0;
     {
-        const NoDescriptors none;
+        const FewDescriptors none(0);
         reading = LoadVersion(info.c_str(), version, app.c_str());
         error = errno;
     }
@@ -142,13 +127,6 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
     }
     chmod((app_ + "/Contents").c_str(), 0755);
     EXPECT_EQ(FindClient(app_), Presence::There);
-}
-
-// "e" and an accent in two characters: another name than its composed form.
-TEST_F(InstalledTest, TheBytesOfThePathAreUsedAsTheyAre) {
-    const std::string app = folder_ / "e\xCC\x81\xFF.app";
-    MakeFile(app + "/Contents/MacOS/tarnwell-ui", "x");
-    EXPECT_EQ(FindClient(app), Presence::There);
 }
 
 }  // namespace

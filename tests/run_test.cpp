@@ -200,8 +200,6 @@ TEST_F(RunTest, AFailedFirstInstallationIsReportedAndRepaired) {
     const Result result = run();
     EXPECT_TRUE(Logged(result, "Failed to extract package, and no old installation to rollback"));
     EXPECT_TRUE(Logged(result, "[ERROR] mac/mac-service(80): Failed to launch Tarnwell UI"));
-    EXPECT_FALSE(Exists(app("Contents/MacOS/tarnwell-ui")));
-
     setBuild("100");
     run();
     expectBuild("100");
@@ -226,28 +224,6 @@ TEST_F(RunTest, EndsWellWithoutAUsableHome) {
         environment["HOME"] = home;
         run();
     }
-}
-
-TEST_F(RunTest, OfManyStartsAtOnceOneWorks) {
-    logEverything();
-    fs::remove(package());  // a pipe holds the one in the middle of its upgrade
-    ASSERT_EQ(mkfifo(package().c_str(), 0644), 0);
-    std::vector<pid_t> starts;
-    for (int i = 0; i < 100; ++i) {
-        starts.push_back(start());
-    }
-    const auto logged = [this](const char* fragment) {
-        return LinesWith(ReadFile(user("log/launcher.log")), fragment).size();
-    };
-    EXPECT_TRUE(WaitFor([&] {
-        return logged("[DEBUG] main(80): app has already launched, return") == 99u &&
-               logged("decompress from") == 1u;
-    }));
-    MakeFile(package(), "no archive");
-    for (const pid_t pid : starts) {
-        EXPECT_EQ(wait(pid), 0);
-    }
-    EXPECT_EQ(logged("): extract package"), 1u);
 }
 
 // The label of the window, by a part that no other language has in it.
@@ -360,59 +336,6 @@ TEST_F(RunTest, WhatCannotBeRemovedIsSetAsideForTheOldApplication) {
     EXPECT_FALSE(Exists(user("Tarnwell.app_tmp1")));
     EXPECT_FALSE(Exists(user("upgrade.journal")));
     EXPECT_TRUE(Exists(user("Tarnwell.app_tmp2/of")));
-}
-
-// The home was copied to another disk while an upgrade was cut off: all inodes are other ones.
-TEST_F(RunTest, ACopiedHomeKeepsTheOldApplication) {
-    const struct {
-        const char* name;
-        bool half;
-    } cases[] = {{"Tarnwell.app", false}, {"Tarnwell.app_tmp", false}, {"Tarnwell.app_tmp", true}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
-        startFrom("99");
-        const FileTree old_application = Tree(app());
-        if (user(row.name) != app()) {
-            fs::rename(app(), user(row.name));
-        }
-        if (row.half) {
-            MakeFile(app("Contents/MacOS/tarnwell-ui"), "half", 0755);
-        }
-        MakeFile(user("upgrade.journal"), kRecordOfNothing);
-        setBuild("100", "tar");
-        CutOff(package());
-        run();
-        EXPECT_EQ(Tree(app()), old_application);
-        setBuild("100");
-        run();
-        expectBuild("100");
-        expectNoLeftovers();
-    }
-}
-
-// Folders that their owner can't write, list or enter: nothing may pile up for an ordinary user.
-TEST_F(RunTest, ReadOnlyFoldersOfAPackageDoNotPileUp) {
-    install("99");
-    runAsNobody();
-    const FileTree old_application = Tree(app());
-    const std::vector<Entry> entries = {{"Contents/MacOS/tarnwell-ui", "#!/bin/sh\n", 0755},
-                                        {"Contents/Resources/INFO", "[Version]\nbuild_version=1\n"},
-                                        {"closed/file"},
-                                        {"closed/", "", 0555},
-                                        {"none/", "", 0}};
-    for (int start = 0; start < 12; ++start) {
-        MakeArchive(package(), "tar", entries);
-        CutOff(package());
-        run();
-        ASSERT_EQ(Tree(app()), old_application) << start;
-    }
-    expectNoLeftovers();
-    MakeArchive(package(), "tar", entries);
-    for (int start = 0; start < 12; ++start) {
-        run();  // the build that it installs is always the older one
-        expectNoLeftovers();
-    }
-    EXPECT_TRUE(Exists(app("closed/file")));
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::Kind> {
+class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::Kind>,
+                             protected Installation {
   protected:
     void SetUp() override {
         if (!volume_.mounted()) {
@@ -23,46 +24,42 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
         }
     }
 
-    // A package without links, which not each of these volumes has.
-    Installation::Result runWith(const std::string& number, std::vector<Entry> entries = {}) {
-        installation_.setBuild(number);
+    // Of a package without links, which not each of these volumes has.
+    std::string logOfRunWith(const std::string& number, std::vector<Entry> entries) {
+        setBuild(number);
         entries.push_back({"Contents/Info.plist", kInfoPlist});
         entries.push_back({"Contents/Resources/INFO", VersionFile(number)});
-        entries.push_back({"Contents/MacOS/tarnwell-ui", kClient, 0755});
-        MakeArchive(installation_.package(), "zip", entries);
-        Installation::Result result = installation_.run();
-        EXPECT_TRUE(installation_.clientStarted()) << result.err;
-        return result;
+        entries.push_back(
+            {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\necho >>\"$HOME/started\"\n", 0755});
+        MakeArchive(package(), "zip", entries);
+        const std::string log = run().log;
+        EXPECT_TRUE(clientStarted()) << log;
+        return log;
     }
 
-    void expectOnly(const std::string& number) {
-        EXPECT_EQ(ReadFile(installation_.app("Contents/Resources/INFO")), VersionFile(number));
-        int others = 0;
-        for (const auto& entry : fs::directory_iterator(installation_.user())) {
+    void expectOnly(const std::string& number) const {
+        EXPECT_EQ(ReadFile(app("Contents/Resources/INFO")), VersionFile(number));
+        for (const auto& entry : fs::directory_iterator(user())) {
             const std::string name = entry.path().filename();
-            others += strcasecmp(name.c_str(), "Tarnwell.app") != 0 && name != "log" ? 1 : 0;
+            EXPECT_TRUE(name == "log" || strcasecmp(name.c_str(), "Tarnwell.app") == 0) << name;
         }
-        EXPECT_EQ(others, 0);
     }
 
-    static constexpr char kClient[] = "#!/bin/sh\necho >>\"$HOME/started\"\n";
-
-    Installation installation_;
-    const CaseIgnoringVolume volume_{installation_.home(), GetParam()};
+    const CaseIgnoringVolume volume_{home(), GetParam()};
 };
 
 INSTANTIATE_TEST_SUITE_P(, CaseIgnoringHomeTest,
                          testing::Values(CaseIgnoringVolume::ExFat, CaseIgnoringVolume::Ntfs));
 
 TEST_P(CaseIgnoringHomeTest, InstallsUpgradesAndRollsBack) {
-    EXPECT_EQ(runWith("100", {{"Contents/old"}}).log, "");
+    EXPECT_EQ(logOfRunWith("100", {{"Contents/old"}}), "");
     expectOnly("100");
-    EXPECT_EQ(runWith("101", {{"Contents/new"}}).log, "");
+    EXPECT_EQ(logOfRunWith("101", {{"Contents/new"}}), "");
     expectOnly("101");
-    EXPECT_FALSE(Exists(installation_.app("Contents/old")));
-    const Installation::Result refused = runWith("102", {{"Contents/name"}, {"Contents/NAME"}});
-    EXPECT_TRUE(HasOneLine(refused.log, "refused entry 'Contents/NAME'")) << refused.log;
-    EXPECT_TRUE(HasOneLine(refused.log, "rollback to old installation")) << refused.log;
+    EXPECT_FALSE(Exists(app("Contents/old")));
+    const std::string log = logOfRunWith("102", {{"Contents/name"}, {"Contents/NAME"}});
+    EXPECT_TRUE(HasOneLine(log, "refused entry 'Contents/NAME'")) << log;
+    EXPECT_TRUE(HasOneLine(log, "rollback to old installation")) << log;
     expectOnly("101");
 }
 
