@@ -133,25 +133,26 @@ void CutPower(Case& c) {
     c.recover();
 }
 
-void Fail(Case& c) {
+TracedRun WithError(Case& c, bool lasting) {
     TracedRun run = c.run();
     run.error = kErrors[c.variant];
-    c.doing += std::string(" ") + strerror(run.error);
+    run.lasting = lasting;
+    c.doing += std::string(" ") + strerror(run.error) + (lasting ? " from there on," : "");
     run = c.follow(run);
     c.check(run.end == 0, "exit code");
+    return run;
+}
+
+void Fail(Case& c) {
     // What was looked at in vain may be put right by the next run only.
-    if (run.struck_a_change && c.scene.around != Scene::OnOverlay) {
+    if (WithError(c, false).struck_a_change && c.scene.around != Scene::OnOverlay) {
         c.checkInPlace();
     }
     c.recover();
 }
 
 void KeepFailing(Case& c) {
-    TracedRun run = c.run();
-    run.error = kErrors[c.variant];
-    run.lasting = true;
-    c.doing += std::string(" ") + strerror(run.error) + " from there on,";
-    c.check(c.follow(run).end == 0, "exit code");
+    WithError(c, true);
     c.recover();
 }
 
@@ -272,7 +273,6 @@ struct Row {
     }
 };
 
-// For messages.
 void PrintTo(const Row& row, std::ostream* out) {
     *out << row.name();
 }

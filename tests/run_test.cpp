@@ -269,6 +269,8 @@ TEST_F(RunTest, AnotherInstallationWaitsForARunningUpgrade) {
     int pipe = -1;  // opens when the first launcher waits for its package
     EXPECT_TRUE(WaitFor(
         [&] { return (pipe = open(package().c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)) >= 0; }));
+    logEverything();
+    EXPECT_TRUE(Logged(run(), "[DEBUG] main(80): app has already launched, return"));
     Installation other;
     other.environment["HOME"] = home();
     other.logEverything();

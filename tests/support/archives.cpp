@@ -2,7 +2,9 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <sys/stat.h>
 
+#include <algorithm>
 #include <clocale>
 #include <map>
 #include <utility>
@@ -57,4 +59,23 @@ void MakeArchive(const std::string& path, const std::string& format,
     }
     Check(archive_write_close(out) == ARCHIVE_OK, "can't finish " + path);
     archive_write_free(out);
+}
+
+void Unpack(std::vector<Entry> entries, const std::string& folder) {
+    for (const Entry& entry : entries) {
+        const std::string path = folder + "/" + entry.name;
+        if (entry.name.back() == '/') {
+            MakeFolder(path);
+        } else if (!entry.symlink.empty()) {
+            MakeLink(entry.symlink, path);
+        } else {
+            MakeFile(path, entry.content, entry.mode);
+        }
+    }
+    std::reverse(entries.begin(), entries.end());  // a folder after what is in it
+    for (const Entry& entry : entries) {
+        if (entry.name.back() == '/' && entry.mode != Entry().mode) {
+            chmod((folder + "/" + entry.name).c_str(), entry.mode);
+        }
+    }
 }

@@ -23,5 +23,7 @@ std::string VersionFile(const std::string& build);
 // Writes an archive: zip, 7z, cpio, tar, tar.gz, tar.xz or tar.zst.
 void MakeArchive(const std::string& path, const std::string& format,
                  const std::vector<Entry>& entries);
+// Makes what unpacking such an archive into a folder would.
+void Unpack(std::vector<Entry> entries, const std::string& folder);
 
 #endif

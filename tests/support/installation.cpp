@@ -7,7 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <set>
 
@@ -16,7 +15,6 @@ namespace fs = std::filesystem;
 namespace {
 
 const uid_t kNobody = 65534;
-const mode_t kUsualMode = Entry().mode;
 
 // As exec() takes them.
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
@@ -89,25 +87,6 @@ std::vector<Entry> PackageEntries(const std::string& number, Shape shape) {
         entries.push_back({last, "", 0});
     }
     return entries;
-}
-
-void Unpack(std::vector<Entry> entries, const std::string& folder) {
-    for (const Entry& entry : entries) {
-        const std::string path = folder + "/" + entry.name;
-        if (entry.name.back() == '/') {
-            MakeFolder(path);
-        } else if (!entry.symlink.empty()) {
-            MakeLink(entry.symlink, path);
-        } else {
-            MakeFile(path, entry.content, entry.mode);
-        }
-    }
-    std::reverse(entries.begin(), entries.end());  // a folder after what is in it
-    for (const Entry& entry : entries) {
-        if (entry.name.back() == '/' && entry.mode != kUsualMode) {
-            fs::permissions(folder + "/" + entry.name, static_cast<fs::perms>(entry.mode));
-        }
-    }
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <functional>
 #include <vector>
 
 const std::string kPackedClient = "Contents/MacOS/tarnwell-ui";
@@ -17,23 +16,18 @@ Packing::Packing() {
 }
 
 void Packing::makeApp(const std::string& app, bool backwards) {
-    std::vector<std::function<void()>> steps = {
-        [&] {
-            MakeFile(app + "/" + kPackedClient, "#!/bin/sh\necho $$ >>\"$HOME/started\"\n", 0755);
-        },
-        [&] { MakeFile(app + "/Contents/MacOS/helper", Noise(200000), 0555); },
-        [&] { MakeFile(app + "/" + kPackedInfo, VersionFile("101")); },
-        [&] { MakeFile(app + "/Contents/Resources/\xC3\xA9t\xC3\xA9", "summer", 0640); },
-        [&] { MakeFile(app + "/Contents/Resources-a", ""); },
-        [&] { MakeLink("../MacOS/../Resources", app + "/Contents/MacOS/link"); },
-        [&] { MakeLink("link/./\xC3\xA9t\xC3\xA9", app + "/Contents/MacOS/far"); },
-        [&] { MakeFile(app + "/" + kPackedPlist, kInfoPlist); }};
+    std::vector<Entry> entries = {{kPackedClient, "#!/bin/sh\necho $$ >>\"$HOME/started\"\n", 0755},
+                                  {"Contents/MacOS/helper", Noise(200000), 0555},
+                                  {kPackedInfo, VersionFile("101")},
+                                  {"Contents/Resources/\xC3\xA9t\xC3\xA9", "summer", 0640},
+                                  {"Contents/Resources-a"},
+                                  {"Contents/MacOS/link", "", 0777, "../MacOS/../Resources"},
+                                  {"Contents/MacOS/far", "", 0777, "link/./\xC3\xA9t\xC3\xA9"},
+                                  {kPackedPlist, kInfoPlist}};
     if (backwards) {
-        std::reverse(steps.begin(), steps.end());
+        std::reverse(entries.begin(), entries.end());
     }
-    for (const auto& step : steps) {
-        step();
-    }
+    Unpack(entries, app);
 }
 
 Packing::Result Packing::shell(const std::string& command) const {
