@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <numeric>
 #include <optional>
 #include <sstream>
 
@@ -21,17 +22,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-enum Type : char {
-    kFile = '0',
-    kHardLink = '1',
-    kLink = '2',
-    kCharDevice = '3',
-    kBlockDevice = '4',
-    kFolder = '5',
-    kPipe = '6',
-    kLongName = 'L',
-    kExtension = 'x'
-};
+enum Type : char { kFile = '0', kHardLink, kLink, kCharDevice, kBlockDevice, kFolder, kPipe };
+const auto kLongName = static_cast<Type>('L');
+const auto kExtension = static_cast<Type>('x');
 
 std::string Padded(const std::string& data) {
     return data + std::string((512 - data.size() % 512) % 512, '\0');
@@ -53,11 +46,8 @@ std::string Raw(const std::string& name, Type type, const std::string& link, std
     header[156] = type;
     link.copy(header + 157, 100);
     std::string("ustar\00000", 8).copy(header + 257, 8);
-    unsigned sum = 0;
-    for (const char byte : header) {
-        sum += static_cast<unsigned char>(byte);
-    }
-    std::snprintf(header + 148, 8, "%06o", sum);
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(header);
+    std::snprintf(header + 148, 8, "%06o", std::accumulate(bytes, bytes + sizeof header, 0u));
     return std::string(header, sizeof header) + Padded(data);
 }
 

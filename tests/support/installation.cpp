@@ -177,10 +177,11 @@ void Installation::setBuild(const std::string& number, const std::string& format
 }
 
 void Installation::install(const std::string& number) {
-    MakeFile(app("Contents/Resources/INFO"), "[Version]\nbuild_version=" + number + "\n");
+    Unpack({{"Contents/Resources/INFO", "[Version]\nbuild_version=" + number + "\n"},
+            {"Contents/Info.plist", kInfoPlist},
+            {"old", "of build " + number}},
+           app());
     Client::copyTo(client());
-    MakeFile(app("Contents/Info.plist"), kInfoPlist);
-    MakeFile(app("old"), "of build " + number);
 }
 
 void Installation::install(const std::string& number, Shape shape) {
