@@ -308,7 +308,7 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
         entries.push_back(
             {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\necho >>\"$HOME/started\"\n", 0755});
         MakeArchive(package(), "zip", entries);
-        const std::string log = run().log;
+        std::string log = run().log;
         EXPECT_TRUE(clientStarted()) << log;
         return log;
     }

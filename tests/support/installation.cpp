@@ -34,6 +34,24 @@ int WaitStatus(pid_t pid) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
 }
 
+pid_t StartAndAwaitLine(std::vector<std::string>& command) {
+    int ends[2];
+    Check(pipe2(ends, O_CLOEXEC) == 0, "can't make a pipe");
+    const std::vector<char*> arguments = Pointers(command);
+    const pid_t pid = fork();
+    if (pid == 0) {
+        dup2(ends[1], STDOUT_FILENO);
+        execv(arguments[0], arguments.data());
+        _exit(127);
+    }
+    close(ends[1]);
+    char byte = 0;
+    const bool ready = read(ends[0], &byte, 1) == 1;
+    close(ends[0]);
+    Check(ready, "can't start " + command[0]);
+    return pid;
+}
+
 const char kClientPath[] = "Contents/MacOS/tarnwell-ui";
 
 // Notes that it was started, and whether it saw the last entry of its package. When its folder
@@ -91,22 +109,9 @@ std::vector<Entry> PackageEntries(const std::string& number, Shape shape) {
 
 }  // namespace
 
-Client::Client(std::vector<std::string> command, const std::string& pid_file) {
-    int ends[2];
-    Check(pipe2(ends, O_CLOEXEC) == 0, "can't make a pipe");
-    const std::vector<char*> arguments = Pointers(command);
-    pid_ = fork();
-    if (pid_ == 0) {
-        dup2(ends[1], STDOUT_FILENO);
-        execv(arguments[0], arguments.data());
-        _exit(127);
-    }
-    close(ends[1]);
-    char byte = 0;
-    const bool ready = read(ends[0], &byte, 1) == 1;
-    close(ends[0]);
-    end_ = std::async(std::launch::async, WaitStatus, pid_).share();
-    Check(ready, "can't start " + command[0]);
+Client::Client(std::vector<std::string> command, const std::string& pid_file)
+    : pid_(StartAndAwaitLine(command)),
+      end_(std::async(std::launch::async, WaitStatus, pid_).share()) {
     if (!pid_file.empty()) {
         MakeFile(pid_file, "pid=" + std::to_string(pid_) + "\n");
     }
