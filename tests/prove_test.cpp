@@ -176,7 +176,7 @@ void StartAnother(Case& c) {
         other.runAsNobody();
     }
     c.setPackage(c.variant == 0 ? 100 : 101);
-    c.new_app = other.expectedApp("101", c.scene.package, true);
+    c.new_app = Installation::expectedApp("101", c.scene.package, true);
     pid_t pid = 0;
     TracedRun run = c.run();
     run.interfere = [&](pid_t) {

@@ -48,7 +48,7 @@ void UpgradeTrial::setPackage(int build, Scene::Damage damage) {
     const std::string number = std::to_string(build);
     const char* const whole = scene.package == Shape::Plain ? "zip" : "tar.zst";
     in.setBuild(number, damage == Scene::Whole ? whole : "tar", scene.package);
-    new_app = in.expectedApp(number, scene.package, true);
+    new_app = Installation::expectedApp(number, scene.package, true);
     if (damage == Scene::CutAfter || damage == Scene::CutBefore) {
         const char* const last =
             scene.package == Shape::Modes ? "Contents/closed/" : "Contents/Resources/data.bin";
