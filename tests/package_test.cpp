@@ -3,20 +3,22 @@
 
 #include <unistd.h>
 
-#include <algorithm>
-
 #include "tests/support/packing.h"
 #include "tests/support/system.h"
 
 namespace {
 
-using PackageTest = Packing;
-
-struct Refusal {
-    std::string arrange;
-    std::string where;
-    std::string what;
+class PackageTest : public Packing {
+  protected:
+    // That a command fails with a message that begins like this. Both are read by a shell.
+    void expectRefusal(const std::string& command, const std::string& beginning) const {
+        SCOPED_TRACE(command);
+        Packing::expectRefusal(shell(command), shell("printf %s \"" + beginning + '"').out);
+    }
 };
+
+// How to arrange what is refused, or the command itself, and how the message begins.
+using Refusals = std::vector<std::pair<std::string, std::string>>;
 
 TEST_F(PackageTest, TheSameTreeGivesTheSameBytes) {
     makeApp(folder_ / "copy", true);
@@ -44,11 +46,12 @@ TEST_F(PackageTest, KeepsModesAndLinksAndPutsTheClientLast) {
     const Result result = shell(
         "chmod 2750 $R; ln $C Contents/MacOS/again; for i in .DS_Store ._INFO desktop.ini; do "
         "echo x >$R/$i; done; $MAKE . $OUT");
-    EXPECT_EQ(result.err,
-              "make-package: warning: Contents/Resources/.DS_Store: left out, as it isn't part of "
-              "an application\nmake-package: warning: Contents/Resources/._INFO: left out, as it "
-              "isn't part of an application\nmake-package: warning: Contents/Resources/"
-              "desktop.ini: left out, as it isn't part of an application\n");
+    std::string warnings;
+    for (const std::string left_out : {".DS_Store", "._INFO", "desktop.ini"}) {
+        warnings += "make-package: warning: Contents/Resources/" + left_out +
+                    ": left out, as it isn't part of an application\n";
+    }
+    EXPECT_EQ(result.err, warnings);
     const Result list = shell("LC_ALL=C.UTF-8 bsdtar -tvf $OUT | sed 's/ .* Contents/ /'");
     EXPECT_EQ(list.out,
               "drwxr-xr-x /\n-rw-r--r-- /Info.plist\ndrwxr-xr-x /MacOS/\n-rwxr-xr-x /MacOS/again\n"
@@ -59,63 +62,58 @@ TEST_F(PackageTest, KeepsModesAndLinksAndPutsTheClientLast) {
 }
 
 TEST_F(PackageTest, RefusesWhatWouldFailOnAUsersMachine) {
-    const std::string res = "Contents/Resources/";
     const std::string deep = std::string(250, 'd') + "/" + std::string(250, 'e') + "/" +
                              std::string(250, 'f') + "/" + std::string(50, 'g');
     const std::string info = "printf '[Version]\\nbuild_version=%s\\n' ";
-    const std::string number = "has no build_version from 1 to 2147483647 in its group [Version]";
+    const std::string number =
+        "$I: has no build_version from 1 to 2147483647 in its group [Version]";
     const std::string plist =
-        "printf '<plist><dict><key>CFBundleExecutable</key><string>%s</string"
-        "></dict></plist>' ";
-    const Refusal rows[] = {
-        {"rm $C", kPackedClient, "is missing; put the client's executable there"},
-        {"mv $C $R; ln -s ../Resources/tarnwell-ui $C", kPackedClient, "isn't a file with content"},
-        {": >$C", kPackedClient, "isn't a file with content"},
-        {"chmod 655 $C", kPackedClient, "isn't executable; chmod 755"},
-        {"echo echo hello >$C", kPackedClient, "is neither a program (ELF, Mach-O) nor a script"},
-        {"echo '#!sh' >$C", kPackedClient, "is neither a program"},
-        {"printf '#!/bin/sh\\r\\n' >$C", kPackedClient, "is neither a program"},
-        {R"(printf '\177ELF\2\1\1\0%08d\1\0\0\0' 0 >$C)", kPackedClient,
-         "is neither a program"},  // an object file
-        {R"(printf '\312\376\272\276\0\0\0\064%08d' 0 >$C)", kPackedClient,
-         "is neither a program"},  // a class of Java
-        {"rm $I", kPackedInfo, "is missing; write the version file"},
-        {"echo major_version=1 >$I", kPackedInfo, number + ", but ''"},
-        {"echo build_version=1 >$I", kPackedInfo, number + ", but ''"},
-        {info + "12b >$I", kPackedInfo, number + ", but '12b'"},
-        {info + "-5 >$I", kPackedInfo, number},
-        {info + "0 >$I", kPackedInfo, number},
-        {info + "0042 >$I", kPackedInfo, number},
-        {info + "2147483648 >$I", kPackedInfo, number},
-        {"truncate -s 2M $I", kPackedInfo, "isn't a file of at most 1 MiB"},
-        {"rm $P", kPackedPlist, "is missing; without it the application can't be opened"},
-        {"echo bplist00 >$P", kPackedPlist, "isn't an XML property list with the key CFBundleEx"},
-        {plist + "ui >$P", "Contents/MacOS/ui", "is missing; CFBundleExecutable in"},
-        {plist + "far >$P", "Contents/MacOS/far", "isn't a file with content; CFBundleExecutable"},
-        {plist + "helper >$P", "Contents/MacOS/helper", "is neither a program"},
-        {"touch \"$(printf 'caf\\351\\n.')\"", "caf\\xE9\\x0A.", "isn't named in UTF-8; rename it"},
-        {"touch cafe\xCC\x81", "cafe\xCC\x81", "has a name that isn't in Unicode's composed form"},
-        {"touch $R/info", res + "info", "differs from 'Contents/Resources/INFO' in letter case"},
-        {"touch $R/\xC3\x89T\xC3\x89", res + "\xC3\xA9t\xC3\xA9",
-         "differs from 'Contents/Resources/\xC3\x89T\xC3"},
-        {"mkdir contents; touch contents/x", "contents", "differs from 'Contents' in letter case"},
-        {"mkdir -p $(dirname " + deep + "); touch " + deep, deep, "has a path of more than 800"},
-        {"mkfifo pipe", "pipe", "is a pipe, socket or device, which the launcher refuses"},
-        {"chmod u+s $C", kPackedClient, "is set-user-id or set-group-id"},
-        {"chmod g+s $C", kPackedClient, "is set-user-id or set-group-id"},
-        {"chmod u-r $I", kPackedInfo, "can't be read by its owner; chmod u+r"},
-        {"chmod u-w $R", "Contents/Resources", "is a folder that its owner can't read, write and"},
-        {"ln -s $PWD/$I $R/a", res + "a", "is a link to an absolute path"},
-        {"ln -s ../../../app/Contents $R/a", res + "a", "is a link that leads out of the app"},
-        {"ln -s ../MacOS/link/../../.. $R/a", res + "a", "is a link that leads out of the app"},
-        {"ln -s ../MacOS/INFO $R/a", res + "a", "is a link to nothing"},
-        {"ln -s INFO/x $R/a", res + "a", "is a link to nothing"},
-        {"ln -s ../Resources/a $R/a", res + "a", "is a link that leads in a circle"},
-    };
-    for (const Refusal& row : rows) {
-        SCOPED_TRACE(row.arrange);
-        expectRefusal(shell(row.arrange + "; $MAKE . $OUT"), "./" + row.where + ": " + row.what);
-        expectRefusal(shell("$MAKE --check ."), "./" + row.where + ": " + row.what);
+        "printf '<plist><dict><key>CFBundleExecutable</key><string>%s</string></dict></plist>' ";
+    const std::string no_program = "$C: is neither a program (ELF, Mach-O) nor a script";
+    const Refusals rows = {
+        {"rm $C", "$C: is missing; put the client's executable there"},
+        {"mv $C $R; ln -s ../Resources/tarnwell-ui $C", "$C: isn't a file with content"},
+        {": >$C", "$C: isn't a file with content"},
+        {"chmod 655 $C", "$C: isn't executable; chmod 755"},
+        {"echo echo hello >$C", no_program},
+        {"echo '#!sh' >$C", no_program},
+        {"printf '#!/bin/sh\\r\\n' >$C", no_program},
+        {R"(printf '\177ELF\2\1\1\0%08d\1\0\0\0' 0 >$C)", no_program},     // an object file
+        {R"(printf '\312\376\272\276\0\0\0\064%08d' 0 >$C)", no_program},  // a class of Java
+        {"rm $I", "$I: is missing; write the version file"},
+        {"echo major_version=1 >$I", number + ", but ''"},
+        {"echo build_version=1 >$I", number + ", but ''"},
+        {info + "12b >$I", number + ", but '12b'"},
+        {info + "-5 >$I", number},
+        {info + "0 >$I", number},
+        {info + "0042 >$I", number},
+        {info + "2147483648 >$I", number},
+        {"truncate -s 2M $I", "$I: isn't a file of at most 1 MiB"},
+        {"rm $P", "$P: is missing; without it the application can't be opened"},
+        {"echo bplist00 >$P", "$P: isn't an XML property list with the key CFBundleEx"},
+        {plist + "ui >$P", "Contents/MacOS/ui: is missing; CFBundleExecutable in"},
+        {plist + "far >$P", "Contents/MacOS/far: isn't a file with content; CFBundleExecutable"},
+        {plist + "helper >$P", "Contents/MacOS/helper: is neither a program"},
+        {"touch \"$(printf 'caf\\351\\n.')\"", "caf\\xE9\\x0A.: isn't named in UTF-8; rename it"},
+        {"touch cafe\xCC\x81", "cafe\xCC\x81: has a name that isn't in Unicode's composed form"},
+        {"touch $R/info", "$R/info: differs from '$I' in letter case"},
+        {"touch $R/\xC3\x89T\xC3\x89", "$R/\xC3\xA9t\xC3\xA9: differs from '$R/\xC3\x89T\xC3\x89'"},
+        {"mkdir contents; touch contents/x", "contents: differs from 'Contents' in letter case"},
+        {"mkdir -p $(dirname " + deep + "); touch " + deep, deep + ": has a path of more than 800"},
+        {"mkfifo pipe", "pipe: is a pipe, socket or device, which the launcher refuses"},
+        {"chmod u+s $C", "$C: is set-user-id or set-group-id"},
+        {"chmod g+s $C", "$C: is set-user-id or set-group-id"},
+        {"chmod u-r $I", "$I: can't be read by its owner; chmod u+r"},
+        {"chmod u-w $R", "$R: is a folder that its owner can't read, write and"},
+        {"ln -s $PWD/$I $R/a", "$R/a: is a link to an absolute path"},
+        {"ln -s ../../../app/Contents $R/a", "$R/a: is a link that leads out of the app"},
+        {"ln -s ../MacOS/link/../../.. $R/a", "$R/a: is a link that leads out of the app"},
+        {"ln -s ../MacOS/INFO $R/a", "$R/a: is a link to nothing"},
+        {"ln -s INFO/x $R/a", "$R/a: is a link to nothing"},
+        {"ln -s ../Resources/a $R/a", "$R/a: is a link that leads in a circle"}};
+    for (const auto& [arrange, message] : rows) {
+        expectRefusal(arrange + "; $MAKE . $OUT", "./" + message);
+        expectRefusal("$MAKE --check .", "./" + message);
         EXPECT_EQ(shell("chmod u+w $R; rm -rf ../app").code, 0);
         makeApp(app_);
     }
@@ -137,142 +135,130 @@ TEST_F(PackageTest, ReportsAllFaultsInOneGo) {
     // One cause gives one fault: what is in a folder that can't be read isn't missing.
     shell("rm -rf ../app");
     makeApp(app_);
-    expectRefusal(shell("chmod 0 Contents/MacOS; $MAKE . $OUT; s=$?; chmod 755 Contents/MacOS; "
-                        "exit $s"),
+    expectRefusal("chmod 0 Contents/MacOS; $MAKE . $OUT; s=$?; chmod 755 Contents/MacOS; exit $s",
                   "./Contents/MacOS: is a folder that its owner can't read");
 }
 
 TEST_F(PackageTest, NamesTheFolderThatWasMeant) {
-    const Refusal rows[] = {
-        {"cd Contents; $MAKE . $OUT", ".", "is the folder Contents of an application; name "},
-        {"cd ..; mv app A.app; $MAKE . x.opk; s=$?; mv A.app app; exit $s", ".",
-         "has no folder Contents; name the application in it: ./A.app"},
-        {"$MAKE $OUT.none $OUT", out_ + ".none", "can't be opened: No such file or directory"},
-        {"$MAKE $C $OUT", kPackedClient, "isn't an application folder"},
-        {"$MAKE '" BUILD "/Tarnwell.app' $OUT", BUILD "/Tarnwell.app", "is a launcher's bundle, "},
-        {"ln -s $PWD ../way; $MAKE . ../way/x.opk", "../way/x.opk", "is in the application folder"},
-        {"$MAKE . none/x.opk", "none/x.opk", "its folder can't be opened: No such file"},
-        {"$MAKE . ../out", "../out", "is a folder; name the file to make"},
-    };
-    for (const Refusal& row : rows) {
-        SCOPED_TRACE(row.arrange);
-        expectRefusal(shell(row.arrange), row.where + ": " + row.what);
+    const Refusals rows = {
+        {"cd Contents; $MAKE . $OUT", ".: is the folder Contents of an application; name "},
+        {"cd ..; mv app A.app; $MAKE . x.opk; s=$?; mv A.app app; exit $s",
+         ".: has no folder Contents; name the application in it: ./A.app"},
+        {"$MAKE $OUT.none $OUT", "$OUT.none: can't be opened: No such file or directory"},
+        {"$MAKE $C $OUT", "$C: isn't an application folder"},
+        {"$MAKE '" BUILD "/Tarnwell.app' $OUT", BUILD "/Tarnwell.app: is a launcher's bundle, "},
+        {"ln -s $PWD ../way; $MAKE . ../way/x.opk", "../way/x.opk: is in the application folder"},
+        {"$MAKE . none/x.opk", "none/x.opk: its folder can't be opened: No such file"},
+        {"$MAKE . ../out", "../out: is a folder; name the file to make"},
+        {"$MAKE --check none", "none: can't be opened"}};
+    for (const auto& [command, message] : rows) {
+        expectRefusal(command, message);
     }
     // Another user's file, as opposed to an empty one.
-    for (const std::string& path : {kPackedInfo, kPackedPlist}) {
-        expectRefusal(shell("chmod 700 " + path + "; chown 1 " + path + " 2>&- || chmod 0 " + path +
-                            "; nobody $MAKE --check ."),
+    for (const std::string path : {"$I", "$P"}) {
+        expectRefusal("chmod 700 " + path + "; chown 1 " + path + " 2>&- || chmod 0 " + path +
+                          "; nobody $MAKE --check .",
                       "./" + path + ": can't be read");
         shell("chmod 644 " + path);
     }
 }
 
 TEST_F(PackageTest, WritesOverNothingButAPackage) {
-    const Refusal rows[] = {
-        {"mknod $OUT c 1 3 2>&- || mkfifo $OUT", "", "isn't a regular file; name the file to make"},
-        {"ln -s /dev/null $OUT", "", "isn't a regular file"},
-        {"ln -s none $OUT", "", "isn't a regular file"},
-        {"echo thesis >$OUT", "", "exists and isn't a complete package: it isn't an archive that"},
-        {": >$OUT", "", "exists and isn't a complete package: it is empty; remove it first"},
-        {"bsdtar --format zip -cf $OUT $R", "",
-         "exists and isn't a complete package: it has no cli"},
-        {"$MAKE . $OUT; truncate -s -9 $OUT", "",
-         "exists and isn't a complete package: it is damaged"},
-    };
-    for (const Refusal& row : rows) {
-        SCOPED_TRACE(row.arrange);
-        shell(row.arrange);
+    const std::string no_package = "exists and isn't a complete package: it ";
+    const Refusals rows = {
+        {"mknod $OUT c 1 3 2>&- || mkfifo $OUT", "isn't a regular file; name the file to make"},
+        {"ln -s /dev/null $OUT", "isn't a regular file"},
+        {"ln -s none $OUT", "isn't a regular file"},
+        {"echo thesis >$OUT", no_package + "isn't an archive that"},
+        {": >$OUT", no_package + "is empty; remove it first"},
+        {"bsdtar --format zip -cf $OUT $R", no_package + "has no cli"},
+        {"$MAKE . $OUT; truncate -s -9 $OUT", no_package + "is damaged"}};
+    for (const auto& [arrange, message] : rows) {
+        shell(arrange);
         const std::string before = shell("stat -c '%i %F %s %Y' $OUT; ls ../out").out;
-        expectRefusal(pack(), out_ + ": " + row.what);
-        EXPECT_EQ(shell("stat -c '%i %F %s %Y' $OUT; ls ../out").out, before);
+        expectRefusal("$MAKE . $OUT", "$OUT: " + message);
+        EXPECT_EQ(shell("stat -c '%i %F %s %Y' $OUT; ls ../out").out, before) << arrange;
         shell("rm $OUT");
     }
 }
 
 TEST_F(PackageTest, WarnsWhenNoUserWouldGetTheBuild) {
-    const auto packAs = [&](const std::string& number, const std::string& options) {
-        return shell("sed -i s/build_version=.*/build_version=" + number + "/ $I; $MAKE " +
-                     options + " . $OUT");
-    };
+    const std::string number = "sed -i s/build_version=.*/build_version=";
     const std::string raise = "; raise build_version in Contents/Resources/INFO\n";
-    EXPECT_EQ(packAs("8", "").err, "");
-    EXPECT_EQ(packAs("8", "--format zip").err, "");  // the same content
-    EXPECT_EQ(packAs("5", "").err, "make-package: warning: " + out_ +
-                                       ": was build 8, whose users would not get build 5" + raise);
+    const std::string warning = "make-package: warning: " + out_ + ": was build ";
+    EXPECT_EQ(shell(number + "8/ $I; $MAKE . $OUT").err, "");
+    EXPECT_EQ(shell("$MAKE --format zip . $OUT").err, "");  // the same content
+    EXPECT_EQ(shell(number + "5/ $I; $MAKE . $OUT").err,
+              warning + "8, whose users would not get build 5" + raise);
     EXPECT_EQ(shell("echo more >more; $MAKE . $OUT").err,
-              "make-package: warning: " + out_ +
-                  ": was build 5 too, with other content, whose users would not get this one" +
-                  raise);
+              warning + "5 too, with other content, whose users would not get this one" + raise);
     const std::string bytes = ReadFile(out_);
-    for (const std::string number : {"4", "5"}) {
-        expectRefusal(packAs(number, "--newer-than $OUT"),
-                      ".: is build " + number + ", not newer than build 5 of " + out_ + raise);
-        expectRefusal(shell("$MAKE --newer-than $OUT --check ."), ".: is build " + number);
+    for (const std::string old : {"4", "5"}) {
+        expectRefusal(number + old + "/ $I; $MAKE --newer-than $OUT . $OUT",
+                      ".: is build " + old + ", not newer than build 5 of $OUT; raise");
+        expectRefusal("$MAKE --newer-than $OUT --check .", ".: is build " + old);
     }
     EXPECT_TRUE(ReadFile(out_) == bytes);
-    EXPECT_EQ(packAs("6", "--newer-than $OUT").err, "");
+    EXPECT_EQ(shell(number + "6/ $I; $MAKE --newer-than $OUT . $OUT").err, "");
 }
 
 TEST_F(PackageTest, AFailureLeavesNoHalfPackage) {
-    expectRefusal(shell("trap '' XFSZ; ulimit -f 100; $MAKE . $OUT"),
-                  out_ + ": can't be written: File too large");
+    expectRefusal("trap '' XFSZ; ulimit -f 100; $MAKE . $OUT",
+                  "$OUT: can't be written: File too large");
     MakeFile(app_ + "/noise", Noise(16 << 20));
-    expectRefusal(shell("$MAKE . $OUT & begun; kill $!; wait $!"),
-                  out_ + ": was interrupted; run again");
-    expectRefusal(shell("$MAKE --format zip . $OUT & begun; touch new; wait $!"),
-                  ".: was changed while it was");
-    expectRefusal(shell("$MAKE . $OUT & begun; : >noise; wait $!"), "./noise: was changed while");
+    const Refusals rows = {
+        {"$MAKE . $OUT & begun; kill $!", "$OUT: was interrupted; run again"},
+        {"$MAKE --format zip . $OUT & begun; touch new", ".: was changed while it was"},
+        {"$MAKE . $OUT & begun; : >noise", "./noise: was changed while"}};
+    for (const auto& [command, message] : rows) {
+        expectRefusal(command + "; wait $!", message);
+    }
     EXPECT_TRUE(Tree(folder_ / "out").empty());
 }
 
 TEST_F(PackageTest, ChecksWhetherTheLauncherAcceptsAPackage) {
-    EXPECT_EQ(pack().code, 0);
-    const Refusal rows[] = {
-        {": >$OUT", "", "is empty; make the package again"},
-        {"echo text >$OUT", "", "isn't an archive that the launcher can read: Unrecognized"},
-        {"head -c 9999 /dev/urandom >$OUT", "", "is"},
-        {"rm $OUT; $MAKE --format zip . $OUT; truncate -s -30 $OUT", "", "is truncated after"},
-        {"rm $OUT; $MAKE . $OUT; truncate -s -9 $OUT", "", "is damaged"},
-        {"cd ..; mv app A.app; bsdtar --format zip -cf $OUT A.app; mv A.app app", "",
-         "has A.app/ around the application; pack what is in that folder: make-package A.app"},
-    };
-    for (const Refusal& row : rows) {
-        SCOPED_TRACE(row.arrange);
-        shell(row.arrange);
-        expectRefusal(check(), out_ + ": " + row.what);
-    }
-    expectRefusal(shell("$MAKE --check none"), "none: can't be opened");
-
     const std::vector<Entry> rest = {{kPackedPlist, kInfoPlist}, {kPackedInfo, VersionFile("7")}};
     const Entry client = {"./" + kPackedClient, "#!/bin/sh\n", 0755};
     MakeArchive(out_, "tar.gz", {rest[0], rest[1], client});
-    EXPECT_EQ(check().out.rfind(out_ + ": good: build 7, 3 entries", 0), 0u);
-    EXPECT_EQ(check().err, "");
+    const Result good = check();
+    EXPECT_EQ(good.out.rfind(out_ + ": good: build 7, 3 entries", 0), 0u);
+    EXPECT_EQ(good.err, "");
     MakeArchive(out_, "tar", {rest[0], rest[1], client});
-    const Result result = check();
-    EXPECT_EQ(result.code, 0);
-    EXPECT_TRUE(HasOneLine(result.err, out_ + ": has no checksum over its content")) << result.err;
-    MakeArchive(out_, "zip", {rest[0], {"../x", "evil"}, rest[1], client});
-    expectRefusal(check(), out_ + ": the launcher can't unpack it: archive_read_extract2 failed");
-    MakeArchive(out_, "zip", {client, rest[0], rest[1]});
-    expectRefusal(check(), out_ + ": doesn't end with " + kPackedClient);
-    MakeArchive(out_, "zip", rest);
-    expectRefusal(check(), out_ + "/" + kPackedClient + ": is missing");
+    const Result unverified = check();
+    EXPECT_EQ(unverified.code, 0);
+    EXPECT_TRUE(HasOneLine(unverified.err, out_ + ": has no checksum over its content"));
+
+    MakeArchive(folder_ / "evil", "zip", {rest[0], {"../x", "evil"}, rest[1], client});
+    MakeArchive(folder_ / "first", "zip", {client, rest[0], rest[1]});
+    MakeArchive(folder_ / "none", "zip", rest);
+    const Refusals rows = {
+        {": >$OUT", ": is empty; make the package again"},
+        {"echo text >$OUT", ": isn't an archive that the launcher can read: Unrecognized"},
+        {"head -c 9999 /dev/urandom >$OUT", ": is"},
+        {"rm $OUT; $MAKE --format zip . $OUT; truncate -s -30 $OUT", ": is truncated after"},
+        {"rm $OUT; $MAKE . $OUT; truncate -s -9 $OUT", ": is damaged"},
+        {"cd ..; mv app A.app; bsdtar --format zip -cf $OUT A.app; mv A.app app",
+         ": has A.app/ around the application; pack what is in that folder: make-package A.app"},
+        {"mv ../evil $OUT", ": the launcher can't unpack it: archive_read_extract2 failed"},
+        {"mv ../first $OUT", ": doesn't end with $C"},
+        {"mv ../none $OUT", "/$C: is missing"}};
+    for (const auto& [arrange, message] : rows) {
+        SCOPED_TRACE(arrange);
+        shell(arrange);
+        expectRefusal("$MAKE --check $OUT", "$OUT" + message);
+    }
     // Nothing is left of a folder that its owner can't write to.
     MakeArchive(out_, "zip", {{"ro/", "", 0555}, {"ro/x"}, rest[0], rest[1], client});
-    const std::string as_nobody = "mkdir -m 777 ../tmp; export TMPDIR=$PWD/../tmp; nobody ";
-    expectRefusal(shell(as_nobody + "$MAKE --check $OUT"),
-                  out_ + "/ro: is a folder that its owner");
+    expectRefusal("mkdir -m 777 ../tmp; export TMPDIR=$PWD/../tmp; nobody $MAKE --check $OUT",
+                  "$OUT/ro: is a folder that its owner");
     EXPECT_EQ(shell("ls ../tmp").out, "");
 }
 
 TEST_F(PackageTest, BlamesTheTemporaryFolderAndNotThePackage) {
     ASSERT_EQ(pack().code, 0);
-    const std::string advice = "set TMPDIR to a folder with more space";
-    const std::string none = "no temporary folder can be made in it: ";
-    expectRefusal(shell("TMPDIR=/none $MAKE --check $OUT"), "/none: " + none + "No such file");
-    expectRefusal(shell("TMPDIR=$PWD/$I $MAKE --check $OUT"),
-                  app_ + "/" + kPackedInfo + ": " + none);
+    const std::string none = ": no temporary folder can be made in it: ";
+    expectRefusal("TMPDIR=/none $MAKE --check $OUT", "/none" + none + "No such file");
+    expectRefusal("TMPDIR=$PWD/$I $MAKE --check $OUT", "$PWD/$I" + none);
     if (getuid() != 0) {
         GTEST_SKIP() << "only root can write to a small disk of its own";
     }
