@@ -70,18 +70,6 @@ class TroubleshootingTest : public testing::Test {
         LinesWith(ReadFile(SOURCE_DIR "/docs/troubleshooting.md"), "");
 };
 
-TEST_F(TroubleshootingTest, ReadsCallsHoweverTheyAreBroken) {
-    const Messages expected = {{"ERROR", "a/b", R"(one // \"%s more\n)"},
-                               {"DEBUG", "a/b", "two"},
-                               {"WARNING", "a/b", "three"}};
-    EXPECT_EQ(InSource("#define LOG_SOURCE \\\n \"a/b\"\n// LOG_MSG(ERROR, \"no\");\n"
-                       "LOG_MSG(\n    ERROR, \"one // \\\"%s\"  // LOG_MSG(ERROR, \"no\")\n"
-                       "        \" more\" /* no */ \"\\n\", x);\n"
-                       "LOG_MSG_AT(\n    7, DEBUG,\n    \"two\");\nWarn(\"three\", 4)",
-                       "c"),
-              expected);
-}
-
 // The list at the end of the document: "### SOURCE", and below it "- LEVEL `FORMAT`".
 TEST_F(TroubleshootingTest, TheDocumentListsEveryErrorAndWarning) {
     static const std::regex item("### (.*)|- (ERROR|WARNING) `(.*)`");
