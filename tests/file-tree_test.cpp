@@ -29,64 +29,52 @@ TEST_F(FileTreeTest, AFullDiskIsTold) {
     EXPECT_EQ(ReadFile("tree/big").size(), 100000u);
 }
 
-TEST_F(FileTreeTest, MovesTreesAcrossVolumes) {
-    if (AnotherVolume().empty()) {
-        GTEST_SKIP() << "there is no other volume";
+class OtherVolumeTest : public FileOpTest {
+  protected:
+    void SetUp() override {
+        if (AnotherVolume().empty()) {
+            GTEST_SKIP() << "there is no other volume";
+        }
     }
-    MakeFile("tree/a/b/file", "new", 0600);
-    MakeFile("tree/top", "top");
-    MakeFolder("tree/empty");
-    MakeFile(other_volume_ / "tree/a/kept", "kept");
-    MakeFile(other_volume_ / "tree/a/b/file", "old");
-    EXPECT_EQ(FSRename(folder_ / "tree", other_volume_ / "tree", true), 0);
-    EXPECT_FALSE(Exists("tree"));
-    EXPECT_EQ(Tree(other_volume_.path()), (FileTree{{"tree", "folder"},
-                                                    {"tree/a", "folder"},
-                                                    {"tree/a/b", "folder"},
-                                                    {"tree/a/b/file", "file 0644: new"},
-                                                    {"tree/a/kept", "file 0644: kept"},
-                                                    {"tree/empty", "folder"},
-                                                    {"tree/top", "file 0644: top"}}));
-    EXPECT_EQ(FSRename(other_volume_ / "tree/top", "top", false), 0);
-    EXPECT_EQ(ReadFile("top"), "top");
-    EXPECT_FALSE(Exists(other_volume_ / "tree/top"));
-}
+};
 
-TEST_F(FileTreeTest, MergesIntoAFolderThatCannotBeListed) {
-    if (AnotherVolume().empty()) {
-        GTEST_SKIP() << "there is no other volume";
-    }
+TEST_F(OtherVolumeTest, MovesATreeAlsoIntoFoldersThatCannotBeListed) {
     ASSERT_EQ(chmod(".", 0777) + chmod(other_volume_.path().c_str(), 0777), 0);
     const std::string dst = other_volume_ / "tree";
     const AsNobody nobody;
-    MakeFile("tree/a/file", "new");
+    MakeFile("tree/a/b/file", "new", 0600);
+    MakeFile("tree/top", "top");
+    MakeFolder("tree/empty");
     MakeFile(dst + "/a/kept", "kept");
+    MakeFile(dst + "/a/b/file", "old");
     chmod((dst + "/a").c_str(), 0333);
     chmod(dst.c_str(), 0333);
-    EXPECT_EQ(FSRename("tree", ustring(dst), false), 0);
+    EXPECT_EQ(FSRename(folder_ / "tree", ustring(dst), true), 0);
+    EXPECT_FALSE(Exists("tree"));
     chmod(dst.c_str(), 0755);
     chmod((dst + "/a").c_str(), 0755);
-    EXPECT_EQ(
-        Tree(dst),
-        (FileTree{{"a", "folder"}, {"a/file", "file 0644: new"}, {"a/kept", "file 0644: kept"}}));
+    EXPECT_EQ(Tree(dst), (FileTree{{"a", "folder"},
+                                   {"a/b", "folder"},
+                                   {"a/b/file", "file 0644: new"},
+                                   {"a/kept", "file 0644: kept"},
+                                   {"empty", "folder"},
+                                   {"top", "file 0644: top"}}));
+    EXPECT_EQ(FSRename(ustring(dst + "/top"), "top", false), 0);
+    EXPECT_EQ(ReadFile("top"), "top");
+    EXPECT_FALSE(Exists(dst + "/top"));
 }
 
 // The lines that looking up each object by its path would write, in this order.
-TEST_F(FileTreeTest, LogsEachLookUpWhenToldTo) {
-    if (AnotherVolume().empty()) {
-        GTEST_SKIP() << "there is no other volume";
-    }
-    const auto log_of = [&](const std::string& threshold, const std::function<void()>& code) {
+TEST_F(OtherVolumeTest, LogsEachLookUpWhenToldTo) {
+    const auto log_of = [&](const std::string& threshold, const std::function<int()>& operation) {
         MakeFile("levels", "file_op_debug=" + threshold + "\n");
-        return CaptureStderr([&] {
+        const std::string log = CaptureStderr([&] {
             Logger::Initialize(Logger::TYPE_STDERR, "", "levels", 0);
-            code();
+            EXPECT_EQ(operation(), 0);
         });
-    };
-    const auto lines = [](const std::string& log) {
         return std::regex_replace(log, std::regex(R"(.*file-op\(\d+\): )"), "");
     };
-    const auto info = [&](const std::string& path) {
+    const auto info = [](const std::string& path) {
         return " org path [" + path + "]\n get full path [" + path + "]\n";
     };
     const auto stat = [&](const std::string& path) {
@@ -95,28 +83,22 @@ TEST_F(FileTreeTest, LogsEachLookUpWhenToldTo) {
     };
     const std::string src = folder_ / "tree";
     const std::string dst = other_volume_ / "tree";
-    MakeFile("tree/a/file");
     MakeFile("tree/a/b/file");
-    unlink("tree/a/file");
     MakeFolder(dst + "/a");
-    const std::string moved =
-        log_of("7", [&] { EXPECT_EQ(FSRename(src.c_str(), dst.c_str(), true), 0); });
-    EXPECT_EQ(lines(moved), stat(src) + info(dst) + stat(src + "/a") + info(dst + "/a") +
-                                stat(src + "/a/b") + stat(src + "/a/b/file"));
+    EXPECT_EQ(log_of("7", [&] { return FSRename(src.c_str(), dst.c_str(), true); }),
+              stat(src) + info(dst) + stat(src + "/a") + info(dst + "/a") + stat(src + "/a/b") +
+                  stat(src + "/a/b/file"));
     for (const auto remove : {+[](const ustring& path) { return FSRemove(path, false); },
                               +[](const ustring& path) { return FSRemoveOwnTree(path); }}) {
         MakeFile(dst + "/a/b/file");
-        EXPECT_EQ(lines(log_of("7", [&] { EXPECT_EQ(remove(dst.c_str()), 0); })),
+        EXPECT_EQ(log_of("7", [&] { return remove(dst.c_str()); }),
                   info(dst) + info(dst + "/a") + info(dst + "/a/b") + info(dst + "/a/b/file"));
     }
     MakeFile("tree/a/file");
-    EXPECT_EQ(log_of("4", [&] { EXPECT_EQ(FSRemove(src.c_str(), false), 0); }), "");
+    EXPECT_EQ(log_of("4", [&] { return FSRemove(src.c_str(), false); }), "");
 }
 
-TEST_F(FileTreeTest, WhatCannotMoveAcrossVolumesStaysBehind) {
-    if (AnotherVolume().empty()) {
-        GTEST_SKIP() << "there is no other volume";
-    }
+TEST_F(OtherVolumeTest, WhatCannotMoveStaysBehind) {
     EXPECT_EQ(FSRename("kinds/link to file", other_volume_ / "x", false), 0);
     EXPECT_EQ(FSRename("kinds/pipe", other_volume_ / "x", false), 0);
     EXPECT_FALSE(Exists(other_volume_ / "x"));
@@ -149,14 +131,20 @@ TEST_F(FileTreeTest, RemovesFilesLinksAndTrees) {
     EXPECT_TRUE(Exists("target/kept"));
 }
 
-TEST_F(FileTreeTest, LeavesWhatItMayNotOpen) {
+TEST_F(FileTreeTest, LeavesWhatItMayNotOpenOrRemove) {
     MakeFile("tree/closed/file");
+    MakeFile("fixed/file");
     chmod("tree", 0777);
     chmod("tree/closed", 0);
+    chmod("fixed", 0555);
+    chmod(other_volume_.path().c_str(), 0777);
     {
         const AsNobody nobody;
         EXPECT_EQ(FSRemove("tree/closed", false), 0);
         EXPECT_EQ(FSRemove("tree", false), -3);
+        EXPECT_EQ(FSRemove("fixed/file", false), -3);
+        EXPECT_EQ(FSRemove("fixed", false), -3);
+        EXPECT_EQ(FSRename("fixed/file", other_volume_ / "file", false), -3);
         EXPECT_TRUE(isFileLocked("tree/closed/file", F_OK));
         DIR_HANDLE handle;
         EXPECT_EQ(FSOpenDir("tree/closed", 0, handle), -1);
@@ -164,7 +152,7 @@ TEST_F(FileTreeTest, LeavesWhatItMayNotOpen) {
     chmod("tree/closed", 0755);
     EXPECT_FALSE(isFileLocked("missing", R_OK));
     EXPECT_FALSE(isFileLocked("tree", R_OK));
-    EXPECT_TRUE(Exists("tree/closed/file"));
+    EXPECT_TRUE(Exists("tree/closed/file") && Exists("fixed/file"));
 }
 
 TEST_F(FileTreeTest, NeitherDepthNorWidthHasALimit) {
@@ -177,21 +165,6 @@ TEST_F(FileTreeTest, NeitherDepthNorWidthHasALimit) {
     }
     EXPECT_EQ(FSRemove(other_volume_ / "tree", false), 0);
     EXPECT_FALSE(Exists(other_volume_ / "tree"));
-}
-
-TEST_F(FileTreeTest, TellsWhatItMayNotRemove) {
-    const std::string file = folder_ / "tree/fixed/file";
-    MakeFile(file);
-    chmod(other_volume_.path().c_str(), 0777);
-    chmod((folder_ / "tree/fixed").c_str(), 0555);
-    {
-        const AsNobody nobody;
-        EXPECT_EQ(FSRemove(ustring(file), false), -3);
-        EXPECT_EQ(FSRemove("tree", false), -3);
-        EXPECT_EQ(FSRename(ustring(file), ustring(other_volume_ / "file"), false), -3);
-    }
-    EXPECT_TRUE(Exists(file));
-    chmod((folder_ / "tree/fixed").c_str(), 0755);
 }
 
 // Moves a folder of the tree away while one that is far below it is copied.
