@@ -15,36 +15,28 @@ namespace {
 using Message = std::tuple<std::string, std::string, std::string>;  // level, source, format
 using Messages = std::set<Message>;
 
-std::vector<std::smatch> All(const std::string& text, const std::regex& pattern) {
-    return {std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator()};
+std::ptrdiff_t Count(const std::string& text, const std::regex& pattern) {
+    return std::distance(std::sregex_iterator(text.begin(), text.end(), pattern), {});
 }
 
 // The messages of one source: those of the log, and the warnings of the string type. The format
 // must be a literal, which may be in pieces on several lines; it is told as the source spells it.
 Messages InSource(const std::string& text, const std::string& name) {
-    static const std::regex skipped(
-        R"re(("(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])+')|//.*|/\*[\s\S]*?\*/|\\\n)re");
-    static const std::regex named(R"re(#define\s+LOG_SOURCE\s+"(.*)")re");
-    static const std::regex piece(R"re("((?:\\.|[^"\\])*)")re");
-    static const std::regex call(
-        R"re(\b(?:LOG_MSG|LOG_MSG_AT|LogMsg2?|LogMSG_c|Warn)\s*\((?!const))re");
+    static const std::regex between_pieces(R"re("\s+")re");
+    static const std::regex named(R"re(#define LOG_SOURCE "(.*)")re");
+    static const std::regex call(R"re(\b(LOG_MSG(_AT)?|LogMsg2?|LogMSG_c|Warn)\((?!const))re");
     static const std::regex understood(
-        R"re(\b(?:LOG_MSG\s*\(|LOG_MSG_AT\s*\(\s*\d+\s*,|Warn\s*\()\s*(?:(\w+)\s*,)?\s*)re"
-        R"re(((?:"(?:\\.|[^"\\])*"\s*)+)[,)])re");
-    const std::string code = std::regex_replace(text, skipped, "$1");
+        R"re((?:LOG_MSG\(|LOG_MSG_AT\(\d+,|Warn\()\s*(?:(\w+),)?\s*"((?:\\.|[^"\\])*)"[,)])re");
+    const std::string code = std::regex_replace(text, between_pieces, "");
     std::smatch source;
     std::regex_search(code, source, named);
     Messages messages;
-    for (const std::smatch& match : All(code, understood)) {
-        const std::string pieces = match[2];
-        std::string format;
-        for (const std::smatch& literal : All(pieces, piece)) {
-            format += literal[1];
-        }
-        messages.emplace(match[1].matched ? match[1].str() : "WARNING",
-                         source.empty() ? name : source[1].str(), format);
+    for (std::sregex_iterator match(code.begin(), code.end(), understood), end; match != end;
+         ++match) {
+        messages.emplace((*match)[1].matched ? (*match)[1].str() : "WARNING",
+                         source.empty() ? name : source[1].str(), (*match)[2]);
     }
-    EXPECT_EQ(All(code, call).size(), All(code, understood).size())
+    EXPECT_EQ(Count(code, call), Count(code, understood))
         << name << " logs in a way that this test can't read";
     return messages;
 }
