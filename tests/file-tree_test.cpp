@@ -53,12 +53,13 @@ TEST_F(OtherVolumeTest, MovesATreeAlsoIntoFoldersThatCannotBeListed) {
     EXPECT_FALSE(Exists("tree"));
     chmod(dst.c_str(), 0755);
     chmod((dst + "/a").c_str(), 0755);
-    EXPECT_EQ(Tree(dst), (FileTree{{"a", "folder"},
-                                   {"a/b", "folder"},
-                                   {"a/b/file", "file 0644: new"},
-                                   {"a/kept", "file 0644: kept"},
-                                   {"empty", "folder"},
-                                   {"top", "file 0644: top"}}));
+    const FileTree merged = {{"a", "folder"},
+                             {"a/b", "folder"},
+                             {"a/b/file", "file 0644: new"},
+                             {"a/kept", "file 0644: kept"},
+                             {"empty", "folder"},
+                             {"top", "file 0644: top"}};
+    EXPECT_EQ(Tree(dst), merged);
     EXPECT_EQ(FSRename(ustring(dst + "/top"), "top", false), 0);
     EXPECT_EQ(ReadFile("top"), "top");
     EXPECT_FALSE(Exists(dst + "/top"));
