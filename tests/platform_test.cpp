@@ -21,6 +21,7 @@
 #include "lib/platform/process-info.h"
 #include "lib/platform/single-instance.h"
 #include "tests/support/scenario.h"
+#include "tests/support/system.h"
 
 namespace fs = std::filesystem;
 
@@ -316,18 +317,15 @@ TEST(PrivateFolder, BelongsToNobodyElse) {
         fs::remove(first);
         fs::remove(second);
     }
+    const SmallDisk sessions("/run/user", "64k");
+    ASSERT_TRUE(sessions.mounted());
     const std::string session = "/run/user/65534";
-    for (const fs::perms mode : {fs::perms::owner_all, fs::perms{0770}}) {
-        ASSERT_FALSE(Exists(session));
-        MakeFolder(session);
-        fs::permissions(session, mode);
-        ASSERT_EQ(chown(session.c_str(), 65534, 65534), 0);
-        {
-            const AsNobody nobody;
-            EXPECT_EQ(platform::PrivateFolder(name.c_str(), 0),
-                      mode == fs::perms::owner_all ? session + "/" + name : "");
-        }
-        fs::remove_all(session);
+    MakeFolder(session);
+    ASSERT_EQ(chown(session.c_str(), 65534, 65534), 0);
+    for (const auto& [mode, folder] : {std::pair(0700, session + "/" + name), {0770, ""}}) {
+        ASSERT_EQ(chmod(session.c_str(), static_cast<mode_t>(mode)), 0);
+        const AsNobody nobody;
+        EXPECT_EQ(platform::PrivateFolder(name.c_str(), 0), folder);
     }
 }
 
