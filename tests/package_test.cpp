@@ -31,7 +31,9 @@ TEST_F(PackageTest, TheSameTreeGivesTheSameBytes) {
         const std::string sum = result.out.substr(result.out.find("SHA-256: ") + 9, 64);
         EXPECT_EQ(result.out, out_ + ": build 101, 11 entries, " + size +
                                   " bytes\nSHA-256: " + sum + "\n" + sum + "\n" + size + "\n");
-        EXPECT_EQ(check().out, out_ + ": good: build 101, 11 entries, " + size +
+        const Result checked = check();
+        EXPECT_EQ(checked.err, "");
+        EXPECT_EQ(checked.out, out_ + ": good: build 101, 11 entries, " + size +
                                    " bytes\nSHA-256: " + sum + "\n");
         shell("chown -hR nobody . || test $(id -u) != 0");
         shell("find . -exec touch -h -d '1999-12-31 23:59:59' {} +");
@@ -52,7 +54,8 @@ TEST_F(PackageTest, KeepsModesAndLinksAndPutsTheClientLast) {
                     ": left out, as it isn't part of an application\n";
     }
     EXPECT_EQ(result.err, warnings);
-    const Result list = shell("LC_ALL=C.UTF-8 bsdtar -tvf $OUT | sed 's/ .* Contents/ /'");
+    const Result list =
+        shell("LC_ALL=C.UTF-8 TZ=UTC bsdtar -tvf $OUT | sed 's/ .* Jan  1  1980 Contents/ /'");
     EXPECT_EQ(list.out,
               "drwxr-xr-x /\n-rw-r--r-- /Info.plist\ndrwxr-xr-x /MacOS/\n-rwxr-xr-x /MacOS/again\n"
               "lrwxrwxrwx /MacOS/far -> link/./\xC3\xA9t\xC3\xA9\n"
@@ -273,13 +276,9 @@ TEST_F(PackageTest, BlamesTheTemporaryFolderAndNotThePackage) {
 
 TEST_F(PackageTest, AnswersPeopleAndMachines) {
     EXPECT_EQ(shell("$MAKE --help").out.rfind("usage: make-package ", 0), 0u);
-    EXPECT_EQ(shell("$MAKE --version").out, "make-package " VERSION "\n");
     const Result json = shell("$MAKE --json . $OUT; sha256sum <$OUT | sed 's/ .*//'");
     const std::string sum = json.out.substr(json.out.size() - 65, 64);
-    for (const std::string& part : {std::string("\"build\": 101"), std::string("\"good\": true"),
-                                    R"("sha256": ")" + sum + "\""}) {
-        EXPECT_NE(json.out.find(part), std::string::npos) << json.out;
-    }
+    EXPECT_NE(json.out.find("\"sha256\": \"" + sum + '"'), std::string::npos) << json.out;
     for (const std::string wrong :
          {"", ".", ". $OUT more", "--check", "--check . $OUT", "--none . $OUT", "--format",
           "--format rar . $OUT", "--newer-than"}) {

@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 #include <QString>
-#include <ctime>
 #include <filesystem>
 
 #include "lib/platform/core-services.h"
@@ -18,7 +17,6 @@
 #include "lib/platform/instance-lock.h"
 #include "lib/platform/open-bundle.h"
 #include "lib/platform/private-folder.h"
-#include "lib/platform/process-info.h"
 #include "lib/platform/single-instance.h"
 #include "tests/support/scenario.h"
 #include "tests/support/system.h"
@@ -242,55 +240,18 @@ TEST(InstanceLock, OneProcessHoldsItWhateverIsInItsPlace) {
     EXPECT_FALSE(platform::InstanceLock(folder / "no folder/lock").heldElsewhere());
 }
 
-class SingleInstanceTest : public testing::Test {
-  protected:
-    const Folder parent_;
-    const std::string folder_ = parent_ / "user/folder";
-};
-
-TEST_F(SingleInstanceTest, EachCopyRunsOnceWhereverTheLockIs) {
-    const std::function<void()> cases[] = {
-        [] {},
-        [&] {  // in the lock's place there is a folder
-            const platform::SingleInstance instance(folder_, "/copy");
-            const std::string lock = fs::directory_iterator(folder_)->path();
-            fs::remove(lock);
-            MakeFile(lock + "/file");
-        },
-        [&] { fs::permissions(folder_, fs::perms{0555}); },
-        [&] {
-            fs::permissions(folder_, fs::perms::owner_all);
-            fs::remove_all(folder_);
-            MakeFile(folder_);
-        }};
-    const auto runs = [&](const char* executable) {
-        return InAnotherProcess(
-            [&] { return platform::SingleInstance(folder_, executable).runsElsewhere(); });
-    };
-    fs::permissions(parent_.path(), fs::perms::all);
-    const AsNobody nobody;
-    for (const auto& arrange : cases) {
-        arrange();
-        {
-            const platform::SingleInstance instance(folder_, "/copy");
-            EXPECT_FALSE(instance.runsElsewhere());
-            EXPECT_TRUE(runs("/copy"));
-            EXPECT_FALSE(runs("/another copy"));
-        }
-        EXPECT_FALSE(runs("/copy"));
-    }
-}
-
-TEST_F(SingleInstanceTest, LocksThatAreHeldByNobodyAreRemoved) {
+TEST(SingleInstance, RemovesLocksThatNobodyHolds) {
+    const Folder parent;
+    const std::string folder = parent / "user/folder";
     const std::string held = "/.launcher-fedcba9876543210.lock";
-    MakeFile(folder_ + "/other.lock");
-    MakeLink("other.lock", folder_ + "/.launcher-link.lock");
-    MakeFile(folder_ + "/.launcher-0123456789abcdef.lock", "", 0600);
-    const platform::InstanceLock lock(folder_ + held);
-    static_cast<void>(platform::SingleInstance(folder_, "/copy"));
-    EXPECT_EQ(Tree(folder_), (FileTree{{"other.lock", "file 0644: "},
-                                       {".launcher-link.lock", "link: other.lock"},
-                                       {held.substr(1), "file 0600: "}}));
+    MakeFile(folder + "/other.lock");
+    MakeLink("other.lock", folder + "/.launcher-link.lock");
+    MakeFile(folder + "/.launcher-0123456789abcdef.lock", "", 0600);
+    const platform::InstanceLock lock(folder + held);
+    static_cast<void>(platform::SingleInstance(folder, "/copy"));
+    EXPECT_EQ(Tree(folder), (FileTree{{"other.lock", "file 0644: "},
+                                      {".launcher-link.lock", "link: other.lock"},
+                                      {held.substr(1), "file 0600: "}}));
 }
 
 // What somebody else may have put there before us.
@@ -327,16 +288,6 @@ TEST(PrivateFolder, BelongsToNobodyElse) {
         const AsNobody nobody;
         EXPECT_EQ(platform::PrivateFolder(name.c_str(), 0), folder);
     }
-}
-
-TEST(ProcessInfo, DescribesThisProcess) {
-    const platform::ProcessInfo info = platform::DescribeProcess(getpid());
-    EXPECT_EQ(info.executable, fs::read_symlink("/proc/self/exe"));
-    EXPECT_FALSE(info.executable_gone);
-    EXPECT_EQ(info.arguments[0], testing::internal::GetArgvs()[0]);
-    EXPECT_EQ(info.folder, fs::current_path());
-    EXPECT_NEAR(double(info.started), double(std::time(nullptr)), 3);
-    EXPECT_EQ(platform::DescribeProcess(1 << 30).started, 0) << "no process has such an id";
 }
 
 }  // namespace
