@@ -112,7 +112,7 @@ TEST_P(CatalogTest, TranslatesEachTextOnce) {
 TEST_P(CatalogTest, KeepsWhatIsFilledInAndTheMarksAtTheEnd) {
     const QRegularExpression filled_in(QStringLiteral("%.|\\[\\w+\\]|StationOS|OrvaneLink"));
     const QRegularExpression quoted(QStringLiteral("[“„”«「‘]\u00a0?%1\u00a0?[”“»」’]"));
-    const QRegularExpression dots(QStringLiteral("(\\.\\.\\.|…)$"));
+    const QRegularExpression dots(QStringLiteral(R"((\.\.\.|…)$)"));
     const QRegularExpression full_stop(QStringLiteral("[^.][.。]$"));
     const auto all = [&](const QString& text) {
         std::multiset<QString> found;
@@ -143,15 +143,15 @@ TEST_P(CatalogTest, IsInItsOwnLanguage) {
         return;
     }
     const std::map<std::string, const char*> letters = {
-        {"rus", "\\p{Cyrillic}"},
-        {"cht", "\\p{Han}"},
-        {"chs", "\\p{Han}"},
-        {"jpn", "\\p{Han}\\p{Hiragana}\\p{Katakana}"},
-        {"krn", "\\p{Hangul}"}};
+        {"rus", R"(\p{Cyrillic})"},
+        {"cht", R"(\p{Han})"},
+        {"chs", R"(\p{Han})"},
+        {"jpn", R"(\p{Han}\p{Hiragana}\p{Katakana})"},
+        {"krn", R"(\p{Hangul})"}};
     const auto own = letters.find(GetParam());
     const QRegularExpression foreign_letter(
-        QStringLiteral("(?![\\p{Common}\\p{Inherited}%1])\\p{L}")
-            .arg(QLatin1String(own == letters.end() ? "\\p{Latin}" : own->second)));
+        QStringLiteral(R"((?![\p{Common}\p{Inherited}%1])\p{L})")
+            .arg(QLatin1String(own == letters.end() ? R"(\p{Latin})" : own->second)));
     const auto same = kSame.find(GetParam());
     for (const auto& [source, translation] : translations_) {
         const std::string text = translation.toStdString();

@@ -140,7 +140,7 @@ class OpenBundleTest : public testing::Test {
     std::string openAndAwait() const {
         EXPECT_TRUE(open());
         WaitFor([&] { return Exists(started_); });
-        const std::string text = ReadFile(started_);
+        std::string text = ReadFile(started_);
         fs::remove(started_);
         return text;
     }
