@@ -128,7 +128,7 @@ TEST_F(LogTest, RotatesWhenThisProcessHasWrittenMoreThanAMebibyte) {
 TEST_F(LogTest, KeepsAsManyFilesAsAskedFor) {
     const struct {
         int rotate_cnt;
-        int rotations;
+        std::size_t rotations;
         std::size_t files;
     } cases[] = {{0, 3, 2}, {1, 3, 2}, {2, 4, 2}, {3, 5, 3}, {50, 60, 50}};
     for (const auto& row : cases) {
@@ -137,11 +137,11 @@ TEST_F(LogTest, KeepsAsManyFilesAsAskedFor) {
         }
         Logger::Destroy();
         ASSERT_EQ(logToFile(row.rotate_cnt), 0);
-        for (int i = 1; i <= row.rotations; ++i) {
-            writeLine(kRotateSize + std::size_t(i));
+        for (std::size_t i = 1; i <= row.rotations; ++i) {
+            writeLine(kRotateSize + i);
         }
         EXPECT_EQ(files().size(), row.files) << row.rotate_cnt;
-        EXPECT_EQ(ReadFile(log_ + "_0").size(), kRotateSize + std::size_t(row.rotations));
+        EXPECT_EQ(ReadFile(log_ + "_0").size(), kRotateSize + row.rotations);
         EXPECT_EQ(Exists(log_ + "_" + std::to_string(row.rotate_cnt - 1)), row.rotate_cnt == 1);
     }
 }
