@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <QString>
+#include <ctime>
 #include <filesystem>
 
 #include "lib/platform/core-services.h"
@@ -17,6 +18,7 @@
 #include "lib/platform/instance-lock.h"
 #include "lib/platform/open-bundle.h"
 #include "lib/platform/private-folder.h"
+#include "lib/platform/process-info.h"
 #include "lib/platform/single-instance.h"
 #include "tests/support/scenario.h"
 #include "tests/support/system.h"
@@ -240,18 +242,28 @@ TEST(InstanceLock, OneProcessHoldsItWhateverIsInItsPlace) {
     EXPECT_FALSE(platform::InstanceLock(folder / "no folder/lock").heldElsewhere());
 }
 
-TEST(SingleInstance, RemovesLocksThatNobodyHolds) {
+TEST(SingleInstance, EachCopyRunsOnceAndRemovesLocksThatNobodyHolds) {
     const Folder parent;
     const std::string folder = parent / "user/folder";
-    const std::string held = "/.launcher-fedcba9876543210.lock";
+    const std::string held = ".launcher-fedcba9876543210.lock";
     MakeFile(folder + "/other.lock");
     MakeLink("other.lock", folder + "/.launcher-link.lock");
     MakeFile(folder + "/.launcher-0123456789abcdef.lock", "", 0600);
-    const platform::InstanceLock lock(folder + held);
-    static_cast<void>(platform::SingleInstance(folder, "/copy"));
+    const platform::InstanceLock lock(folder + "/" + held);
+    const auto runs = [&](const char* executable) {
+        return InAnotherProcess(
+            [&] { return platform::SingleInstance(folder, executable).runsElsewhere(); });
+    };
+    {
+        const platform::SingleInstance instance(folder, "/copy");
+        EXPECT_FALSE(instance.runsElsewhere());
+        EXPECT_TRUE(runs("/copy"));
+        EXPECT_FALSE(runs("/another copy"));
+    }
+    EXPECT_FALSE(runs("/copy"));
     EXPECT_EQ(Tree(folder), (FileTree{{"other.lock", "file 0644: "},
                                       {".launcher-link.lock", "link: other.lock"},
-                                      {held.substr(1), "file 0600: "}}));
+                                      {held, "file 0600: "}}));
 }
 
 // What somebody else may have put there before us.
@@ -288,6 +300,14 @@ TEST(PrivateFolder, BelongsToNobodyElse) {
         const AsNobody nobody;
         EXPECT_EQ(platform::PrivateFolder(name.c_str(), 0), folder);
     }
+}
+
+TEST(ProcessInfo, DescribesThisProcess) {
+    const platform::ProcessInfo info = platform::DescribeProcess(getpid());
+    EXPECT_EQ(info.executable, fs::read_symlink("/proc/self/exe"));
+    EXPECT_EQ(info.folder, fs::current_path());
+    EXPECT_NEAR(double(info.started), double(std::time(nullptr)), 3);
+    EXPECT_EQ(platform::DescribeProcess(1 << 30).started, 0) << "no process has such an id";
 }
 
 }  // namespace
