@@ -59,6 +59,8 @@ class AsNobody {
   public:
     AsNobody();
     ~AsNobody();
+    AsNobody(const AsNobody&) = delete;
+    AsNobody& operator=(const AsNobody&) = delete;
 
   private:
     bool active_;
@@ -69,6 +71,8 @@ class FewDescriptors {
   public:
     explicit FewDescriptors(rlim_t limit = 100);
     ~FewDescriptors();
+    FewDescriptors(const FewDescriptors&) = delete;
+    FewDescriptors& operator=(const FewDescriptors&) = delete;
 
   private:
     rlimit saved_;
