@@ -46,7 +46,7 @@ TEST_F(LocaleTest, FollowsTheSystemsLocale) {
         GTEST_SKIP() << "the environment doesn't name the locale";
     }
     const std::regex language(" language=\"(\\w+)\"");
-        for (const QString& code : OrvLocale::getSupportedLanguages()) {
+    for (const QString& code : OrvLocale::getSupportedLanguages()) {
         const std::string catalog = ReadFile(TRANSLATIONS "/" + code.toStdString() + ".ts");
         std::smatch match;
         ASSERT_TRUE(std::regex_search(catalog, match, language)) << code.toStdString();
