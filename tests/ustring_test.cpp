@@ -93,6 +93,8 @@ TEST(UString, KeepsABufferThatItFillsByHalf) {
     text.ltrim("y").rtrim("y").assign(text.c_str(), 10);
     EXPECT_EQ(fields(text), before) << "what changes nothing keeps both forms";
     EXPECT_EQ(fields(text.assign(text.c_str(), 3))[2], 4u);
+    text.clear();
+    EXPECT_EQ(fields(text.assign(text.c_str_utf16(), 1))[2], 4u) << "the same, of an empty text";
 }
 
 TEST(UString, HoldsALongText) {
