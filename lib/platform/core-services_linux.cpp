@@ -63,7 +63,7 @@ bool SpellAsStored(char* path) {
         *end = last ? 0 : '/';
         if (is_known && !stored.empty()) {
             const std::string spelled = stored + end;
-            if (begin - path + spelled.size() >= PATH_MAX) {
+            if (static_cast<std::size_t>(begin - path) + spelled.size() >= PATH_MAX) {
                 return false;
             }
             std::memcpy(begin, spelled.c_str(), spelled.size() + 1);
