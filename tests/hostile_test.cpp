@@ -334,7 +334,9 @@ TEST_F(HostileTest, NamesDoNotForgeLines) {
 
 // The permissions of folders wait until all entries are in.
 TEST_F(HostileTest, AnOrdinaryUserGetsWhatIsInClosedFolders) {
-    ASSERT_TRUE(getuid() != 0 || chown(dest_.c_str(), 65534, 65534) == 0);
+    if (geteuid() != 0 || chown(dest_.c_str(), 65534, 65534) != 0) {
+        GTEST_SKIP() << "only root can see into closed folders";
+    }
     nobody_ = true;
     EXPECT_EQ(extract(Dir("a", 0555) + Dir("a/b", 0) + Dir("a/b/c", 0311) + File("a/b/c/d/file") +
                       File("a/x", "text", 0400) + Hard("a/b/hard", "a/x") + Link("a/b/l", "hard") +

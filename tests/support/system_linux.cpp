@@ -11,7 +11,7 @@ namespace {
 
 // The mounts of this process become its own.
 bool LeaveMountNamespace() {
-    return (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+    return unshare(CLONE_NEWNS) == 0 &&
            mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
