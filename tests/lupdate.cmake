@@ -1,4 +1,5 @@
-# The tool that collects the texts must find just those that the catalogs hold. Works on a copy.
+# lupdate, which collects the texts in the sources, must find exactly those that the catalogs hold.
+# It runs on a copy of one catalog.
 file(COPY "${CATALOG}" DESTINATION "${CMAKE_CURRENT_BINARY_DIR}")
 get_filename_component(name "${CATALOG}" NAME)
 execute_process(COMMAND "${LUPDATE}" "${SOURCE_DIR}" -ts "${CMAKE_CURRENT_BINARY_DIR}/${name}"

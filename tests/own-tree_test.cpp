@@ -1,4 +1,5 @@
-// Trees of this user with folders that their owner may not read, search or write.
+// Removes and moves trees of this user in which folders deny their owner read, search or write
+// permission.
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -23,7 +24,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-int reads_until_failure = 0;  // of folders; 0: none fails
+int reads_until_failure = 0;  // readdir() calls; 0: none fails
 
 mode_t ModeOf(const std::string& path) {
     struct stat status;
@@ -38,7 +39,7 @@ class OwnTreeTest : public testing::Test {
         EXPECT_EQ(chdir(folder_.path().c_str()), 0);
     }
 
-    // A tree of the user that AsNobody makes of this process.
+    // Creates a tree that belongs to the user that AsNobody switches to.
     static void makeClosedTree(const std::string& path, mode_t top = 0755) {
         const AsNobody nobody;
         const std::pair<const char*, mode_t> folders[] = {{"read-only/in read-only/in both", 0555},
@@ -66,15 +67,15 @@ class OwnTreeTest : public testing::Test {
         }
     }
 
-    Folder folder_{"/dev/shm"};  // in memory, where making folders is fast
+    Folder folder_{"/dev/shm"};  // in memory, where creating folders is fast
 };
 
-// For what only root can see or arrange for the other user.
+// Tests that only root can set up or check.
 class OthersTreeTest : public OwnTreeTest {
   protected:
     void SetUp() override {
         if (geteuid() != 0) {
-            GTEST_SKIP() << "only root can make another user's folders and look into them";
+            GTEST_SKIP() << "only root can create another user's folders and look into them";
         }
     }
 };
@@ -111,7 +112,7 @@ TEST_F(OwnTreeTest, RemovesOneObject) {
         EXPECT_EQ(FSRemoveOwnTree(""), -1);
         EXPECT_EQ(FSRemoveOwnTree("kept/below"), -1);
         EXPECT_EQ(FSRemoveOwnTree("missing"), 0);
-        EXPECT_EQ(FSRemoveOwnTree("fixed/file"), -3) << "the folder that holds it may not change";
+        EXPECT_EQ(FSRemoveOwnTree("fixed/file"), -3) << "its folder must not be changed";
         EXPECT_EQ(FSRemoveOwnTree("link"), 0);
     }
     EXPECT_EQ(Tree(".", true), (FileTree{{"", "folder 0777"},
@@ -141,7 +142,7 @@ TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
         EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
         EXPECT_EQ(ModeOf("tree/closed/bound") + ModeOf("tree/closed/disk"), 0u);
     }
-    EXPECT_EQ(FSRemoveOwnTree("tree"), -3) << "as root, who needs no permissions";
+    EXPECT_EQ(FSRemoveOwnTree("tree"), -3) << "even as root, which bypasses permissions";
     EXPECT_EQ(Tree("tree"), (FileTree{{"closed", "folder"},
                                       {"closed/bound", "folder"},
                                       {"closed/bound/file", "file 0644: "},
@@ -210,7 +211,7 @@ TEST_F(OwnTreeTest, AMergeKeepsWhatOthersMayDo) {
     EXPECT_TRUE(Exists("from/file"));
 }
 
-// Kills a move at each of its changes, and then goes on with it, or moves back.
+// Kills a move at each system call that changes a file, then continues or reverses the move.
 TEST_F(OthersTreeTest, AMoveCanBeKilledAnywhere) {
     const auto move_killed_at = [](int change) {
         const pid_t pid = fork();
@@ -225,7 +226,7 @@ TEST_F(OthersTreeTest, AMoveCanBeKilledAnywhere) {
         run.follow(pid);
         return run.end;
     };
-    const auto mode_of = [](const std::string& folder) {  // as Tree() describes it
+    const auto mode_of = [](const std::string& folder) {  // from its description by Tree()
         return static_cast<mode_t>(std::stoul(folder.substr(strlen("folder ")), nullptr, 8));
     };
     for (const auto& [top, back] :
@@ -260,7 +261,7 @@ TEST_F(OthersTreeTest, AMoveCanBeKilledAnywhere) {
 
 }  // namespace
 
-// Stands before the C library's, and fails when it is told to.
+// Replaces the C library's readdir() and fails with EIO when reads_until_failure has counted down.
 extern "C" dirent* readdir(DIR* stream) {
     static const auto next = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir"));
     if (reads_until_failure > 0 && --reads_until_failure == 0) {

@@ -1,5 +1,4 @@
-// The packaging tool, through the program itself: making packages, and checking folders and
-// packages.
+// Runs the packaging tool: creating packages, and checking application folders and packages.
 
 #include <unistd.h>
 
@@ -10,14 +9,15 @@ namespace {
 
 class PackageTest : public Packing {
   protected:
-    // That a command fails with a message that begins like this. Both are read by a shell.
+    // Expects the command to fail with a message that begins with `beginning`. The shell expands
+    // the variables in both.
     void expectRefusal(const std::string& command, const std::string& beginning) const {
         SCOPED_TRACE(command);
         Packing::expectRefusal(shell(command), shell("printf %s \"" + beginning + '"').out);
     }
 };
 
-// How to arrange what is refused, or the command itself, and how the message begins.
+// A command that creates the fault, or that is refused itself, and the beginning of the message.
 using Refusals = std::vector<std::pair<std::string, std::string>>;
 
 TEST_F(PackageTest, TheSameTreeGivesTheSameBytes) {
@@ -82,7 +82,7 @@ TEST_F(PackageTest, RefusesWhatWouldFailOnAUsersMachine) {
         {"echo '#!sh' >$C", no_program},
         {"printf '#!/bin/sh\\r\\n' >$C", no_program},
         {R"(printf '\177ELF\2\1\1\0%08d\1\0\0\0' 0 >$C)", no_program},     // an object file
-        {R"(printf '\312\376\272\276\0\0\0\064%08d' 0 >$C)", no_program},  // a class of Java
+        {R"(printf '\312\376\272\276\0\0\0\064%08d' 0 >$C)", no_program},  // a Java class
         {"rm $I", "$I: is missing; write the version file"},
         {"echo major_version=1 >$I", number + ", but ''"},
         {"echo build_version=1 >$I", number + ", but ''"},
@@ -135,7 +135,7 @@ TEST_F(PackageTest, ReportsAllFaultsInOneGo) {
     EXPECT_EQ(json.err, "");
     EXPECT_NE(json.out.find("\"good\": false"), std::string::npos);
     EXPECT_NE(json.out.find("\"what\": \"isn't executable\""), std::string::npos) << json.out;
-    // One cause gives one fault: what is in a folder that can't be read isn't missing.
+    // Files in a folder that can't be read are not reported as missing too.
     shell("rm -rf ../app");
     makeApp(app_);
     expectRefusal("chmod 0 Contents/MacOS; $MAKE . $OUT; s=$?; chmod 755 Contents/MacOS; exit $s",
@@ -157,7 +157,7 @@ TEST_F(PackageTest, NamesTheFolderThatWasMeant) {
     for (const auto& [command, message] : rows) {
         expectRefusal(command, message);
     }
-    // Another user's file, as opposed to an empty one.
+    // A file that the tool may not read is not reported as empty.
     for (const std::string path : {"$I", "$P"}) {
         expectRefusal("chmod 700 " + path + "; chown 1 " + path + " 2>&- || chmod 0 " + path +
                           "; nobody $MAKE --check .",
@@ -190,7 +190,7 @@ TEST_F(PackageTest, WarnsWhenNoUserWouldGetTheBuild) {
     const std::string raise = "; raise build_version in Contents/Resources/INFO\n";
     const std::string warning = "make-package: warning: " + out_ + ": was build ";
     EXPECT_EQ(shell(number + "8/ $I; $MAKE . $OUT").err, "");
-    EXPECT_EQ(shell("$MAKE --format zip . $OUT").err, "");  // the same content
+    EXPECT_EQ(shell("$MAKE --format zip . $OUT").err, "");  // no warning: the same content
     EXPECT_EQ(shell(number + "5/ $I; $MAKE . $OUT").err,
               warning + "8, whose users would not get build 5" + raise);
     EXPECT_EQ(shell("echo more >more; $MAKE . $OUT").err,
@@ -250,7 +250,7 @@ TEST_F(PackageTest, ChecksWhetherTheLauncherAcceptsAPackage) {
         shell(arrange);
         expectRefusal("$MAKE --check $OUT", "$OUT" + message);
     }
-    // Nothing is left of a folder that its owner can't write to.
+    // The temporary copy is removed, even with a folder that its owner can't write to.
     MakeArchive(out_, "zip", {{"ro/", "", 0555}, {"ro/x"}, rest[0], rest[1], client});
     expectRefusal("mkdir -m 777 ../tmp; export TMPDIR=$PWD/../tmp; nobody $MAKE --check $OUT",
                   "$OUT/ro: is a folder that its owner");
@@ -263,7 +263,7 @@ TEST_F(PackageTest, BlamesTheTemporaryFolderAndNotThePackage) {
     expectRefusal("TMPDIR=/none $MAKE --check $OUT", "/none" + none + "No such file");
     expectRefusal("TMPDIR=$PWD/$I $MAKE --check $OUT", "$PWD/$I" + none);
     if (getuid() != 0) {
-        GTEST_SKIP() << "only root can write to a small disk of its own";
+        GTEST_SKIP() << "only root can mount a small disk";
     }
     const SmallDisk disk(folder_ / "disk", "128k");
     ASSERT_TRUE(disk.mounted());

@@ -1,4 +1,4 @@
-// What the operating system gives on macOS and this layer gives elsewhere.
+// The platform layer, including what it implements itself where only macOS has a system call.
 
 #include <fcntl.h>
 #include <signal.h>
@@ -41,7 +41,7 @@ bool InAnotherProcess(const std::function<bool()>& condition) {
 TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
     const Folder folder;
     MakeFile(folder / "folder/Name");
-    // Two links that differ in their letter case look like a folder that ignores it.
+    // Two hard links whose names differ in letter case make the folder look case-insensitive.
     fs::create_hard_link(folder / "folder/Name", folder / "folder/nAME");
     MakeLink("folder/Name", folder / "link");
     MakeLink("folder", folder / "way");
@@ -86,7 +86,7 @@ TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
     const UInt8 root[] = "/";
     EXPECT_EQ(FSPathMakeRef(root + 1, &ref, nullptr), -37);
     ASSERT_EQ(FSPathMakeRef(root, &ref, nullptr), 0);
-    EXPECT_EQ(FSRefMakePath(&ref, text, 1), -2110) << "no room for the terminator";
+    EXPECT_EQ(FSRefMakePath(&ref, text, 1), -2110) << "the buffer has no room for the terminator";
     EXPECT_EQ(FSRefMakePath(&ref, text, 2), 0);
 }
 
@@ -138,7 +138,8 @@ class OpenBundleTest : public testing::Test {
     OpenBundleTest() { setenv("HOME", folder_.path().c_str(), 1); }
 
     bool open() const { return platform::OpenBundle(folder_ / "My.app"); }
-    // What the program writes to the file "there", which it then renames.
+    // Opens the bundle and returns what its program writes to the file "started". The program
+    // writes to another file and renames it, so that this never reads an incomplete one.
     std::string openAndAwait() const {
         EXPECT_TRUE(open());
         WaitFor([&] { return Exists(started_); });
@@ -187,9 +188,10 @@ TEST_F(OpenBundleTest, SaysWhenThereIsNothingToStart) {
     }
 }
 
-// Nothing of ours but the environment.
+// The program inherits the environment, but no signal mask, ignored signals or open files except
+// the standard streams.
 TEST_F(OpenBundleTest, TheProgramStartsAfresh) {
-    // Two signals of its own are ignored by the C library; they are beyond the last seven digits.
+    // The C library ignores its internal signals, 32 and 33. The last seven digits don't hold them.
     MakeFile(programs_ + "My",
              "#!/bin/sh\n(grep -cE 'Sig(Blk|Ign):.*0000000$' /proc/self/status; ls /proc/$$/fd) "
              ">there\nmv there started\n",
@@ -200,7 +202,7 @@ TEST_F(OpenBundleTest, TheProgramStartsAfresh) {
     sigprocmask(SIG_BLOCK, &all, &saved);
     const auto action = signal(SIGPIPE, SIG_IGN);
     const platform::Descriptor inheritable(dup(STDERR_FILENO));
-    EXPECT_EQ(openAndAwait(), "2\n0\n1\n10\n2\n") << "10 is the shell's script";
+    EXPECT_EQ(openAndAwait(), "2\n0\n1\n10\n2\n") << "10 is the script that the shell reads";
     signal(SIGPIPE, action);
     sigprocmask(SIG_SETMASK, &saved, nullptr);
 }
@@ -213,7 +215,7 @@ TEST(InstanceLock, OneProcessHoldsItWhateverIsInItsPlace) {
         std::function<void()> make;
         bool can_lock = true;
     } cases[] = {{[] {}},
-                 {[&] { MakeFile(path, "", 0600); }},  // what a killed process left
+                 {[&] { MakeFile(path, "", 0600); }},  // left by a killed process
                  {[&] { MakeLink("/etc/passwd", path); }},
                  {[&] { mkfifo(path.c_str(), 0666); }},
                  {[&] {
@@ -233,7 +235,7 @@ TEST(InstanceLock, OneProcessHoldsItWhateverIsInItsPlace) {
             const platform::InstanceLock lock(path);
             EXPECT_FALSE(lock.heldElsewhere());
             EXPECT_EQ(InAnotherProcess(held), row.can_lock);
-            EXPECT_EQ(InAnotherProcess(held), row.can_lock) << "the first one has removed it";
+            EXPECT_EQ(InAnotherProcess(held), row.can_lock) << "the first check removed the file";
         }
         EXPECT_EQ(Exists(path), !row.can_lock);
         EXPECT_FALSE(InAnotherProcess(held));
@@ -266,10 +268,10 @@ TEST(SingleInstance, EachCopyRunsOnceAndRemovesLocksThatNobodyHolds) {
                                       {held, "file 0600: "}}));
 }
 
-// What somebody else may have put there before us.
+// Another user may already have created something at the folder's path.
 TEST(PrivateFolder, BelongsToNobodyElse) {
     if (geteuid() != 0) {
-        GTEST_SKIP() << "only root can make another user's folder";
+        GTEST_SKIP() << "only root can create another user's folder";
     }
     const std::string name = "tarnwell-test-" + std::to_string(getpid());
     const std::string first = "/tmp/" + name + "-65534";

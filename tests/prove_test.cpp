@@ -1,8 +1,14 @@
-// That no upgrade can be cut off or fail so that the user is left without an application, or with a
-// mixture of two. Each row is a fault, a scene and a user. It counts the system calls N of an
-// undisturbed run and strikes at each of them in turn. Environment: PROVE_CASES=N breaks N runs of
-// a row (0: no limit; the default is CASES), PROVE_STRIDE=N every N-th, PROVE_ONLY=N the one
-// of that number. scripts/prove breaks all.
+// Checks that an upgrade that is interrupted or fails never leaves the user without an application,
+// or with a mixture of two. Each row is a combination of a fault, a scene and a user. A row counts
+// the system calls N of an undisturbed run and then has one case, a run with the fault, for each of
+// these calls and each variant of the fault. Environment variables:
+//
+//   PROVE_CASES=N   runs about N cases of each row, fewer if they are slow. The default is CASES. 0
+//                   runs all, but about 60 of a row with a large package
+//   PROVE_STRIDE=N  runs at most one case out of every N
+//   PROVE_ONLY=N    runs only the case with the number N
+//
+// scripts/prove runs all rows with PROVE_CASES=0.
 
 #include <fcntl.h>
 #include <signal.h>
@@ -25,9 +31,10 @@ namespace {
 
 const int kErrors[] = {EIO, EINTR, EMFILE, ENOMEM, ENOSPC, EACCES, EXDEV};
 const int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
-const int kKills = 25;  // in a row
+const int kKills = 25;  // consecutive ones in a case of KillInARow
 
-// The package and its damage; whether there is an old application, which one, and what else.
+// Level, package and its damage; whether there is an old application, which one, and what else is
+// in ~/.Tarnwell.
 const Scene kScenes[] = {
     {0, Shape::Plain, Scene::Whole, true, Shape::Plain, Scene::Nothing},
     {1, Shape::Plain, Scene::Whole, false, Shape::Plain, Scene::Nothing},
@@ -48,11 +55,12 @@ const Scene kScenes[] = {
     {3, Shape::Plain, Scene::CutBefore, true, Shape::NoClient, Scene::Nothing},
     {3, Shape::ClientFirst, Scene::CutAfter, true, Shape::Plain, Scene::Leftover}};
 
-// The calls that count: those that change files in the home folder; or all of those on ~/.Tarnwell,
-// on the home folder and the bundle, or on any file once the first one was in the home folder.
+// The system calls that are counted, from the first one on the home folder: those that change files
+// in it; all on ~/.Tarnwell; all on the home folder and on the bundle's resources and log folder;
+// or all on any file.
 enum Scope { Changes, OnTarnwell, OnOwn, OnAny };
 
-// One case of a row: what happens at which call.
+// One case of a row: a variant of the fault, and the system call at which it happens.
 class Case : public UpgradeTrial {
   public:
     using UpgradeTrial::UpgradeTrial;
@@ -74,13 +82,13 @@ class Case : public UpgradeTrial {
     TracedRun run() const { return at(1 + number % calls); }
 
     Scope scope = Changes;
-    int calls = 1;    // N
+    int calls = 1;    // N, counted in the undisturbed run
     int number = 0;   // of the case
-    int variant = 0;  // of what happens
+    int variant = 0;  // of the fault
 };
 
 void Kill(Case& c) {
-    c.check(c.follow(c.run()).end == 1000 + SIGKILL, "not killed");
+    c.check(c.follow(c.run()).end == 1000 + SIGKILL, "the launcher was not killed");
     c.recover();
 }
 
@@ -90,7 +98,7 @@ void KillTwice(Case& c) {
     c.recover();
 }
 
-// With versions that rise, or rise and fall.
+// In even cases the build number of the package rises from run to run, in odd ones it is random.
 void KillInARow(Case& c) {
     std::mt19937 random(static_cast<unsigned>(c.number));
     std::vector<FileTree> whole(c.scene.has_old ? 1 : 0, c.old_app);
@@ -102,14 +110,14 @@ void KillInARow(Case& c) {
         whole.erase(std::remove_if(whole.begin(), whole.end(),
                                    [&](const FileTree& app) { return !c.isWhole(app); }),
                     whole.end());
-        c.check(!had_any || !whole.empty(), "nothing whole is left");
+        c.check(!had_any || !whole.empty(), "no complete application is left");
     }
     c.setPackage(1000);
     c.runUndisturbed();
     c.checkEnd(true);
 }
 
-// What is copied has other inodes.
+// Replaces ~/.Tarnwell by a copy of it, in which every inode number is different.
 void KillAndCopy(Case& c) {
     c.follow(c.run());
     const std::string user = c.in.user();
@@ -120,7 +128,8 @@ void KillAndCopy(Case& c) {
     c.recover();
 }
 
-// At each call everything is lost that wasn't on the disk, or there, but empty; then by chance.
+// Variant 0 loses everything that wasn't synced. Variant 1 keeps it, but new files are empty. The
+// other cases choose at random.
 void CutPower(Case& c) {
     Disk disk(c.in.user());
     TracedRun run = c.run();
@@ -137,14 +146,15 @@ TracedRun WithError(Case& c, bool lasting) {
     TracedRun run = c.run();
     run.error = kErrors[c.variant];
     run.lasting = lasting;
-    c.doing += std::string(" ") + strerror(run.error) + (lasting ? " from there on," : "");
+    c.doing += std::string(" ") + strerror(run.error) + (lasting ? " from that call on," : "");
     run = c.follow(run);
-    c.check(run.end == 0, "exit code");
+    c.check(run.end == 0, "the exit code isn't 0");
     return run;
 }
 
 void Fail(Case& c) {
-    // What was looked at in vain may be put right by the next run only.
+    // After a failed call that changes nothing, or on an overlay, the application may be complete
+    // only after the next run.
     if (WithError(c, false).struck_a_change && c.scene.around != Scene::OnOverlay) {
         c.checkInPlace();
     }
@@ -158,7 +168,7 @@ void KeepFailing(Case& c) {
 
 void FailTenTimes(Case& c) {
     for (int i = 0; i < 10; ++i) {
-        c.check(c.runUndisturbed() == 0, "exit code");
+        c.check(c.runUndisturbed() == 0, "the exit code isn't 0");
         c.checkEnd(false);
     }
     c.setPackage(100);
@@ -166,8 +176,8 @@ void FailTenTimes(Case& c) {
     c.checkEnd(true);
 }
 
-// Another copy of the launcher begins while this one is stopped, and both go on, one with a newer
-// package and one with an older one.
+// Starts another copy of the launcher while this one is stopped, then lets both continue. One of
+// them has the newer package.
 void StartAnother(Case& c) {
     Installation other;
     other.environment["HOME"] = c.in.home();
@@ -182,26 +192,26 @@ void StartAnother(Case& c) {
     run.interfere = [&](pid_t) {
         pid = other.start();
         siginfo_t end{};
-        for (int i = 0; i < 100 && end.si_pid == 0; ++i) {  // unless it waits for this one
+        for (int i = 0; i < 100 && end.si_pid == 0; ++i) {  // it may wait for this one
             usleep(2000);
             waitid(P_PID, static_cast<id_t>(pid), &end, WEXITED | WNOHANG | WNOWAIT);
         }
     };
     run = c.follow(run);
-    c.check(run.end == 0, "exit code");
-    c.check(run.ends[pid] == 0, "exit code of the other");
+    c.check(run.end == 0, "the exit code isn't 0");
+    c.check(run.ends[pid] == 0, "the other launcher's exit code isn't 0");
     c.checkEnd(true);
 }
 
 void SendSignal(Case& c) {
-    const int deaf = c.calls / 3;  // until it has begun to listen
+    const int deaf = c.calls / 3;  // by then it has installed its signal handlers
     TracedRun run = c.at(deaf + 1 + c.number % (c.calls - deaf));
     run.interfere = [&](pid_t pid) { kill(pid, kSignals[c.variant]); };
-    c.check(c.follow(run).end == 0, "exit code");
+    c.check(c.follow(run).end == 0, "the exit code isn't 0");
     c.checkEnd(true);
 }
 
-// It is renamed, removed, or replaced by a file.
+// During the run, ~/.Tarnwell is renamed, removed, or replaced by a file.
 void TakeHome(Case& c) {
     const std::string user = c.in.user();
     TracedRun run = c.run();
@@ -214,7 +224,7 @@ void TakeHome(Case& c) {
             MakeFile(user);
         }
     };
-    c.check(c.follow(run).end == 0, "exit code");
+    c.check(c.follow(run).end == 0, "the exit code isn't 0");
     RemoveTree(user + ".elsewhere");
     RemoveTree(user);
     c.runUndisturbed();
@@ -231,7 +241,7 @@ void FillDisk(Case& c) {
         }
         close(fd);
     };
-    c.check(c.follow(run).end == 0, "exit code");
+    c.check(c.follow(run).end == 0, "the exit code isn't 0");
     c.checkInPlace();
     fs::remove(filler);
     c.recover();
@@ -240,13 +250,13 @@ void FillDisk(Case& c) {
 struct Fault {
     const char* name;
     void (*strike)(Case& c);
-    int level;         // of scenes
+    int level;         // it is tried in the scenes up to this level
     int variants = 1;  // each has N cases
-    int more = 0;      // cases besides
+    int more = 0;      // additional cases
     Scope scope = Changes;
-    int weight = 1;    // how many others one case lasts as long as
-    bool good = true;  // with whole packages
-    bool bad = true;   // with damaged ones
+    int weight = 1;    // duration of a case, relative to one of weight 1
+    bool good = true;  // tried with whole packages
+    bool bad = true;   // tried with damaged packages
 };
 
 const Fault kFaults[] = {{"killed", Kill, 3},
@@ -297,7 +307,7 @@ int Setting(const char* name, int otherwise) {
     return value != nullptr ? atoi(value) : otherwise;
 }
 
-// The cases of a row that are tried, one of each stretch.
+// Returns the numbers of the cases to run: one, chosen at random, of each `stride` successive ones.
 std::vector<int> Draw(const Row& row, int calls) {
     const bool is_large = row.scene.package == Shape::Many;
     const int cases = calls * row.fault.variants + row.fault.more;
@@ -322,13 +332,13 @@ TEST_P(ProveTest, EndsWell) {
     Case c(row.scene, row.as_user, row.fault.strike == FillDisk);
     const bool is_readable = row.scene.old != Shape::Modes || geteuid() == 0;
     if (!c.possible() || (row.fault.strike == KillAndCopy && !is_readable)) {
-        GTEST_SKIP() << "only root can arrange or copy this";
+        GTEST_SKIP() << "only root can set up or copy this scene";
     }
     c.scope = row.fault.scope;
     c.doing = "undisturbed";
     c.arrange();
     const TracedRun run = c.follow(c.at(0));
-    c.check(run.end == 0 && run.calls > 20, "the undisturbed run");
+    c.check(run.end == 0 && run.calls > 20, "the undisturbed run is too short or failed");
     c.recover();
     c.calls = run.calls;
     int runs = 0;

@@ -1,4 +1,4 @@
-// The real executable, with a home folder of its own, real processes and real archives.
+// Runs the real launcher with a temporary home folder, real processes and real archives.
 
 #include <fcntl.h>
 #include <signal.h>
@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The messages of a log without their time stamps, and without the lines of the sources whose line
-// numbers are no part of the text.
+// Returns the messages of a log without their time stamps, and without those line numbers of the
+// sources that may change.
 std::vector<std::string> Messages(const std::string& log) {
     const std::regex any_line("(tarnwell-service|extractor)\\([0-9]+\\)");
     std::vector<std::string> messages;
@@ -29,12 +29,12 @@ std::vector<std::string> Messages(const std::string& log) {
     return messages;
 }
 
-// Cuts a package off in the middle.
+// Truncates a package to half its size.
 void CutOff(const std::string& package) {
     fs::resize_file(package, fs::file_size(package) / 2);
 }
 
-// Of an upgrade of an object that isn't there.
+// The record of an upgrade whose old application, the folder with the inode 1, doesn't exist.
 const char kRecordOfNothing[] = "state=replacing\nbackup=0\nobject=1\n";
 
 class RunTest : public InstallationTest {};
@@ -226,7 +226,7 @@ TEST_F(RunTest, EndsWellWithoutAUsableHome) {
     }
 }
 
-// The label of the window, by a part that no other language has in it.
+// Recognises each language by a part of the window's label that no other language contains.
 TEST_F(RunTest, SpeaksTheUsersLanguage) {
     const std::string plugins = bundle("Contents/Frameworks/plugins/generic");
     MakeFolder(plugins);
@@ -259,14 +259,14 @@ TEST_F(RunTest, TheClientGetsTheUsersEnvironment) {
     EXPECT_TRUE(WaitFor([this] { return ReadFile(home() + "/seen") == "/somewhere\n"; }));
 }
 
-// The second launcher waits for the first, then reads the versions: the client that it starts is
-// the complete one.
+// The second launcher waits for the first before it reads the versions, so the client that it
+// starts is complete.
 TEST_F(RunTest, AnotherInstallationWaitsForARunningUpgrade) {
     install("99");
     fs::remove(package());
     ASSERT_EQ(mkfifo(package().c_str(), 0644), 0);
     const pid_t first = start();
-    int pipe = -1;  // opens when the first launcher waits for its package
+    int pipe = -1;  // can be opened once the first launcher is reading its package
     EXPECT_TRUE(WaitFor(
         [&] { return (pipe = open(package().c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)) >= 0; }));
     logEverything();
@@ -280,7 +280,7 @@ TEST_F(RunTest, AnotherInstallationWaitsForARunningUpgrade) {
     };
     EXPECT_TRUE(WaitFor([&] { return second_logged("waiting for another launcher"); }));
     EXPECT_FALSE(Exists(home() + "/started"));
-    close(pipe);  // a package of no bytes
+    close(pipe);  // the package is empty
     EXPECT_EQ(wait(first), 0);
     EXPECT_EQ(wait(second), 0);
     EXPECT_TRUE(second_logged("source_version = (, , 99, )"));
@@ -288,8 +288,8 @@ TEST_F(RunTest, AnotherInstallationWaitsForARunningUpgrade) {
     expectNoLeftovers();
 }
 
-// The record says that something was being replaced, and nothing shows what is in its place: it
-// isn't taken for installed, and not given up before there is a complete application.
+// The record says that the application was being replaced, and nothing shows how far that got. The
+// launcher doesn't accept it as installed, and keeps it until a complete one can replace it.
 TEST_F(RunTest, AnApplicationThatMayBeIncompleteIsReplacedOrKept) {
     logEverything();
     for (const char* const record :
@@ -313,8 +313,8 @@ TEST_F(RunTest, AnApplicationThatMayBeIncompleteIsReplacedOrKept) {
     }
 }
 
-// What can't be removed, here because a volume is mounted in it, is set aside for the old
-// application, and removed as soon as it can be.
+// An incomplete application that can't be removed, here because a volume is mounted in it, is moved
+// aside so that the old one can be restored. It is removed by the first run that can do so.
 TEST_F(RunTest, WhatCannotBeRemovedIsSetAsideForTheOldApplication) {
     install("100");
     const FileTree old_application = Tree(app());

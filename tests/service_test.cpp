@@ -1,4 +1,4 @@
-// The service's tree copy and the extractor, below what whole runs show.
+// The service's tree copy and the extractor: cases that the tests of whole runs don't cover.
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -49,7 +49,7 @@ TEST_F(CopyTest, MergesATreeIntoAnother) {
     EXPECT_EQ(ReadFile(folder_ / "file"), "x");
 }
 
-// Each level of a tree adds a line about the copy that has failed.
+// Each level of a tree logs one line when a copy below it fails.
 TEST_F(CopyTest, SaysWhyItFails) {
     MakeFile(folder_ / "file");
     MakeFolder(folder_ / "folder");
@@ -92,7 +92,7 @@ TEST_F(CopyTest, RefusesADestinationInsideTheSource) {
     }
     MakeFolder(folder_ / "gone");
     ASSERT_EQ(chdir((folder_ / "gone").c_str()) + rmdir((folder_ / "gone").c_str()), 0);
-    EXPECT_EQ(copy(folder_ / "src", "new"), -1) << "nothing says where this is";
+    EXPECT_EQ(copy(folder_ / "src", "new"), -1) << "the current folder was removed and has no path";
     ASSERT_EQ(chdir((folder_ / "src").c_str()), 0);
     EXPECT_EQ(copy(folder_ / "src", "new"), -1);
     EXPECT_EQ(Tree(folder_ / "src").size(), 1u);
@@ -108,7 +108,7 @@ TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
     MakeFile(folder_ / "src/file");
     MakeFolder(folder_ / "dst");
     chmod((folder_ / "src/closed").c_str(), 0);
-    chmod((folder_ / "dst").c_str(), 0333);  // where that doesn't matter
+    chmod((folder_ / "dst").c_str(), 0333);  // the destination isn't listed
     {
         const AsNobody nobody;
         EXPECT_EQ(copy(folder_ / "src", folder_ / "dst"), 0);
@@ -120,7 +120,7 @@ TEST_F(CopyTest, AFolderThatCannotBeListedCountsAsEmpty) {
 }
 
 TEST_F(CopyTest, ADeepTreeNeedsFewDescriptors) {
-    MakeDeepTree(folder_ / "src", 3000);  // no path leads to its bottom
+    MakeDeepTree(folder_ / "src", 3000);  // a path to its last folder would be too long
     for (const char* const name : {"before", "what comes after"}) {
         MakeFile(folder_ / "src/d/d/" + name);
     }
@@ -143,7 +143,7 @@ class ExtractorTest : public testing::Test {
         extractor_.archive_path = (folder_ / "package").c_str();
         MakeFolder(folder_ / "dest");
     }
-    // What the operation returns and logs.
+    // Returns the operation's result and what it logged.
     std::pair<int, std::string> call(int (Extractor::*operation)()) {
         std::pair<int, std::string> result;
         result.second = CaptureStderr([&] { result.first = (extractor_.*operation)(); });

@@ -1,4 +1,4 @@
-// docs/shipping.md: every command of the page does what the page says.
+// Runs every command in docs/shipping.md and compares its output with the page.
 
 #include <sys/prctl.h>
 
@@ -12,10 +12,10 @@ namespace {
 
 struct Step {
     std::string command;
-    std::string printed;  // what the page says that it prints
+    std::string printed;  // the output that the page shows
 };
 
-// A command is a line that begins with "$" in a block of code; what follows it there is printed.
+// A command is a line that begins with "$" in a code block; the lines after it are its output.
 std::vector<Step> ReadSteps(const std::string& page) {
     std::vector<Step> steps;
     std::ifstream file(page);
@@ -33,7 +33,7 @@ std::vector<Step> ReadSteps(const std::string& page) {
     return steps;
 }
 
-// Without what depends on the compiler and the libraries.
+// Masks checksums and sizes, which depend on the compiler and the libraries.
 std::string WithoutSizes(const std::string& text) {
     const std::string sums = std::regex_replace(text, std::regex("SHA-256: .*"), "SHA-256: ...");
     return std::regex_replace(sums, std::regex(", \\d+ bytes"), ", ... bytes");
@@ -57,7 +57,7 @@ TEST(ShippingTest, EveryCommandPrintsWhatThePageSays) {
         script += "exec >step" + std::to_string(i) + " 2>&1\n" + steps[i].command + "\n";
     }
     MakeFile(folder / "script", script);
-    // NOLINTNEXTLINE(cert-env33-c): the page is for a shell
+    // NOLINTNEXTLINE(cert-env33-c): the commands of the page are for a shell
     EXPECT_EQ(std::system(("bash " + (folder / "script")).c_str()), 0);
     for (std::size_t i = 0; i < steps.size(); ++i) {
         const std::string printed = ReadFile(folder / ("step" + std::to_string(i)));

@@ -1,4 +1,4 @@
-// Volumes that look names up without regard to letter case.
+// The file operations and the extractor on a case-insensitive volume.
 
 #include <unistd.h>
 
@@ -45,7 +45,7 @@ TEST_F(SpellingTest, AnExactPathIsSpelledAsItIsStored) {
         {"caf\xC3\xA9 au lait", "Caf\xC3\x89 au lait"},
         {"\xC3\x89", "\xC3\xA9"},
         {"\xD0\x96\xD1\x83\xD0\xBA", "\xD0\xB6\xD0\xA3\xD0\x9A"},
-        {"\xE2\xB1\xA5/file", "\xC8\xBA/FILE"},  // one of three bytes, the other of two
+        {"\xE2\xB1\xA5/file", "\xC8\xBA/FILE"},  // three bytes, and two in the other case
         {"Folder/Sub/Name", "Folder/sUB/Name"}};
     for (const auto& [stored, other] : cases) {
         const ustring path = *this / stored;
@@ -61,8 +61,8 @@ TEST_F(SpellingTest, AnExactPathIsSpelledAsItIsStored) {
     }
 }
 
-// A volume that decomposes names finds the object under the composed one, too. Where there is none
-// a link does.
+// A volume that decomposes names finds the file by its composed name too. On other volumes the test
+// creates a link with that name.
 TEST_F(SpellingTest, AnExactPathMayBeComposedInAnotherWay) {
     const std::string composed = folder_ / "caf\xC3\xA9";
     const std::string decomposed = folder_ / "cafe\xCC\x81";
@@ -78,7 +78,7 @@ TEST_F(SpellingTest, ARenameCanChangeTheCaseOnly) {
     MakeFile(*this / "Folder/Name", "text");
     EXPECT_EQ(FSRename(*this / "Folder/Name", *this / "Folder/nAME", true), 0);
     EXPECT_EQ(FSRename(*this / "FOLDER", *this / "folder", false), 0);
-    const FileTree tree = Tree(root_);  // the mode is the volume's
+    const FileTree tree = Tree(root_);  // only the names: the volume sets the modes
     EXPECT_TRUE(tree.size() == 2 && tree.count("folder/nAME") == 1);
 }
 

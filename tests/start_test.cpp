@@ -1,5 +1,4 @@
-// The real executable among other processes, started by users and programs of all kinds, and on
-// volumes of all kinds.
+// Runs the real launcher next to other processes, in various environments, and on various volumes.
 
 #include <sched.h>
 #include <signal.h>
@@ -42,7 +41,7 @@ TEST_F(StartTest, StopsARunningClient) {
                   std::chrono::seconds(row.least_seconds));
         EXPECT_EQ(running.wait(), row.end);
         expectBuild("100");
-        EXPECT_TRUE(Exists(user("ui.pid"))) << "the pid file is the client's";
+        EXPECT_TRUE(Exists(user("ui.pid"))) << "only the client may remove its pid file";
     }
 }
 
@@ -73,7 +72,8 @@ TEST_F(StartTest, SignalsNobodyForAPidFileThatNamesNoClient) {
     }
 }
 
-// What it runs can't be seen: its age decides whether it is the client.
+// The launcher can't see what another user's process runs. It takes the process for the client if
+// it is older than the pid file.
 TEST_F(StartTest, AnotherUsersProcessIsLeftAlone) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can start another user's process";
@@ -186,7 +186,7 @@ TEST_F(StartTest, AReadOnlyHomeHasAGuardAndStillStartsTheClient) {
 TEST_F(StartTest, WhatItWasStartedWithEndsNoRun) {
     logEverything();
     void (*const cases[])() = {
-        [] {  // nobody reads what it writes
+        [] {  // standard output and standard error are a pipe without a reader
             int ends[2];
             if (pipe(ends) == 0 && close(ends[0]) == 0) {
                 dup2(ends[1], STDOUT_FILENO);
@@ -199,7 +199,7 @@ TEST_F(StartTest, WhatItWasStartedWithEndsNoRun) {
                 close(fd);
             }
         }};
-    environment["QT_LOGGING_RULES"] = "*=true";  // Qt says much on standard error
+    environment["QT_LOGGING_RULES"] = "*=true";  // makes Qt write many lines to standard error
     for (const auto& before_exec : cases) {
         startFrom("99");
         EXPECT_EQ(wait(start(before_exec)), 0);
@@ -244,7 +244,7 @@ TEST_F(StartTest, WhatItReadsAndWritesMayBeATrap) {
     }
 }
 
-// Qt would decode the name to that of another folder.
+// Qt would decode such a name to the name of another folder.
 TEST(OddNamesTest, AHomeThatIsNotNamedInUtf8IsLeftAlone) {
     Installation in(".", "\xFF");
     in.install("99");
@@ -258,11 +258,11 @@ TEST(OddNamesTest, AHomeThatIsNotNamedInUtf8IsLeftAlone) {
 
 TEST(OddNamesTest, WorksWhereverItIsAndWhateverItIsCalled) {
     const char kBlanks[] = "\xE5\xAE\xB6 with\nblanks \xF0\x9F\x98\x80";
-    const char kDecomposed[] = "e\xCC\x81";  // another name than its composed form
+    const char kDecomposed[] = "e\xCC\x81";  // not the same name as its composed form
     const struct {
         const char* bundle_folder;
         const char* home;
-        const char* executable;  // empty: its path
+        const char* executable;  // argv[0]; empty: its path
         const char* locale;
     } cases[] = {{"f\xC3\xBCr mich", "home", "", ""},
                  {"f\xC3\xBCr mich", "home", "tarnwell-launcher", ""},
@@ -284,12 +284,12 @@ TEST(OddNamesTest, WorksWhereverItIsAndWhateverItIsCalled) {
         EXPECT_EQ(Tree(in.app()), Installation::expectedApp("100"));
         const auto beside = fs::directory_iterator(fs::path(in.home()).parent_path());
         EXPECT_EQ(std::distance(begin(beside), end(beside)), 4)
-            << "the bundle, the home and what the launcher has written to its streams";
+            << "expected: the bundle, the home folder, and one file for each output stream";
     }
 }
 
-// Volumes that a Mac has: one that ignores letter case for the home folder, a read-only one for the
-// bundle.
+// Volumes that are usual on a Mac: a case-insensitive one for the home folder, a read-only one for
+// the bundle.
 
 class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::Kind>,
                              protected Installation {
@@ -300,7 +300,8 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
         }
     }
 
-    // Of a package without links, which not each of these volumes has.
+    // Runs the launcher with a package without links, which exFAT doesn't support, and returns what
+    // it logged.
     std::string logOfRunWith(const std::string& number, std::vector<Entry> entries) {
         setBuild(number);
         entries.push_back({"Contents/Info.plist", kInfoPlist});
@@ -339,7 +340,7 @@ TEST_P(CaseIgnoringHomeTest, InstallsUpgradesAndRollsBack) {
     expectOnly("101");
 }
 
-// So does a Mac start a bundle that was downloaded and isn't moved to its place.
+// macOS runs a downloaded bundle from a read-only volume until the user moves the bundle.
 TEST(ReadOnlyBundleTest, InstallsAndStartsTheClient) {
     Installation installation;
     const std::string bundle = installation.bundle("");
@@ -347,7 +348,7 @@ TEST(ReadOnlyBundleTest, InstallsAndStartsTheClient) {
         mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount(bundle.c_str(), bundle.c_str(), nullptr, MS_BIND, nullptr) != 0 ||
         mount("none", bundle.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr) != 0) {
-        GTEST_SKIP() << "only root can mount here, where it is allowed to";
+        GTEST_SKIP() << "this user may not mount a read-only bundle";
     }
     ASSERT_FALSE(std::ofstream(installation.bundle("file")).good());
     for (int start = 0; start < 2; ++start) {

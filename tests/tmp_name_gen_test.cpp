@@ -19,7 +19,7 @@ class FixedKey : public TmpNameGen {
     }
 };
 
-// The names were computed by an independent program from the published cipher.
+// The expected names were computed with an independent implementation of the cipher.
 TEST(TmpNameGen, NamesFollowFromTheKey) {
     FixedKey names("0-0");
     for (const char* const name : {"EEY1bPcw", "5e0xjjZW", "5o0WkhbR", "F2EknMve", "xC_e5dxx"}) {

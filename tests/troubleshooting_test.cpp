@@ -1,4 +1,4 @@
-// The messages in docs/troubleshooting.md, compared with those in the sources.
+// Compares the messages in docs/troubleshooting.md with those in the sources.
 
 #include <algorithm>
 #include <filesystem>
@@ -19,8 +19,9 @@ std::ptrdiff_t Count(const std::string& text, const std::regex& pattern) {
     return std::distance(std::sregex_iterator(text.begin(), text.end(), pattern), {});
 }
 
-// The messages of one source: those of the log, and the warnings of the string type. The format
-// must be a literal, which may be in pieces on several lines; it is told as the source spells it.
+// Returns the messages of one source file: those of the log, and the warnings of the string type.
+// Each format must be a string literal, possibly split over several lines. It is returned as the
+// source spells it: "\n" is two characters.
 Messages InSource(const std::string& text, const std::string& name) {
     static const std::regex between_pieces(R"re("\s+")re");
     static const std::regex named(R"re(#define LOG_SOURCE "(.*)")re");
@@ -37,7 +38,7 @@ Messages InSource(const std::string& text, const std::string& name) {
                          source.empty() ? name : source[1].str(), (*match)[2]);
     }
     EXPECT_EQ(Count(code, call), Count(code, understood))
-        << name << " logs in a way that this test can't read";
+        << name << " has a log call whose format this test can't read";
     return messages;
 }
 
@@ -47,7 +48,7 @@ Messages InSources() {
         for (const auto& entry : fs::recursive_directory_iterator(SOURCE_DIR + folder)) {
             const fs::path& path = entry.path();
             const bool code = path.extension() == ".cpp" || path.extension() == ".h";
-            if (code && path.parent_path().filename() != "liblogger") {  // which defines the macros
+            if (code && path.parent_path().filename() != "liblogger") {  // it defines the macros
                 messages.merge(InSource(ReadFile(path), path.stem()));
             }
         }
@@ -62,7 +63,7 @@ class TroubleshootingTest : public testing::Test {
         LinesWith(ReadFile(SOURCE_DIR "/docs/troubleshooting.md"), "");
 };
 
-// The list at the end of the document: "### SOURCE", and below it "- LEVEL `FORMAT`".
+// The list at the end of the document has lines "### SOURCE", each followed by "- LEVEL `FORMAT`".
 TEST_F(TroubleshootingTest, TheDocumentListsEveryErrorAndWarning) {
     static const std::regex item("### (.*)|- (ERROR|WARNING) `(.*)`");
     Messages unlisted = written_;
@@ -81,7 +82,7 @@ TEST_F(TroubleshootingTest, TheDocumentListsEveryErrorAndWarning) {
     }
 }
 
-// "[LEVEL] SOURCE(#): TEXT", the lines of logs that the document shows.
+// Where the document shows lines of a log, they contain "[LEVEL] SOURCE(#): TEXT".
 TEST_F(TroubleshootingTest, TheDocumentShowsLinesThatCanBeWritten) {
     static const std::regex shown(R"(.*\[(\w+)\] (\S+)\(#\): (.*))");
     for (const std::string& text : document_) {
@@ -92,7 +93,7 @@ TEST_F(TroubleshootingTest, TheDocumentShowsLinesThatCanBeWritten) {
                 std::regex_replace(format, std::regex(R"([.*+?^$()[\]{}|])"), R"(\$&)");
             const std::regex pattern(std::regex_replace(exact, std::regex("%[sd]"), ".*"));
             return level == line[1] && source == line[2] &&
-                   std::regex_match(line[3].str() + "\n", pattern);  // which the format ends with
+                   std::regex_match(line[3].str() + "\n", pattern);  // a format ends with "\n"
         };
         EXPECT_TRUE(!std::regex_match(text, line, shown) ||
                     std::any_of(written_.begin(), written_.end(), is_line))

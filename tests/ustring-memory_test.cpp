@@ -6,8 +6,8 @@
 #include "tests/support/scenario.h"
 #include "ustring/ustring.h"
 
-// The linker redirects the string type's allocations to here.
-static int allocations_until_failure = -1;  // negative when none is to fail
+// The linker redirects the string type's allocations to these functions.
+static int allocations_until_failure = -1;  // negative: none fails
 // NOLINTBEGIN(bugprone-reserved-identifier): the linker's names
 extern "C" void* __real_malloc(std::size_t size);
 extern "C" void* __wrap_malloc(std::size_t size) {
@@ -21,7 +21,8 @@ extern "C" void* __wrap_realloc(void* buffer, std::size_t size) {
 
 namespace {
 
-// Runs the code with its n-th allocation, counted from 0, failing. False when that was reached.
+// Runs the code and makes its n-th allocation, counted from 0, fail. Returns false if the code made
+// that many allocations and threw std::bad_alloc.
 template <typename Code>
 bool RunsWithout(int allocation, const Code& code) {
     allocations_until_failure = allocation;

@@ -10,8 +10,8 @@
 
 #include "tests/support/scenario.h"
 
-// The fuzz target: runs a program of operations on a string and on a model of it. Ends the process
-// with a message when they differ.
+// The fuzz target. Decodes the data as operations, runs them on a string and on a model of it, and
+// ends the process with a message when the two differ.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
@@ -91,10 +91,10 @@ TEST(UString, KeepsABufferThatItFillsByHalf) {
     }
     const auto before = fields(text);
     text.ltrim("y").rtrim("y").assign(text.c_str(), 10);
-    EXPECT_EQ(fields(text), before) << "what changes nothing keeps both forms";
+    EXPECT_EQ(fields(text), before) << "an operation that changes nothing must keep both forms";
     EXPECT_EQ(fields(text.assign(text.c_str(), 3))[2], 4u);
     text.clear();
-    EXPECT_EQ(fields(text.assign(text.c_str_utf16(), 1))[2], 4u) << "the same, of an empty text";
+    EXPECT_EQ(fields(text.assign(text.c_str_utf16(), 1))[2], 4u) << "an empty one keeps its buffer";
 }
 
 TEST(UString, HoldsALongText) {

@@ -21,9 +21,10 @@ std::string VersionFile(const std::string& build) {
 
 void MakeArchive(const std::string& path, const std::string& format,
                  const std::vector<Entry>& entries) {
-    // Names are UTF-8. The second is macOS's name for it.
+    // Names are UTF-8, and libarchive reads them in the locale's encoding. The second name is that
+    // of macOS.
     Check(setlocale(LC_CTYPE, "C.UTF-8") != nullptr || setlocale(LC_CTYPE, "UTF-8") != nullptr,
-          "no UTF-8 in the C library");
+          "the C library has no UTF-8 locale");
     archive* const out = archive_write_new();
     const std::map<std::string, std::pair<const char*, const char*>> formats = {
         {"zip", {"zip", nullptr}},       {"7z", {"7zip", nullptr}},
@@ -72,7 +73,7 @@ void Unpack(std::vector<Entry> entries, const std::string& folder) {
             MakeFile(path, entry.content, entry.mode);
         }
     }
-    std::reverse(entries.begin(), entries.end());  // a folder after what is in it
+    std::reverse(entries.begin(), entries.end());  // inner folders first
     for (const Entry& entry : entries) {
         if (entry.name.back() == '/' && entry.mode != Entry().mode) {
             chmod((folder + "/" + entry.name).c_str(), entry.mode);

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-// An entry of an archive: a folder when the name ends in "/", a link when there is a target. A
-// folder's mode is 0755 unless another is given.
+// An entry of an archive: a folder if the name ends with "/", a link if symlink or hardlink is set.
+// A folder with the default mode has the mode 0755.
 struct Entry {
     std::string name;
     std::string content = {};
@@ -16,14 +16,14 @@ struct Entry {
     std::string hardlink = {};
 };
 
-// The Info.plist of an application that starts "tarnwell-ui", and a version file.
+// An Info.plist that names the executable "tarnwell-ui", and a version file with this build number.
 extern const char kInfoPlist[];
 std::string VersionFile(const std::string& build);
 
-// Writes an archive: zip, 7z, cpio, tar, tar.gz, tar.xz or tar.zst.
+// Writes an archive: zip, 7z, xar, cpio, tar, tar.gz, tar.xz, tar.zst, tar.bz2, tar.lz4 or tar.lz.
 void MakeArchive(const std::string& path, const std::string& format,
                  const std::vector<Entry>& entries);
-// Makes what unpacking such an archive into a folder would.
+// Creates what unpacking such an archive into the folder would create; hardlink is ignored.
 void Unpack(std::vector<Entry> entries, const std::string& folder);
 
 #endif

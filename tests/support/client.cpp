@@ -1,6 +1,6 @@
-// Stands in for the client, copied into an application. Without an argument it leaves its id in
-// $HOME/started and ends, as the client that the launcher starts. With one it writes a line when it
-// is ready to be ended, and behaves as the argument says.
+// A substitute for the client, which tests copy into an application. Without an argument, as the
+// launcher starts it, it appends its process id to $HOME/started and exits. With an argument, it
+// prints a line when it is ready for SIGTERM, which it then handles as the argument says.
 
 #include <signal.h>
 #include <unistd.h>

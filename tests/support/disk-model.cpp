@@ -17,7 +17,7 @@ Disk::Disk(std::string root) : root_(std::move(root)), grave_(root_ + ".cut"), s
 Disk::Id Disk::identify(const std::string& path) {
     struct statx status {};
     if (statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME, &status) != 0) {
-        throw std::runtime_error("can't look at " + path);
+        throw std::runtime_error("can't read the inode number of " + path);
     }
     return {status.stx_btime.tv_sec * 1000000000 + status.stx_btime.tv_nsec, status.stx_ino};
 }
@@ -41,7 +41,8 @@ Disk::Objects Disk::look() const {
     return objects;
 }
 
-// What is known of an object that is there now: at least what it is.
+// Returns the synced state of an existing object. If nothing was synced, adds its mode and, for a
+// link, its target.
 Disk::Object& Disk::known(const Id& id, const Objects& now) {
     const Object& object = now.at(id);
     return synced_.emplace(id, Object{object.mode, S_ISLNK(object.mode) ? object.content : "", {}})
@@ -56,7 +57,7 @@ void Disk::sync(const std::string& path) {
         const Id id = identify(path);
         known(id, now).mode = now.at(id).mode;
         known(id, now).content = now.at(id).content;
-        // Also what came from another folder or went to one: a rename is done in both, or in none.
+        // Also what was moved from or to another folder: a rename takes effect in both or neither.
         for (auto& [other, object] : synced_) {
             if (object.place.first == id) {
                 object.place = now.count(other) != 0 ? now.at(other).place : Place();
@@ -83,8 +84,8 @@ void Disk::chooseStates(Objects& chosen, const Objects& now) {
     }
 }
 
-// For each object where it was or where it is. Where another one has stayed, nothing new is; and
-// what has been replaced is there as long as nothing new is.
+// Chooses the old or the new place for each object. No two objects get the same place, and an
+// object that was replaced stays unless the new one is in its place.
 void Disk::choosePlaces(Objects& chosen, const Objects& now, double chance) {
     std::map<Id, bool> is_new;
     for (const auto& [id, object] : chosen) {
@@ -162,7 +163,7 @@ void Disk::build(const Objects& objects, const Id& folder, const std::string& pa
             MakeFolder(entry);
             build(objects, id, entry);
         } else if (!Exists(entry) || ReadFile(entry) != object.content) {
-            chmod(entry.c_str(), 0600);  // if it is there
+            chmod(entry.c_str(), 0600);  // if it exists
             MakeFile(entry, object.content);
         }
         chmod(entry.c_str(), object.mode & 07777);

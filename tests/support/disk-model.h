@@ -9,28 +9,30 @@
 #include <string>
 #include <utility>
 
-// What would be found below a folder after a power cut. Only what was put on the disk is certain.
-// Of the rest, each object is where it was or where it is, but a rename is never half done; each
-// file has its old content, its new one, the beginning of that, or none.
+// A model of what a power cut leaves below a folder. Only what was synced is certain to be there.
+// Any other object is at its old or its new place, but a rename never takes effect in one folder
+// only; any other file has its old content, its new content, the beginning of the new content, or
+// none.
 class Disk {
   public:
-    explicit Disk(std::string root);  // what is there now is on the disk
+    explicit Disk(std::string root);  // what exists now counts as synced
 
-    // Puts the entries of a folder or the content of a file on the disk; for an empty path,
-    // everything.
+    // Records that the entries of a folder or the content of a file were synced; for an empty path,
+    // everything below the root.
     void sync(const std::string& path);
 
-    // Makes the folder's content what a power cut leaves. What stays keeps its inode; what comes
-    // back is ours. With the seed 0, everything that isn't on the disk is lost; with 1, it is
-    // there, but empty; any other one mixes.
+    // Changes the folder's content to what a power cut leaves. Objects that still exist keep their
+    // inodes; removed ones that reappear belong to this process's user. With the seed 0, everything
+    // that wasn't synced is lost; with 1, it is kept, but new files are empty; with any other seed,
+    // the model chooses at random.
     void cut(unsigned seed);
 
   private:
-    using Id = std::pair<std::int64_t, ino_t>;  // with the time of birth: inodes are used again
-    using Place = std::pair<Id, std::string>;   // a folder, and the name in it; none: nowhere
+    using Id = std::pair<std::int64_t, ino_t>;  // birth time and inode number, which is reused
+    using Place = std::pair<Id, std::string>;   // a folder and the name in it; empty: in none
     struct Object {
         mode_t mode = 0;
-        std::string content;  // of a file; the target of a link
+        std::string content;  // of a file, or the target of a link
         Place place;
     };
     using Objects = std::map<Id, Object>;
@@ -45,7 +47,7 @@ class Disk {
     std::string graveOf(const Id& id) const;
 
     const std::string root_;
-    const std::string grave_;  // where objects are while there is no folder that they could be in
+    const std::string grave_;  // holds the objects while the tree is rebuilt
     Objects synced_;
     std::mt19937 random_;
 };

@@ -17,7 +17,8 @@ inline mode_t ModeOf(const std::string& path) {
     return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
-// Works in a folder of its own, in which "kinds" holds one of each kind of object.
+// Runs a test in a temporary folder. Its subfolder "kinds" has one object of each kind, but no
+// devices.
 class FileOpTest : public testing::Test {
   protected:
     FileOpTest() {

@@ -16,7 +16,7 @@ namespace {
 
 const uid_t kNobody = 65534;
 
-// As exec() takes them.
+// Returns the null-terminated array that exec() needs; it points into texts.
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
     for (std::string& text : texts) {
@@ -36,7 +36,7 @@ int WaitStatus(pid_t pid) {
 
 pid_t StartAndAwaitLine(std::vector<std::string>& command) {
     int ends[2];
-    Check(pipe2(ends, O_CLOEXEC) == 0, "can't make a pipe");
+    Check(pipe2(ends, O_CLOEXEC) == 0, "can't create a pipe");
     const std::vector<char*> arguments = Pointers(command);
     const pid_t pid = fork();
     if (pid == 0) {
@@ -54,8 +54,9 @@ pid_t StartAndAwaitLine(std::vector<std::string>& command) {
 
 const char kClientPath[] = "Contents/MacOS/tarnwell-ui";
 
-// Notes that it was started, and whether it saw the last entry of its package. When its folder
-// isn't the application any more, another upgrade has begun, and it can't tell.
+// A client that appends "whole" or "half" to $HOME/started, depending on whether the last entry of
+// its package exists. If its folder is no longer the installed application, another upgrade has
+// begun, and it appends nothing.
 std::string ClientLookingFor(const std::string& last) {
     return "#!/bin/sh\ncd \"${0%/Contents/*}\" || exit\n[ -e '" + last +
            "' ] && found=whole || found=half\n"
@@ -192,7 +193,7 @@ void Installation::install(const std::string& number) {
 void Installation::install(const std::string& number, Shape shape) {
     std::vector<Entry> entries = PackageEntries(number, shape);
     if (shape == Shape::Modes) {
-        entries.push_back({"Contents/closed/file"});  // by the client; no package can have it
+        entries.push_back({"Contents/closed/file"});  // the client's; no package can create it
     }
     Unpack(entries, app());
 }
@@ -224,7 +225,7 @@ pid_t Installation::start(void (*before_exec)()) {
     std::vector<std::string> name = {started_as_.empty() ? program : started_as_};
     std::vector<std::string> variables;
     for (const auto& [variable, value] : environment) {
-        // which doesn't work in a traced process
+        // The leak check doesn't work in a traced process.
         const bool without_leaks = variable == "ASAN_OPTIONS" && before_exec != nullptr;
         variables.push_back(variable + "=" + value + (without_leaks ? ":detect_leaks=0" : ""));
     }

@@ -9,41 +9,40 @@
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
-// A running client: a process that executes a command, of which the constructor awaits the first
-// line. It is waited for in the background, so that it vanishes when it ends, as it would on a
-// user's machine.
+// A running client: a process that executes a command. The constructor waits for its first output.
+// A thread waits for the process to end, so that it never becomes a zombie.
 class Client {
   public:
-    // What the stand-in for the client takes as its argument.
+    // Arguments of the substitute for the client, client.cpp.
     static constexpr char kEndsAtOnce[] = "ends at once";
     static constexpr char kEndsAfterTwoSeconds[] = "ends after two seconds";
     static constexpr char kIgnoresSigterm[] = "ignores SIGTERM";
 
-    // It may write its process id to a file.
+    // Writes the process id to pid_file unless that is empty.
     explicit Client(std::vector<std::string> command, const std::string& pid_file = "");
     ~Client();
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
-    static void copyTo(const std::string& path);  // the stand-in's executable
+    static void copyTo(const std::string& path);  // copies the substitute's executable
 
     pid_t pid() const { return pid_; }
     bool running() const;
-    int wait();  // how it ended: its exit code, or 1000 plus the signal
+    int wait();  // returns the exit code, or 1000 plus the signal
 
   private:
     pid_t pid_;
     std::shared_future<int> end_;
 };
 
-// What a package holds besides a client, which is its last entry, and a few files: Modes has
-// folders that can't be written, and after the client one that can't be entered either; Links has
-// links to a folder, to nothing, and out of the application; Many has 3,000 files. Single has the
-// client alone, NoClient all but that, and ClientFirst begins with it.
+// The content of a package. Plain has a few files, and the client as its last entry. Modes also has
+// read-only folders and, after the client, a folder with the mode 0; Links has links to a folder,
+// to nothing, and out of the application; Many has 3,000 more files. Single has only the client,
+// NoClient has no client, and in ClientFirst the client is the first file.
 enum class Shape { Plain, Modes, Links, Single, Many, ClientFirst, NoClient };
 
-// A launcher's bundle and a home folder, both on a disk of their own, and what a test does with
-// them through the real executable.
+// A launcher's bundle and a home folder, both in a temporary folder, in which tests run the real
+// launcher.
 class Installation {
   public:
     explicit Installation(const std::string& bundle_folder = ".", const std::string& home = "home");
@@ -53,22 +52,22 @@ class Installation {
     std::string app(const std::string& name = "") const;   // below the per-user application
     std::string bundle(const std::string& name) const;     // below the launcher's bundle
     std::string package() const;
-    std::string client() const;  // the installed one's executable
+    std::string client() const;  // the path of the installed client
 
-    // Gives the bundle this build number and a package of a client with it.
+    // Sets the build number of the bundle and creates a package of that build in it.
     void setBuild(const std::string& number, const std::string& format = "zip",
                   Shape shape = Shape::Plain);
-    // Puts an application of this build in place, as an earlier run would have.
+    // Installs an application of this build, as an earlier run would have done.
     void install(const std::string& number);
-    void install(const std::string& number, Shape shape);  // of such a package
-    // Starts the installed client, which the pid file names from now on.
+    void install(const std::string& number, Shape shape);  // with the content of such a package
+    // Starts the installed client and writes its pid file.
     Client startClient(const char* behaviour = Client::kEndsAtOnce) const;
-    void logEverything() const;  // otherwise errors and warnings only
+    void logEverything() const;  // the default is errors and warnings
 
-    // Of the launcher: that of a user who has set nothing but what a test adds.
+    // The environment variables of the launcher; tests may change them.
     std::map<std::string, std::string> environment;
-    void runAsNobody();  // from now on, when we are root
-    // Starts the launcher by this name of its executable instead of its path.
+    void runAsNobody();  // all later runs; does nothing unless the test runs as root
+    // Sets argv[0] of the launcher, which is otherwise its path.
     void startAs(const std::string& name) { started_as_ = name; }
 
     struct Result {
@@ -77,13 +76,13 @@ class Installation {
         std::string out;
         std::string err;
     };
-    // Runs the launcher to its end and checks what holds for every run: the exit code is 0.
+    // Runs the launcher, waits for its end, and expects the exit code 0.
     Result run();
-    // Starts it and returns at once; the new process calls before_exec first.
+    // Starts the launcher and returns at once. The new process calls before_exec before exec().
     pid_t start(void (*before_exec)() = nullptr);
     static int wait(pid_t pid);
 
-    bool clientStarted();  // since the last call; waits for it
+    bool clientStarted();  // since the last call; waits up to a minute
     static FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
                                 bool folder_modes = false);
 
@@ -97,13 +96,13 @@ class Installation {
 
 bool Logged(const Installation::Result& result, const std::string& fragment);
 
-// A test of such runs.
+// The base of tests that run the launcher.
 class InstallationTest : public testing::Test, protected Installation {
   protected:
-    // Begins anew, with an application of this build as an earlier run would have left it.
+    // Removes ~/.Tarnwell and installs an application of this build.
     void startFrom(const std::string& number);
     void expectBuild(const std::string& number) const;
-    // Nothing but the log and the application is left of a run.
+    // Expects that ~/.Tarnwell contains only the log folder and the application.
     void expectNoLeftovers() const;
 };
 

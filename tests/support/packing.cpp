@@ -38,7 +38,7 @@ Packing::Result Packing::shell(const std::string& command) const {
         "sleep 0.01; done; }; nobody() { if [ $(id -u) != 0 ]; then \"$@\"; else setpriv "
         "--reuid 65534 --regid 65534 --clear-groups \"$@\"; fi; }; { " +
         command + "; } >'" + (folder_ / "stdout") + "' 2>'" + (folder_ / "stderr") + "'";
-    // NOLINTNEXTLINE(cert-env33-c): the tool is called as its users call it
+    // NOLINTNEXTLINE(cert-env33-c): runs the tool as its users run it
     const int status = std::system(line.c_str());
     return {WEXITSTATUS(status), ReadFile(folder_ / "stdout"), ReadFile(folder_ / "stderr")};
 }
@@ -47,6 +47,6 @@ void Packing::expectRefusal(const Result& result, const std::string& beginning) 
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(result.err.rfind("make-package: " + beginning, 0), 0u)
-        << result.err << "instead of " << beginning;
+        << result.err << "expected: make-package: " << beginning;
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
 }

@@ -6,13 +6,12 @@
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
-// An application folder that can be packed, and a shell in it in which the packaging tool is run as
-// its users run it.
+// An application folder without faults, and a shell in it that runs the packaging tool.
 class Packing : public testing::Test {
   protected:
     Packing();
 
-    // Makes the application; backwards, in another order.
+    // Creates the application; backwards, with its files in reverse order.
     static void makeApp(const std::string& app, bool backwards = false);
 
     struct Result {
@@ -20,14 +19,15 @@ class Packing : public testing::Test {
         std::string out;
         std::string err;
     };
-    // What a shell in the application folder makes of a command. $MAKE is the tool, $OUT the
-    // package's path, and C, I, P and R are places in the application; begun waits until a package
-    // is being written; nobody COMMAND... runs it as a user who isn't root.
+    // Runs a command in a shell in the application folder. $MAKE is the tool and $OUT the package's
+    // path; in the application, $C is the client, $I the version file, $P the Info.plist and $R the
+    // folder Resources. The function begun waits until a package is being written; nobody
+    // COMMAND... runs the command as a user other than root.
     Result shell(const std::string& command) const;
     Result pack() const { return shell("$MAKE . $OUT"); }
     Result check() const { return shell("$MAKE --check $OUT"); }
 
-    // With exit status 1, in one line that begins like this.
+    // Expects exit status 1 and one line on standard error, "make-package: " and then `beginning`.
     static void expectRefusal(const Result& result, const std::string& beginning);
 
     const Folder folder_;

@@ -35,8 +35,8 @@ std::string Octal(mode_t mode) {
 
 Folder::Folder(const std::string& parent)
     : path_(fs::canonical(parent).string() + "/tarnwell-test-XXXXXX") {
-    Check(mkdtemp(path_.data()) != nullptr, "can't make a folder in " + parent);
-    Check(chmod(path_.c_str(), 0755) == 0, "can't open " + path_);
+    Check(mkdtemp(path_.data()) != nullptr, "can't create a folder in " + parent);
+    Check(chmod(path_.c_str(), 0755) == 0, "can't set the mode of " + path_);
 }
 
 Folder::~Folder() {
@@ -64,7 +64,7 @@ void MakeDeepTree(const std::string& path, int depth, mode_t mode) {
     MakeFolder(path);
     int fd = open(path.c_str(), O_RDONLY | O_DIRECTORY);
     for (int level = 0; level < depth; ++level) {
-        Check(mkdirat(fd, "d", 0755) == 0, "can't make a folder in " + path);
+        Check(mkdirat(fd, "d", 0755) == 0, "can't create a folder in " + path);
         const int next = openat(fd, "d", O_RDONLY | O_DIRECTORY);
         fchmod(fd, mode);
         close(fd);
@@ -76,7 +76,7 @@ void MakeDeepTree(const std::string& path, int depth, mode_t mode) {
 
 void CopyTree(const std::string& from, const std::string& to) {
     const std::string command = "cp -a '" + from + "' '" + to + "'";
-    // NOLINTNEXTLINE(cert-env33-c): a standard tool, on paths of tests
+    // NOLINTNEXTLINE(cert-env33-c): a standard tool, with paths that tests choose
     Check(std::system(command.c_str()) == 0, "can't copy " + from);
 }
 
@@ -144,9 +144,9 @@ FileTree Tree(const std::string& path, bool folder_modes) {
 AsNobody::AsNobody() : active_(getuid() == 0) {
     const uid_t nobody = 65534;
     const auto unchanged = static_cast<uid_t>(-1);
-    // In two steps the saved user id stays root's, also where there is no setresuid().
+    // These two calls keep root as the saved user id; not every system has setresuid().
     Check(!active_ || (setreuid(nobody, unchanged) == 0 && seteuid(nobody) == 0),
-          "can't become another user");
+          "can't switch to another user");
 }
 
 AsNobody::~AsNobody() {

@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
-// A small vocabulary for tests on real files. What can't be arranged throws, which fails the test
-// with the reason.
+// Helpers for tests on real files. Those that create something throw when they fail, which fails
+// the test with the reason. Check throws std::runtime_error(failure) unless arranged is true.
 void Check(bool arranged, const std::string& failure);
 
-// A folder of one's own, removed with all it holds at the end. It can be entered by every user.
+// A new folder with the mode 0755. The destructor removes it with its content.
 class Folder {
   public:
     explicit Folder(const std::string& parent = "/tmp");
@@ -29,32 +29,34 @@ class Folder {
     std::string path_;
 };
 
-// These make the folders above as well.
+// These also create missing parent folders.
 void MakeFolder(const std::string& path);
 void MakeFile(const std::string& path, const std::string& content = "", mode_t mode = 0644);
 void MakeLink(const std::string& target, const std::string& path);
-// Makes a chain of folders named "d", longer than a path may be, with a file at its end. All but
-// the last one have this mode.
+// Creates a folder and in it a chain of folders named "d", which may be longer than a path can be,
+// with a file in the last one. All but the last one get this mode.
 void MakeDeepTree(const std::string& path, int depth, mode_t mode = 0755);
 
 // Copies a folder, a file or a link with its mode, times and owner.
 void CopyTree(const std::string& from, const std::string& to);
-// Removes what is there, also from folders that may not be read or changed.
+// Removes an object with its content, even if folders in it deny their owner access.
 void RemoveTree(const std::string& path);
 
-std::string ReadFile(const std::string& path);  // empty when there is no regular one
-bool Exists(const std::string& path);           // a dangling link does
-std::string Noise(std::size_t size);            // bytes that can't be compressed, always the same
+std::string ReadFile(const std::string& path);  // empty if there is no regular file
+bool Exists(const std::string& path);           // also true for a dangling link
+std::string Noise(std::size_t size);            // incompressible, the same in each run
 
-// A folder's content by relative path: "folder", "file 0644: content" or "link: target". Content
-// that is too long to be read is told by its size and hash. With folder_modes also the modes of the
-// folders in it ("folder 0755"), and of itself, whose path is empty.
+// Describes each object in a folder, by relative path: "folder", "file 0644: content" or
+// "link: target". Content of more than 60 bytes is replaced by its size and hash. With
+// folder_modes, folders are described with their modes ("folder 0755"), and the folder itself has
+// an empty path.
 using FileTree = std::map<std::string, std::string>;
 FileTree Tree(const std::string& path, bool folder_modes = false);
 std::string DescribeFolder(mode_t mode);
 std::string DescribeFile(mode_t mode, const std::string& content);
 
-// Makes this process a user who isn't root, for what root may always do.
+// Runs this process as a user other than root, because root bypasses permissions. Does nothing if
+// it isn't root.
 class AsNobody {
   public:
     AsNobody();
@@ -66,7 +68,7 @@ class AsNobody {
     bool active_;
 };
 
-// Lets this process have no more than this number of descriptors.
+// Limits the number of descriptors that this process can have open.
 class FewDescriptors {
   public:
     explicit FewDescriptors(rlim_t limit = 100);
@@ -78,14 +80,14 @@ class FewDescriptors {
     rlimit saved_;
 };
 
-// Waits until the condition holds; false after a minute.
+// Waits until the condition is true. Returns false after a minute.
 bool WaitFor(const std::function<bool()>& condition);
 
-// The lines of a text that hold a fragment.
+// The lines of a text that contain the fragment, and whether there is exactly one.
 std::vector<std::string> LinesWith(const std::string& text, const std::string& fragment);
 bool HasOneLine(const std::string& text, const std::string& fragment);
 
-// What the code under test writes to standard error.
+// Runs the code and returns what it writes to standard error.
 std::string CaptureStderr(const std::function<void()>& code);
 
 #endif

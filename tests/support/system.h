@@ -5,47 +5,48 @@
 
 #include <string>
 
-// What tests need of the operating system, in its own way on each. What one doesn't have makes the
-// tests skip that need it.
+// What tests need from the operating system, implemented for each system. A test is skipped on
+// systems that don't have what it needs.
 
-// When the object was changed last, its name and permissions included.
+// The time when the object's content, name or permissions were last changed (ctime).
 timespec ChangeTime(const struct stat& status);
 
-// A regular file whose beginning can't be read; empty where there is none.
+// The path of a regular file whose beginning can't be read; empty if the system has none.
 std::string UnreadableFile();
 
-// Whether the environment names the system's locale.
+// Whether the system takes the locale from environment variables.
 bool HasLocaleInEnvironment();
 
-// A folder on another volume than /tmp that every user can write to; empty where there is none.
+// The path of a folder that is on another volume than /tmp and that every user can write to; empty
+// if the system has none.
 std::string AnotherVolume();
 
-// A volume that a test has mounted on a folder, where this process and its children alone see it.
+// A volume that a test mounts on a folder. Only this process and its children see it.
 class Volume {
   public:
     ~Volume();
     Volume(const Volume&) = delete;
     Volume& operator=(const Volume&) = delete;
 
-    // Not every system has such volumes, and not every user may mount one.
+    // False if the system has no such volume or this user may not mount it.
     bool mounted() const { return mounted_; }
 
   protected:
-    explicit Volume(const std::string& path);  // which it makes
+    explicit Volume(const std::string& path);  // creates the folder
 
     const std::string path_;
     bool mounted_ = false;
 };
 
-// A small disk in memory.
+// A file system in memory. size is its capacity, for example "64k".
 class SmallDisk : public Volume {
   public:
     SmallDisk(const std::string& path, const char* size);
 };
 
-// A volume that ignores letter case. exFAT keeps names as they are given, but knows no links and no
-// permissions; NTFS, as it is mounted here, lists them in lower case. On a Mac every volume does
-// that knows no other way.
+// A case-insensitive volume. exFAT lists names as they were created, but has no links or
+// permissions; NTFS, as it is mounted here, lists names in lower case. On a Mac nothing is mounted:
+// the folder's own volume is used if it is case-insensitive.
 class CaseIgnoringVolume : public Volume {
   public:
     enum Kind { ExFat, Ntfs };

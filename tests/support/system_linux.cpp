@@ -9,14 +9,14 @@
 
 namespace {
 
-// The mounts of this process become its own.
+// Gives this process a private mount namespace.
 bool LeaveMountNamespace() {
     return unshare(CLONE_NEWNS) == 0 &&
            mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-// Mounts a new volume of the kind $2 on the folder $1. The image and the loop device last as long
-// as they are mounted.
+// Creates a volume of the kind $2 and mounts it on the folder $1. The image file is deleted and the
+// loop device detached at once; both exist until the volume is unmounted.
 const char kMount[] = R"(
     exec >/dev/null 2>&1
     PATH=$PATH:/usr/sbin:/sbin

@@ -24,11 +24,11 @@ namespace {
 
 using Entry = decltype(__ptrace_syscall_info::seccomp);
 
-const unsigned kSeconds = 240;  // which no run takes, not even one that waits for another
+const unsigned kSeconds = 240;  // longer than any run, even one that waits for another
 
 enum Kind { Looks, Opens, Changing, Syncs };
 
-// A system call, and which of its arguments are the descriptor of a folder or file and the path.
+// A system call, with the positions of its descriptor and its path among the arguments.
 struct Call {
     const char* name;
     long number;
@@ -41,7 +41,7 @@ const int kNo = -1;
 #define CALL(name, ...) \
     { #name, SYS_##name, __VA_ARGS__ }
 const Call kCalls[] = {
-    // by path
+    // with a path
     CALL(open, Opens, kNo, 0), CALL(creat, Changing, kNo, 0), CALL(stat, Looks, kNo, 0),
     CALL(lstat, Looks, kNo, 0), CALL(access, Looks, kNo, 0), CALL(readlink, Looks, kNo, 0),
     CALL(statfs, Looks, kNo, 0), CALL(chdir, Looks, kNo, 0), CALL(mkdir, Changing, kNo, 0),
@@ -49,14 +49,14 @@ const Call kCalls[] = {
     CALL(link, Changing, kNo, 0), CALL(symlink, Changing, kNo, 1), CALL(mknod, Changing, kNo, 0),
     CALL(truncate, Changing, kNo, 0), CALL(chmod, Changing, kNo, 0), CALL(chown, Changing, kNo, 0),
     CALL(lchown, Changing, kNo, 0), CALL(utimensat, Changing, 0, 1),
-    // by a folder and a path
+    // with a folder's descriptor and a path
     CALL(openat, Opens, 0, 1), CALL(openat2, Looks, 0, 1), CALL(newfstatat, Looks, 0, 1),
     CALL(statx, Looks, 0, 1), CALL(faccessat, Looks, 0, 1), CALL(faccessat2, Looks, 0, 1),
     CALL(readlinkat, Looks, 0, 1), CALL(mkdirat, Changing, 0, 1), CALL(unlinkat, Changing, 0, 1),
     CALL(renameat, Changing, 0, 1), CALL(renameat2, Changing, 0, 1), CALL(linkat, Changing, 0, 1),
     CALL(symlinkat, Changing, 1, 2), CALL(mknodat, Changing, 0, 1), CALL(fchmodat, Changing, 0, 1),
     CALL(fchownat, Changing, 0, 1),
-    // by a descriptor
+    // with a descriptor
     CALL(fstat, Looks, 0, kNo), CALL(fstatfs, Looks, 0, kNo), CALL(getdents64, Looks, 0, kNo),
     CALL(read, Looks, 0, kNo), CALL(pread64, Looks, 0, kNo), CALL(readv, Looks, 0, kNo),
     CALL(preadv, Looks, 0, kNo), CALL(flock, Looks, 0, kNo), CALL(fchdir, Looks, 0, kNo),
@@ -80,7 +80,7 @@ std::vector<sock_filter> Filter() {
     program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
     return program;
 }
-const std::vector<sock_filter> kFilter = Filter();  // made before the child is
+const std::vector<sock_filter> kFilter = Filter();  // built before the fork
 
 bool IsBelow(const std::string& path, const std::string& folder) {
     return path.compare(0, folder.size(), folder) == 0 &&
@@ -132,7 +132,7 @@ class Tracer {
         if (event == PTRACE_EVENT_SECCOMP) {
             handleCall(task);
         }
-        // Every new task begins with a SIGSTOP.
+        // Every new task starts with a SIGSTOP, which isn't passed on.
         const int signal = event != 0 || WSTOPSIG(status) == SIGSTOP ? 0 : WSTOPSIG(status);
         ptrace(PTRACE_CONT, task, nullptr, signal);
     }

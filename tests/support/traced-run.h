@@ -8,42 +8,43 @@
 #include <string>
 #include <vector>
 
-// Follows a process through those of its system calls that name or use a file, all threads
-// together, counts them, and makes something happen at one of them. Nothing happens to other
-// processes, but all children of the caller are waited for.
+// Traces a process, counts the system calls on files of all its threads, and causes a fault at one
+// of them. Its child processes run undisturbed, but all children of the caller are waited for.
 struct TracedRun {
-    // Only calls that change files count: creating, writing, renaming, removing, syncing, changing
-    // rights. Otherwise also those that look at files or read them.
+    // Whether only calls that change files are counted: creating, writing, renaming, removing,
+    // syncing, changing permissions. Otherwise calls that only read are counted too.
     bool changes_only = true;
-    // Only calls on what is at or below these paths count; without any, on every file.
+    // Only calls on objects at or below these paths are counted; without any path, calls on every
+    // file.
     std::vector<std::string> within;
-    // Counting begins with the first call on what is at or below this path.
+    // Counting starts with the first call on an object at or below this path; if it is empty, with
+    // the first call.
     std::string since;
 
-    // The call, from 1, at which something happens; 0: never. Either this is called, and the call
-    // is carried out; or the call isn't carried out: it fails with this error, or the process is
-    // killed.
+    // The number of the call, from 1, at which the fault happens; 0: never. If interfere is set, it
+    // is called first and the call is then carried out. Otherwise the call is not carried out: it
+    // fails with error or, if error is 0, the process is killed.
     int fault_at = 0;
     std::function<void(pid_t)> interfere;
     int error = 0;
-    // The calls after it fail as well. A call that EINTR has ended is carried out when it is
-    // repeated: no signal comes for ever.
+    // The calls after it fail as well. With EINTR, a thread's next call after a failed one is
+    // carried out, so that a program that repeats the call doesn't do so for ever.
     bool lasting = false;
 
-    // Called before each call that puts something on the disk: the path, empty for the volume.
+    // Called before each counted call that syncs, with the path; empty if it syncs the volume.
     std::function<void(const std::string&)> on_sync;
 
-    int calls = 0;       // so far
-    std::string struck;  // the call at which it happened, and its path
+    int calls = 0;       // counted so far
+    std::string struck;  // the call at which the fault happened, and its path
     bool struck_a_change = false;
     std::map<pid_t, int> ends;  // of all children: the exit code, or 1000 plus the signal
-    int end = -1;               // of the process
+    int end = -1;               // the same of the process
 
-    // Follows one that called BeTraced(). After four minutes it is killed.
+    // Traces a child that called BeTraced(). Kills it after four minutes.
     void follow(pid_t pid);
 };
 
-// For the child, before it becomes the program that is to be followed.
+// The child calls this before the code or the program that is to be traced.
 void BeTraced();
 
 #endif

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const int kMostShown = 5;  // of a row's failures
+const int kMostShown = 5;  // failures reported for each row
 
 bool IsTree(const std::string& path, const FileTree& tree) {
     return fs::is_directory(fs::symlink_status(path)) && Tree(path, true) == tree;
@@ -32,8 +32,8 @@ std::string Scene::name() const {
 
 UpgradeTrial::UpgradeTrial(const Scene& of, bool run_as_user, bool on_small_disk)
     : scene(of), as_user(run_as_user) {
-    prctl(PR_SET_CHILD_SUBREAPER, 1);  // to wait for the clients that the launcher leaves
-    if (geteuid() == 0) {  // a disk in memory, which is put on no disk by whoever syncs it
+    prctl(PR_SET_CHILD_SUBREAPER, 1);  // the clients become our children
+    if (geteuid() == 0) {              // in memory, where a sync takes no time
         disk_ = std::make_unique<SmallDisk>(in.home(), on_small_disk ? "1m" : "64m");
     }
     possible_ = (disk_ != nullptr && disk_->mounted()) ||
@@ -104,7 +104,7 @@ TracedRun UpgradeTrial::follow(TracedRun run) {
 
 int UpgradeTrial::runUndisturbed() {
     const int end = Installation::wait(in.start());
-    while (waitpid(-1, nullptr, 0) > 0) {  // what it has left
+    while (waitpid(-1, nullptr, 0) > 0) {  // waits for its orphans
     }
     return end;
 }
@@ -128,7 +128,7 @@ bool UpgradeTrial::isWhole(const FileTree& app) const {
     if (there.count("Tarnwell.app") == 0 || there.count("Tarnwell.app_part") == 0) {
         return false;
     }
-    FileTree parts = Tree(in.user("Tarnwell.app_part"));  // modes of folders come at the end
+    FileTree parts = Tree(in.user("Tarnwell.app_part"));  // a move sets folder modes last
     parts.merge(Tree(in.app()));
     return std::all_of(app.begin(), app.end(), [&](const auto& entry) {
         const auto part = parts.find(entry.first);
@@ -147,28 +147,29 @@ void UpgradeTrial::check(bool good, const std::string& what) {
 
 void UpgradeTrial::checkInPlace() {
     check(!scene.has_old || IsTree(in.app(), old_app) || IsTree(in.app(), new_app),
-          "nothing whole in its place");
+          "no complete application is installed");
 }
 
 void UpgradeTrial::checkEnd(bool is_new) {
-    check(IsTree(in.app(), is_new ? new_app : old_app), "the wrong application at the end");
+    check(IsTree(in.app(), is_new ? new_app : old_app), "the wrong application is installed");
     for (const std::string& name : names()) {
         const bool was_there = !is_new && old_names_.count(name) != 0;
         const bool in_doubt = may_doubt && !is_new && name == "upgrade.journal";
         check(was_there || in_doubt || name == "log" || name == "Tarnwell.app",
               name + " is left at the end");
     }
-    check(Tree(sentinel_).size() == 1, "something outside was touched");
+    check(Tree(sentinel_).size() == 1, "a file outside of ~/.Tarnwell was changed");
     check(ReadFile(in.home() + "/started").find("half") == std::string::npos,
-          "half an application was started");
+          "an incomplete application was started");
 }
 
 void UpgradeTrial::recover() {
-    check(!scene.has_old || isWhole(old_app) || isWhole(new_app), "nothing whole is left");
+    check(!scene.has_old || isWhole(old_app) || isWhole(new_app),
+          "no complete application is left");
     const bool is_new = scene.damage == Scene::Whole || !scene.has_old;
     if (scene.damage != Scene::Whole && is_new) {
         setPackage(101);
     }
-    check(runUndisturbed() == 0, "exit code of the next run");
+    check(runUndisturbed() == 0, "the next run's exit code isn't 0");
     checkEnd(is_new);
 }

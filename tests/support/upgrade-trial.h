@@ -9,12 +9,12 @@
 #include "tests/support/system.h"
 #include "tests/support/traced-run.h"
 
-// What an upgrade begins with.
+// The state in which an upgrade starts.
 struct Scene {
-    // The package is whole, was cut off after the client or before it, or has no client.
+    // The package is whole, truncated after the client or before it, or has no client.
     enum Damage { Whole, CutAfter, CutBefore, Lacking };
-    // Besides the old application there is nothing, or a folder in the first backup's place. Or
-    // both are the lower layer of an overlay, so that no folder of the application can be renamed.
+    // Besides the old application there is nothing, or a folder with the name of the first backup.
+    // OnOverlay: both are in the lower layer of an overlay, where no folder can be renamed.
     enum Around { Nothing, Leftover, OnOverlay };
 
     int level;  // the lower it is, the more kinds of faults are tried
@@ -27,30 +27,30 @@ struct Scene {
     std::string name() const;
 };
 
-// An upgrade that something happens to. It is judged by what is on the disk and by the next run.
+// An upgrade with a fault. The checks look at the files that it leaves and at the next run.
 class UpgradeTrial {
   public:
-    // The launcher runs as an ordinary user, or as whoever runs the test. A small disk has room for
-    // little more than the upgrade.
+    // The launcher runs as an ordinary user, or as the user who runs the test. A small disk has
+    // little more space than the upgrade needs.
     UpgradeTrial(const Scene& scene, bool as_user, bool on_small_disk);
     ~UpgradeTrial();
 
-    bool possible() const { return possible_; }  // for whoever runs the test
+    bool possible() const { return possible_; }  // for the user who runs the test
     void arrange();
     void setPackage(int build, Scene::Damage damage = Scene::Whole);
 
     TracedRun follow(TracedRun run);
     int runUndisturbed();  // returns the exit code, or 1000 plus the signal
 
-    // Whether an application is there: in its place, aside, or in two parts.
+    // Whether this application exists completely: installed, as a backup, or in two parts.
     bool isWhole(const FileTree& app) const;
     void check(bool good, const std::string& what);
-    // Checks that the old or the new application is in its place, unless there was none.
+    // Checks that the old or the new application is installed, unless there was no old one.
     void checkInPlace();
-    // Checks that the right application is in its place and that nothing else is left.
+    // Checks that the right application is installed and that there are no leftovers.
     void checkEnd(bool is_new);
-    // Checks that nothing is lost and that the next run ends well. After a first installation from
-    // a damaged package that run has a whole one.
+    // Checks that nothing is lost and that the next run succeeds. After a first installation from a
+    // damaged package, the next run gets a whole one.
     void recover();
 
     const Scene scene;
@@ -58,10 +58,10 @@ class UpgradeTrial {
     Installation in;
     FileTree old_app;
     FileTree new_app;
-    std::string doing;        // for messages
-    bool has_failed = false;  // a check, since arrange()
-    // After a copy, an old application that can't be recognised keeps its record until a package
-    // has replaced it.
+    std::string doing;        // a description of the case, for messages
+    bool has_failed = false;  // whether a check has failed since arrange()
+    // After ~/.Tarnwell was copied, the launcher can't recognise the old application by its inode
+    // and keeps the record until a package has replaced the application.
     bool may_doubt = false;
 
   private:

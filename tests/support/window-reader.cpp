@@ -1,5 +1,5 @@
-// A plug-in for Qt programs under test: writes the title and the label of a progress dialog, as
-// they are when its window is shown, to the file that the environment names.
+// A Qt plug-in for programs under test. When a progress dialog is shown, it writes the dialog's
+// title and label to the file that WINDOW_READER_FILE names.
 
 #include <QCoreApplication>
 #include <QEvent>
