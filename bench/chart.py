@@ -1,4 +1,4 @@
-"""The charts of the document, as SVG."""
+"""Draws the charts of the document as SVG."""
 
 import html
 import math
@@ -31,7 +31,7 @@ def document(height, title, shapes):
 
 
 def ratio_bar(result, y, at):
-    """A bar, its quartiles as a thin line, the limit as a mark."""
+    """A bar for the median, a thin line for the quartiles and a mark for the limit."""
     low, middle, high = measure.quartiles(result.ratios)
     limit = at(result.row.limit)
     return [
@@ -65,14 +65,14 @@ def ratios(results):
 
 
 def grid(highest):
-    """Round values from 0 to the first that is above the highest."""
+    """Round values from 0 to the first one above the highest."""
     power = 10 ** math.floor(math.log10(highest / 3))
     step = next(factor * power for factor in (1, 2, 5, 10) if factor * power * 4 > highest)
     return [step * i for i in range(math.floor(highest / step) + 2)]
 
 
 def panel(results, x, title):
-    """Lines of the medians over the sizes, which rise by powers."""
+    """A line for each result: its medians by size, on a logarithmic axis."""
     sizes, unit = results[0].table.sizes, results[0].series.unit
     width, top, bottom = WIDTH / 2 - 100, 70, 300
     values = grid(max(max(result.medians) for result in results))

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Measures the launcher beside its peers. See scripts/bench, which builds what this runs."""
+"""Compares the launcher with its peers. Run scripts/bench, which builds the programs first."""
 
 import argparse
 import contextlib
@@ -45,7 +45,7 @@ def run_table(bench, table, rounds):
 
 
 def run_all(options, store):
-    """Rows, growth and depth; with --only some of them, which leaves the document as it is."""
+    """Measures rows, growth and depth. With --only, leaves the document unchanged."""
     chosen = options.only or NAMES
     with prepared(options, store, "ext4") as bench:
         machine = f"Measured on: {report.machine(bench.folder)}.\n"
@@ -86,8 +86,8 @@ def main():
     unknown = set(options.only or []) - set(NAMES)
     if unknown or (options.disks and (options.only or options.dir)):
         parser.error(f"no part is named {', '.join(unknown)}" if unknown
-                     else "--disks goes with neither --only nor --dir")
-    # When it is terminated, it still unmounts and ends what it has set up.
+                     else "--disks can't be combined with --only or --dir")
+    # On SIGTERM, leave the contexts, which unmount file systems and stop servers.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     with tempfile.TemporaryDirectory(dir="build") as store:
         run = run_disks if options.disks else run_all

@@ -1,4 +1,4 @@
-"""File systems to work on."""
+"""Creates the file systems that the benchmarks use."""
 
 import contextlib
 import os
@@ -6,7 +6,7 @@ import pathlib
 import subprocess
 import tempfile
 
-SIZE = 6 << 30  # bytes at the most; only what is used takes room
+SIZE = 6 << 30  # bytes; only what is used occupies space
 MAKERS = {"ext4": ["mkfs.ext4", "-q"], "btrfs": ["mkfs.btrfs", "-q"], "xfs": ["mkfs.xfs", "-q"]}
 ALL = (*MAKERS, "tmpfs")
 
@@ -25,15 +25,16 @@ def mount(kind, root):
     subprocess.run(["mount", "-o", "loop", image, disk], check=True)
     device = subprocess.run(["findmnt", "-no", "SOURCE", disk], check=True, capture_output=True,
                             text=True).stdout.strip()
-    # What goes to the file goes past the machine's cache, as it would to a disk.
+    # Bypass the page cache for the image file, as if the file were a disk.
     subprocess.run(["losetup", "--direct-io=on", device], check=True)
     return disk
 
 
 @contextlib.contextmanager
 def own_disk(kind, folder):
-    """A folder to work in: below the given one, or, for root, on a new file system in a file below
-    build/, so that neither age nor mount options of the machine's own count."""
+    """Yields a folder to work in: in the given one or, without that, below build/. For root, the
+    latter is a new file system, so that the age and the mount options of the machine's own file
+    system don't influence the results."""
     with tempfile.TemporaryDirectory(dir=folder or pathlib.Path.cwd() / "build") as made:
         root = pathlib.Path(made)
         if folder or os.geteuid() != 0:

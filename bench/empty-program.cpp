@@ -1,8 +1,8 @@
-// The least that a Qt program does that builds a progress dialog: what the launcher's start and its
-// memory are measured against.
+// A minimal Qt program that builds a progress dialog. The launcher's start and memory are compared
+// with it.
 //
-//     bench-empty-program CLIENT  starts CLIENT and ends
-//     bench-empty-program         shows the dialog and ends when it is painted
+//     bench-empty-program CLIENT  starts CLIENT and exits
+//     bench-empty-program         shows the dialog and exits when it is painted
 
 #include <spawn.h>
 #include <unistd.h>

@@ -1,5 +1,5 @@
-// Runs one operation on files and prints how long it took, in seconds. The time that the process
-// needs to start is not part of it.
+// Runs one operation on files and prints how many seconds it took, not counting the start of the
+// process.
 
 #include <QString>
 #include <chrono>

@@ -1,5 +1,5 @@
-// Prints when something is first drawn into a window that is new on the display, in seconds of the
-// steady clock. Prints "ready" first, as soon as it watches.
+// Prints the time, in seconds of the steady clock, of the first drawing on the display after a new
+// window has appeared. Prints "ready" before that, once it watches the display.
 
 #include <xcb/damage.h>
 #include <xcb/xcb.h>
@@ -22,7 +22,8 @@ struct Disconnect {
 };
 using Display = std::unique_ptr<xcb_connection_t, Disconnect>;
 
-// Whatever is drawn on the screen, and each window that comes up, becomes an event from now on.
+// Requests an event for everything that is drawn on the screen and for each window that appears.
+// Returns false if the display can't report them.
 bool Watch(xcb_connection_t* display) {
     const xcb_query_extension_reply_t* const extension =
         xcb_get_extension_data(display, &xcb_damage_id);
@@ -36,7 +37,8 @@ bool Watch(xcb_connection_t* display) {
     xcb_change_window_attributes(display, root, XCB_CW_EVENT_MASK, &mask);
     xcb_damage_create(display, xcb_generate_id(display), root,
                       XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
-    // The answer to any question comes after what is on the screen now has been reported.
+    // The server replies in order, so this reply follows the events for what is on the screen now.
+    // They don't count.
     const Owned<xcb_get_input_focus_reply_t> answer(
         xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr));
     while (const Owned<xcb_generic_event_t> past{xcb_poll_for_event(display)}) {
@@ -49,7 +51,7 @@ bool WaitForFrame(xcb_connection_t* display) {
         xcb_get_extension_data(display, &xcb_damage_id)->first_event + XCB_DAMAGE_NOTIFY;
     bool mapped = false;
     while (const Owned<xcb_generic_event_t> event{xcb_wait_for_event(display)}) {
-        const uint8_t type = event->response_type & 0x7F;  // without who has sent it
+        const uint8_t type = event->response_type & 0x7F;  // without the flag for sent events
         mapped = mapped || type == XCB_MAP_NOTIFY;
         if (mapped && type == drawn) {
             return true;

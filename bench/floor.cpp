@@ -1,8 +1,8 @@
-// The least that an upgrade can take on this file system: prints the seconds for decompressing a
-// package to memory (a compressed tar twice, since its entries must be counted before the first one
-// is unpacked), moving the old application aside, writing the package's files from memory, one
-// syncfs and removing the old application. Starting a program, finding the entries in what was
-// decompressed and making folders safe aren't part of it.
+// Prints how many seconds the part of an upgrade takes that no launcher can leave out: decompress a
+// package to memory (a compressed tar twice, because its entries must be counted before the first
+// is unpacked), move the old application aside, write the package's files from memory, call syncfs
+// and remove the old application. Starting a program and finding the entries in the decompressed
+// data aren't included.
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -71,7 +71,7 @@ std::vector<File> ReadFiles(const std::string& package, bool& compressed_tar) {
     return files;
 }
 
-// Decompresses a package, to memory if there is some. Returns the size.
+// Decompresses a package, to memory unless that is null. Returns the decompressed size.
 std::size_t Decompress(const std::string& package, void (*support_format)(archive*),
                        char* memory = nullptr) {
     const ArchiveHandle reader = Open(package, support_format);

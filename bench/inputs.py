@@ -1,4 +1,4 @@
-"""What is upgraded, unpacked and copied: applications and packages, the same in every run."""
+"""Makes the applications and packages for the benchmarks, the same in every run."""
 
 import random
 import shutil
@@ -18,8 +18,9 @@ def info(build):
 
 
 def make_application(root, client):
-    """An application of a real one's size: few large files, many small ones, half of them code and
-    text, which shrink to a half and less, half of them pictures and the like, which don't."""
+    """Makes an application of a realistic size, with few large files and many small ones. All are
+    made of repeated words, which compress, but about half of the files begin with random bytes,
+    which don't compress, up to the middle."""
     rng = random.Random(SEED)
     weights = [rng.lognormvariate(0, 1.9) for _ in range(FILES)]
     words = [rng.randbytes(rng.randint(2, 12)) for _ in range(4000)]
@@ -35,7 +36,7 @@ def make_application(root, client):
 
 
 def make_small_application(root, client, entries, size):
-    """An application of so many files and folders, fifty files in a folder, all of one size."""
+    """Makes an application of that many files and folders: fifty files a folder, of one size."""
     rng = random.Random(SEED)
     for i in range(entries - entries // 51):
         add_file(root, i // 50, i, rng.randbytes(size))
@@ -49,7 +50,7 @@ def add_file(root, folder, number, content):
 
 
 def complete(root, client):
-    """Adds what the launcher and the packaging tool look for."""
+    """Adds the files that the launcher and the packaging tool require."""
     (root / CLIENT).parent.mkdir()
     shutil.copy(client, root / CLIENT)
     (root / "Contents/Info.plist").write_text(INFO_PLIST)
@@ -57,13 +58,13 @@ def complete(root, client):
 
 
 def pack(make_package, kind, application, package):
-    """As scripts/make-package does it, in the format kind."""
+    """Packs an application with make-package, in the format kind."""
     subprocess.run([make_package, "--format", kind, application, package], check=True,
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
 def pack_deep(package, depth, folders):
-    """A zip of one file so deep, and so many folders on the way: it grows with the depth only."""
+    """Makes a zip with a file at that depth and with entries for that many folders above it."""
     with zipfile.ZipFile(package, "w") as archive:
         for i in range(1, folders + 1):
             archive.writestr("d/" * (depth * i // folders), b"")

@@ -1,4 +1,4 @@
-// The small operations, each beside its peers: NAME is ours, NAME/PEER somebody else's.
+// Measures small operations and their peers: NAME is our code, NAME/PEER what it is compared with.
 
 #include <benchmark/benchmark.h>
 #include <spdlog/sinks/basic_file_sink.h>
@@ -31,7 +31,7 @@ void Add(const char* name, Operation operation) {
     });
 }
 
-// == Lines of the log
+// == Log lines
 
 void AddLog(const std::string& spdlog_file) {
     const auto logger = spdlog::basic_logger_mt("bench", spdlog_file);
@@ -43,7 +43,7 @@ void AddLog(const std::string& spdlog_file) {
                       kFolder, kName, 17);
     });
     Add("LogDropped", operations::DropLogLine);
-    // The least that a threshold for each component takes, when threads may change it.
+    // The minimum for thresholds by component that any thread may change: a lock and a look-up.
     Add("LogDropped/lookup", [thresholds = std::map<std::string, int>{{"default_component", 4},
                                                                       {"file_op_debug", 4},
                                                                       {"launcher_debug", 4},
@@ -72,8 +72,8 @@ void AddStrings() {
     AddJoin<QString>("Join/QString", QStringLiteral("/"));
 }
 
-// ICU's own calls for the composed form of a UTF-8 path: one for the size and one for the text, for
-// its UTF-16 form, the composed one and its UTF-8 form.
+// Composes a UTF-8 path with ICU alone: converts it to UTF-16, composes it and converts it back.
+// Each step calls ICU twice: for the size and for the text.
 std::vector<char> ComposeWithIcu() {
     UErrorCode error = U_ZERO_ERROR;
     const UNormalizer2* const nfc = unorm2_getNFCInstance(&error);
@@ -100,7 +100,7 @@ void AddCompose() {
 
 }  // namespace
 
-// BENCH_LOG in the environment names the log file.
+// The environment variable BENCH_LOG must name the log file.
 int main(int argc, char** argv) {
     const char* const log = std::getenv("BENCH_LOG");
     if (log == nullptr || Logger::Initialize(Logger::TYPE_FILE, log, "", 3) != 0) {

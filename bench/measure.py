@@ -1,4 +1,4 @@
-"""Runs the operations of rows and series in turn and keeps what each took."""
+"""Runs the operations of rows and series in turn and records the time or memory of each."""
 
 import dataclasses
 import statistics
@@ -19,7 +19,7 @@ def verdict(values, limit):
 
 @dataclasses.dataclass
 class Result:
-    """What a row has come to. The ratio is the median of the rounds' ratios."""
+    """The measurements of a row. Its ratio is the median of the rounds' ratios."""
 
     row: rows.Row
     ours: list
@@ -36,7 +36,7 @@ class Result:
 
 @dataclasses.dataclass
 class SeriesResult:
-    """What a series has come to: for each size, what each round took."""
+    """The measurements of a series: for each size, a value from each round."""
 
     table: rows.Table
     series: rows.Series
@@ -57,8 +57,8 @@ class SeriesResult:
 
 
 def in_turn(workbench, operations, rounds):
-    """What each operation took in each round. The order changes from round to round, so that none
-    always follows the same other one; the first round only warms up."""
+    """Returns the values of each operation, one a round. Every other round reverses the order, so
+    that no operation always follows the same one. The first round warms up and isn't returned."""
     took = {operation: [] for operation in operations}
     for number in range(rounds + 1):
         for operation in operations if number % 2 else reversed(operations):

@@ -1,4 +1,4 @@
-"""Figures, tables and the document that contains them."""
+"""Formats figures and tables, and writes them into the document."""
 
 import os
 import pathlib
@@ -15,7 +15,7 @@ UNITS = {
 
 
 def figure(value, unit):
-    """Three significant digits and a unit that fits them."""
+    """Three significant digits and a suitable unit."""
     scale, name = next((pair for pair in UNITS[unit] if value >= pair[0]), UNITS[unit][-1])
     value /= scale
     digits = 2 if value < 9.995 else 1 if value < 99.95 else 0
@@ -42,7 +42,7 @@ def series_cells(result):
 
 
 def line(result):
-    """What is printed as soon as it is known."""
+    """The line to print as soon as a result is known."""
     if isinstance(result, measure.Result):
         name = f"{result.row.what}, beside {result.row.beside}"
         limit, unit = result.row.limit, result.row.unit
@@ -76,7 +76,7 @@ def series_table(results):
 
 
 def disk_table(results):
-    """A row for each operation, a column for each file system: {file system: results}."""
+    """A row for each operation, a column for each file system. `results` is by file system."""
     columns = []
     for found in results.values():
         columns.append([f"{statistics.median(result.ratios):.2f}"
@@ -103,7 +103,7 @@ def machine(folder):
 
 
 def put(document, name, text):
-    """Replaces what is between the marks of that name."""
+    """Replaces the text between the markers of that name."""
     content = document.read_text()
     begin, end = f"<!-- {name} -->\n", f"<!-- end of {name} -->\n"
     head, rest = content.split(begin)

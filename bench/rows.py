@@ -1,7 +1,7 @@
 """What is measured: the rows of the tables, as data.
 
-An operation is the name of one of Workbench's methods with its arguments. It returns what it took:
-seconds, or bytes where the row's unit says so.
+An operation is the name of a method of Workbench, with its arguments. The method returns
+seconds, or bytes if the row's unit is "B".
 """
 
 import dataclasses
@@ -21,7 +21,7 @@ class Row:
 
 @dataclasses.dataclass(frozen=True)
 class Part:
-    """Rows that are measured in turn; --only knows the part by its name."""
+    """Rows that are measured in turn. --only selects parts by name."""
 
     name: str
     rounds: int
@@ -55,7 +55,7 @@ PARTS = (
         ZIP,
         Row("upgrade, zip", ("upgrade", "zip"), FLOOR, ("floor", "zip"), 1.25),
     )),
-    Part("upgrade", 9, (  # each takes over a second
+    Part("upgrade", 9, (  # each run takes over a second
         Row("upgrade, tar.gz", ("upgrade", "tar.gz"), f"the same by hand: {BY_HAND}",
             ("by_hand", "tar.gz"), 1.65),
         Row("upgrade, tar.gz", ("upgrade", "tar.gz"), FLOOR, ("floor", "tar.gz"), 1.25),
@@ -76,7 +76,7 @@ PARTS = (
     Part("remove", 15, (REMOVE,)),
     Part("copy", 15, (COPY_LARGE,)),
     Part("copy", 15, (COPY_SMALL,)),
-    Part("copy", 7, (COPY_TREE,)),  # each takes seconds
+    Part("copy", 7, (COPY_TREE,)),  # each run takes seconds
     Part("small", 25, (
         Row("NFC of a path", ("small", "Compose"), "ICU's own calls", ("small", "Compose/icu"),
             1.05),
@@ -90,7 +90,7 @@ PARTS = (
     )),
 )
 
-# The same on every file system.
+# What --disks measures on every file system.
 DISK_PARTS = tuple(
     Part("disks", rounds, tuple(dataclasses.replace(row, limit=1.10) for row in rows))
     for rounds, rows in ((15, (AS_PACKED, ZIP)), (15, (REMOVE,)), (15, (COPY_LARGE,)),
@@ -99,17 +99,17 @@ DISK_PARTS = tuple(
 
 @dataclasses.dataclass(frozen=True)
 class Series:
-    """An operation at rising sizes."""
+    """An operation that is measured at increasing sizes."""
 
     what: str
     operation: tuple  # with the size as its last argument
-    limit: float | None  # of the ratio that the table names
+    limit: float | None  # of the ratio that Table defines
     unit: str = "s"
 
 
 @dataclasses.dataclass(frozen=True)
 class Table:
-    """Series of the same sizes. The ratio is that of the last size to the size `beside`."""
+    """Series of the same sizes. The ratio is the last size's value by that of size `beside`."""
 
     name: str
     noun: str  # what the size counts
@@ -126,7 +126,7 @@ GROWTH = Table("growth", "entries", (100, 1000, 10_000, 100_000), 100, 3, (
     Series("peak memory of an upgrade, tar.zst", ("peak_of_entries", SHIPPED), 1.05, "B"),
     Series("peak memory of an upgrade, zip", ("peak_of_entries", "zip"), None, "B"),
 ))
-# Twice the depth: 2 is linear, 4 quadratic.
+# The ratio is for twice the depth: 2 means linear growth, 4 quadratic.
 DEPTH = Table("depth", "folders deep", (250, 500, 1000), 500, 15, tuple(
     Series(what, ("at_depth", operation), 2.60) for what, operation in (
         ("make the folders", "make-folders"),

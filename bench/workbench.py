@@ -1,4 +1,4 @@
-"""The operations that the rows name. Each arranges what it needs and returns what it took."""
+"""The operations that the rows name. Each prepares its inputs and returns seconds or bytes."""
 
 import contextlib
 import os
@@ -19,7 +19,7 @@ COPY_EACH_BY_HAND = 'for file in "$1"/*; do cp "$file" "$2" && sync "$2/${file##
 
 
 class Workbench:
-    """Works in a folder. What takes long to make is kept in `store` for the next workbench."""
+    """Works in `folder`. Keeps what is slow to make in `store`, for the next workbench."""
 
     def __init__(self, build, store, folder):
         self.build, self.store, self.folder = build, store, folder
@@ -37,13 +37,13 @@ class Workbench:
         self.cleanup = contextlib.ExitStack()
 
     def copy_empty_program(self):
-        """With the launcher's plug-ins only: the system's would load OpenGL with its compiler."""
+        """Uses only the launcher's plug-ins: the system's would load OpenGL and its compiler."""
         (self.folder / "empty").mkdir()
         plugins = self.bundle / "Contents" / "Frameworks" / "plugins"
         (self.folder / "empty" / "qt.conf").write_text(f"[Paths]\nPlugins={plugins}\n")
         return shutil.copy(self.program("empty-program"), self.folder / "empty")
 
-    # == What the operations work on; made once, when it is first needed
+    # == Inputs of the operations, each made when it is first needed
 
     def once(self, name, make):
         path = self.folder / name
@@ -88,7 +88,7 @@ class Workbench:
         return self.once("small", make)
 
     def start_display(self):
-        """An X server, for all that follows."""
+        """Starts an X server that runs until the cleanup."""
         end, other = os.pipe()
         server = subprocess.Popen(["Xvfb", "-displayfd", str(other), "-screen", "0", "1280x800x24"],
                                   pass_fds=[other], stderr=subprocess.DEVNULL)
@@ -104,11 +104,11 @@ class Workbench:
         return self.build / "bench" / f"bench-{name}"
 
     def settle(self):
-        """Leaves nothing to be written to the disk."""
+        """Waits until all data is on the disk."""
         subprocess.run(["sync", "-f", self.folder], check=True)
 
     def fresh(self, name):
-        """The path of something that isn't there, with nothing left to be written to the disk."""
+        """Removes what has this name, waits until all data is on the disk and returns the path."""
         path = self.folder / name
         subprocess.run(["rm", "-rf", path], check=True)
         self.settle()
@@ -154,13 +154,13 @@ class Workbench:
         return self.timed("sh", "-c", script, "sh", *arguments)
 
     def reported(self, name, *arguments):
-        """Seconds that a program of ours has measured by itself."""
+        """Seconds that one of the benchmark programs measures and prints."""
         done = subprocess.run([self.program(name), *map(str, arguments)], check=True,
                               stdout=subprocess.PIPE, text=True, env=self.environment)
         return float(done.stdout)
 
     def peak(self, *command, **options):
-        """Bytes that a program has needed at the most."""
+        """The peak memory of a program, in bytes."""
         report = self.folder / "peak"
         self.timed("time", "-f", "%M", "-o", report, *command, **options)
         return int(report.read_text()) * 1024
@@ -187,7 +187,7 @@ class Workbench:
     # == Starts
 
     def start_client(self, who):
-        """From the start of a program until the client runs that it starts."""
+        """Seconds from the start of a program until the client that it starts is running."""
         if not self.upgraded():
             self.upgrade("zip")
         command = {"launcher": [self.launcher],
@@ -198,13 +198,13 @@ class Workbench:
             process = subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
                                        stderr=subprocess.DEVNULL)
             if not select.select([pipe], [], [], 60)[0]:
-                sys.exit("bench: the client was not started")
+                sys.exit("bench: the client did not start within 60 seconds")
             started = float(pipe.read(64))
         process.wait()
         return started - start
 
     def first_frame(self, who):
-        """From the start of a program until something is drawn in its window."""
+        """Seconds from the start of a program until its window's first frame."""
         if not self.display:
             self.start_display()
         environment = dict(self.environment, DISPLAY=self.display, QT_QPA_PLATFORM="xcb")
@@ -215,7 +215,7 @@ class Workbench:
         with subprocess.Popen([self.program("first-frame")], env=environment, text=True,
                               stdout=subprocess.PIPE) as watcher:
             if watcher.stdout.readline() != "ready\n":
-                sys.exit("bench: the display can't be watched")
+                sys.exit("bench: first-frame can't watch the display")
             start = time.monotonic()
             process = subprocess.Popen([command], env=environment, stdout=subprocess.DEVNULL,
                                        stderr=subprocess.DEVNULL)
@@ -235,7 +235,7 @@ class Workbench:
         return peak
 
     def peak_of_entries(self, kind, entries):
-        """With the same bytes in all entries together: decompressing takes memory for those."""
+        """The entries' total size is constant, because the memory to decompress depends on it."""
         self.give_launcher(self.package_of(kind, entries, 20_000_000 // entries))
         self.fresh_folder("home")
         peak = self.peak(self.launcher, env=self.environment)
@@ -298,14 +298,14 @@ class Workbench:
         arguments = {"copy-tree": [root, self.fresh("copied")], "remove": [root]}
         if operation == "make-folders":
             return made
-        if operation == "describe":  # one takes a millisecond
+        if operation == "describe":  # too short to measure once
             return statistics.median(self.reported("files", operation, last) for _ in range(9))
         return self.reported("files", operation, *arguments[operation])
 
     # == The small operations
 
     def small(self, name):
-        """Seconds of one operation, of some thousand in a row."""
+        """Seconds that one operation takes, averaged over many runs."""
         done = subprocess.run(
             [self.program("library"), f"--benchmark_filter=^{name}$", "--benchmark_min_time=0.03",
              "--benchmark_format=csv"],

@@ -1,4 +1,4 @@
-// The reader of key=value files, on arbitrary files.
+// Fuzzes the reader of key=value files with arbitrary files.
 
 #include "lib/config/config.h"
 
@@ -6,7 +6,8 @@
 
 namespace {
 
-// The entries as a file with each value in quotes; an entry that no quotes can hold is dropped.
+// Formats the entries as a file with each value in quotes. Removes entries whose value has both
+// kinds of quotes or over 4,000 bytes.
 std::string Quoted(std::map<ustring, ustring>& entries) {
     std::string text;
     for (auto entry = entries.begin(); entry != entries.end();) {
@@ -40,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         REQUIRE(source.find(value.c_str()) != std::string::npos);
     }
 
-    // What was read can be written and read again.
+    // Reading the written entries must return the same entries.
     Config again;
     MakeFile(path, Quoted(config.entries));
     REQUIRE(again.read(path) == 0);

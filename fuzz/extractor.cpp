@@ -1,4 +1,4 @@
-// The extractor, on arbitrary bytes as the package.
+// Fuzzes the extractor with arbitrary bytes as the package.
 
 #include "ui-client/launcher/extractor.h"
 
@@ -22,7 +22,7 @@
 
 namespace {
 
-const rlim_t kMaxFileSize = 4 * 1024 * 1024;  // bytes: a package can promise any size
+const rlim_t kMaxFileSize = 4 * 1024 * 1024;  // bytes; a package can claim any size
 const std::size_t kTarBlock = 512;
 const std::size_t kMagicAt = 257;
 const std::size_t kChecksumAt = 148;
@@ -34,13 +34,14 @@ const Folder& World() {
     return folder;
 }
 
-// The folder beside the destination, into which nothing may be written.
+// A folder beside the destination. The extractor must not write into it.
 std::string Outside() {
     return World() / "outside";
 }
 
-// What may not change: which objects there are outside of the destination, and when they were
-// changed last, which includes their permissions and links.
+// Describes what the extractor must not change: the objects outside of the destination, with inode,
+// type and the time of the last change, which covers permissions and links too. The time is 0 for
+// the package and the destination, which this target changes itself.
 std::map<std::string, std::array<long, 3>> Surroundings() {
     std::map<std::string, std::array<long, 3>> found;
     for (const std::string& folder : {World().path(), Outside()}) {
@@ -63,7 +64,7 @@ void LimitFileSize(rlim_t limit) {
     REQUIRE(setrlimit(RLIMIT_FSIZE, &limits) == 0);
 }
 
-// Copies the data of every entry into one and the same file.
+// Copies the data of every entry to the same file.
 void CopyAllData(Extractor& extractor) {
     PackageReader package;
     archive_entry* entry = nullptr;
@@ -82,7 +83,7 @@ void CopyAllData(Extractor& extractor) {
     }
 }
 
-// Puts the checksum of a tar header right, without which libarchive takes it for none.
+// Corrects the checksum of a tar header. libarchive doesn't recognise a header with a wrong one.
 void SealTarHeader(std::uint8_t* header) {
     std::uint8_t* const field = header + kChecksumAt;
     std::fill_n(field, kChecksumSize, std::uint8_t(' '));
@@ -91,12 +92,13 @@ void SealTarHeader(std::uint8_t* header) {
     std::copy_n(digits, kChecksumSize - 1, field);
 }
 
-int reports;  // of the progress, since it was last set to 0
+int reports;  // how often progress was reported since this was last set to 0
 
 }  // namespace
 
-// A link in a package may lead anywhere, and a target that writes through it must not do damage:
-// every link that leaves the destination leads into the watched folder instead.
+// Replaces the C library's function. If the extractor wrote through a link of a package, it could
+// damage the machine's files, so every link that could leave the destination is redirected to the
+// watched folder.
 extern "C" int symlink(const char* target, const char* path) noexcept {
     static const auto make =
         reinterpret_cast<int (*)(const char*, const char*)>(dlsym(RTLD_NEXT, "symlink"));

@@ -1,4 +1,4 @@
-// The record of a running upgrade, on arbitrary files in its place.
+// Fuzzes the reader of a running upgrade's record with arbitrary files.
 
 #include "ui-client/launcher/upgrade-journal.h"
 

@@ -1,4 +1,4 @@
-// The executable's name in an Info.plist, on arbitrary files.
+// Fuzzes the reader of the executable's name in Info.plist with arbitrary files.
 
 #include <filesystem>
 
@@ -7,14 +7,14 @@
 
 namespace {
 
-// Whether it names an object in the bundle's folder of executables.
+// Whether a file with this name would be directly in the bundle's MacOS folder.
 bool IsInItsFolder(const QString& name) {
     const std::filesystem::path path = "MacOS/" + name.toStdString();
     return path == path.lexically_normal() && path.has_filename() &&
            path.parent_path() == "MacOS" && !name.contains(QChar(QChar::Null));
 }
 
-// The text as the name in an otherwise sound file.
+// Returns an otherwise valid Info.plist with this text as the executable's name.
 QByteArray Wrapped(const QString& name) {
     return QByteArrayLiteral(
                "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict>"
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     REQUIRE(platform::BundleExecutable(Wrapped(QStringLiteral("Tarnwell"))) ==
             QLatin1String("Tarnwell"));
 
-    // Whatever the file names, this bundle has no executable.
+    // The bundle doesn't contain any executable, so opening it must fail.
     MakeFile(folder / "bundle.app/Contents/Info.plist", file);
     REQUIRE(!platform::OpenBundle(folder / "bundle.app"));
     return 0;

@@ -1,5 +1,5 @@
-// Compares the string type with a std::string. The input is a program of operations, each of which
-// is done to both; they must then hold the same text, or have thrown the same error.
+// Fuzzes ustring with std::string as its model. The input is a sequence of operations. Each is
+// applied to both, which must then hold the same text or have thrown the same error.
 
 #include "ustring/ustring.h"
 
@@ -32,7 +32,7 @@ Bytes Encoded(const Units& units) {
 bool IsValid(const Bytes& bytes) {
     return Encoded(Decoded(bytes)) == bytes;
 }
-// The two forms of a string, whose text is empty when units were ill-formed.
+// Convert between the forms of a string as ustring does: an ill-formed text becomes empty.
 Units UnitsOf(const Bytes& bytes) {
     return IsValid(bytes) ? Decoded(bytes) : Units();
 }
@@ -40,15 +40,15 @@ Bytes BytesOf(const Units& units) {
     return Decoded(Encoded(units)) == units ? Encoded(units) : Bytes();
 }
 
-// The operands: the string and what it should hold, another string, and other texts for arguments.
+// The operands: the string and its expected text, another string, and texts for other arguments.
 ustring text;
 Bytes model;
 ustring other;
-Bytes other_model;            // also the text of bytes
-const char* bytes;            // may be in the string
-Units units_model;            // the text of units
-const unsigned short* units;  // may be in the string
-Bytes longer;                 // ends, by its NUL, where other does
+Bytes other_model;            // also the text that bytes points to
+const char* bytes;            // may point into `text`
+Units units_model;            // the text that units points to
+const unsigned short* units;  // may point into `text`
+Bytes longer;                 // other_model, a NUL and more bytes, which ustring ignores
 char byte;
 char other_byte;
 unsigned short unit;
@@ -73,14 +73,14 @@ Bytes Folded(Bytes folded) {
     return folded;
 }
 
-// Of the first two bytes that differ, the terminators included.
+// The difference of the first two bytes that differ, terminators included; 0 if there are none.
 int Difference(const Bytes& left, const Bytes& right) {
     const char* const end = left.c_str() + left.size() + 1;
     const auto [at, other_at] = std::mismatch(left.c_str(), end, right.c_str());
     return at == end ? 0 : static_cast<unsigned char>(*at) - static_cast<unsigned char>(*other_at);
 }
 
-// Changes the string and its model; or compares what both say.
+// Changes the string and its model in the same way, or compares a result of the two.
 struct Operation {
     void (*run)();
     void (*expect)();
@@ -109,7 +109,7 @@ const Operation kOperations[] = {
     CHANGE(text += units, BytesOf(UnitsOf(model) + units_model)),
     CHANGE(text.append(units, count), BytesOf(UnitsOf(model) + units_model.substr(0, count))),
     CHANGE(text = text + units, BytesOf(UnitsOf(model) + units_model)),
-    // The argument may be in the form that appending nothing has dropped.
+    // units may point into the UTF-16 form that append("", 0) drops; its buffer still exists.
     CHANGE(text.append("", 0).assign(units, count), BytesOf(units_model.substr(0, count))),
     CHANGE(text.append("", 0).append(units, count),
            BytesOf(UnitsOf(model) + units_model.substr(0, count))),
@@ -160,7 +160,7 @@ const Operation kOperations[] = {
     COMPARE(ustring::is_valid(text), IsValid(model)),
     COMPARE(reinterpret_cast<const char16_t*>(text.c_str_utf16()), UnitsOf(model))};
 
-// What the code throws.
+// Returns the message of the std::out_of_range that the code throws, or an empty string.
 Bytes Error(void (*code)()) {
     try {
         code();
@@ -172,7 +172,7 @@ Bytes Error(void (*code)()) {
 
 void Run(const Operation& operation) {
     static std::FILE* const nowhere = std::fopen("/dev/null", "we");
-    std::FILE* const shown = std::exchange(stderr, nowhere);  // ill-formed texts cause warnings
+    std::FILE* const shown = std::exchange(stderr, nowhere);  // hides warnings on ill-formed texts
     const Bytes error = Error(operation.run);
     stderr = shown;
     const bool same_error = error == Error(operation.expect);
@@ -182,7 +182,7 @@ void Run(const Operation& operation) {
     Require(agree && same_error && same_size && same_text, operation.name, __FILE__, __LINE__);
 }
 
-// Reads the operands from the program. Past its end there are only zeros.
+// Reads the operands from the input. Missing bytes count as zeros.
 void ReadOperands(const std::uint8_t*& at, const std::uint8_t* end) {
     const auto next = [&] { return at == end ? 0U : *at++; };
     const auto number = [&] {  // mostly small; also npos and npos - 1

@@ -1,4 +1,4 @@
-// Bundles: what the packaging tool finds in them, and what an installation and the scripts lay out.
+// Checks bundles with the packaging tool, and what an installation and the scripts create.
 
 #include "tests/support/packing.h"
 
@@ -6,8 +6,8 @@ namespace {
 
 class BundleTest : public Packing {
   protected:
-    // In a shell as in packing.h, $B is a bundle with the client of the build tree; install puts
-    // the launcher's part into a folder.
+    // Runs a command in the shell of packing.h. It also defines $B, the bundle's path; $DEMO, the
+    // client application of the build tree; and install, which runs `cmake --install`.
     Result shell(const std::string& command) const {
         return Packing::shell("unset DESTDIR TARNWELL_APP; DEMO='" BUILD
                               "/packaging/client/Tarnwell.app'; B=$PWD/../bundle/Tarnwell.app; "
@@ -41,7 +41,7 @@ TEST_F(BundleTest, RefusesWhatWouldNotUpgradeOrStart) {
         {"rm $B/Contents/Frameworks/plugins/platforms/*",
          "Contents/Frameworks/plugins/platforms: has no plug-in, without which Qt aborts the l"},
         {"rm $B/Contents/MacOS/*", "Contents/MacOS/tarnwell-launcher: is missing; put the"},
-        // A client for a Mac beside a launcher for Linux.
+        // A bundle with a Mac client and a Linux launcher.
         {"cp -R $DEMO ../mac; printf '\\317\\372\\355\\376\\7\\0\\0\\1\\3\\0\\0\\0\\2\\0\\0\\0' "
          ">../mac/$C; $MAKE ../mac $B/$R/package/tarnwell.opk 2>&-; rm -r ../mac",
          "$R/package/tarnwell.opk: its client is a Mac program (Mach-O), but the launcher is a L"}};
@@ -53,7 +53,7 @@ TEST_F(BundleTest, RefusesWhatWouldNotUpgradeOrStart) {
     }
     copyBundle();
     EXPECT_EQ(shell("$MAKE --check $B").out.rfind(bundle_ + ": good: build ", 0), 0u);
-    // The package in a bundle stands for the bundle.
+    // Checking the package inside a bundle also checks the bundle.
     EXPECT_EQ(shell("rm $B/$I; $MAKE --check $B/$R/package/tarnwell.opk").code, 1);
 }
 
@@ -104,7 +104,7 @@ TEST_F(BundleTest, TakesNamesNumberAndIconsFromTheClient) {
                   .out,
               "Name=Up & Down\n");
 
-    // A bundle that is there is replaced as a whole, and nothing else is.
+    // An existing bundle is replaced as a whole. A folder that isn't a bundle isn't replaced.
     EXPECT_EQ(shell("mkdir $B/log; : >$B/log/launcher.debug").code, 0);
     result = makeBundle("");
     EXPECT_NE(result.err.find("warning: no user of the bundle that is replaced"), std::string::npos)
@@ -116,7 +116,6 @@ TEST_F(BundleTest, TakesNamesNumberAndIconsFromTheClient) {
     EXPECT_EQ(Tree(folder_ / "bundle").size(), 2u);
 }
 
-// What a Linux desktop is given.
 TEST_F(BundleTest, ADesktopCanShowAndStartIt) {
     ASSERT_EQ(
         shell("umask 077; TARNWELL_APP=$DEMO install --component desktop --prefix ../usr").code, 0);

@@ -1,4 +1,4 @@
-// The translations: what a careless edit or an eager tool would damage.
+// Checks the translations for the mistakes that careless edits and translation tools make.
 
 #include <QFontMetrics>
 #include <QRegularExpression>
@@ -16,12 +16,12 @@ int qInitResources_texts();
 
 namespace {
 
-// Names and abbreviations that no language translates.
+// Names, abbreviations and placeholders that are the same in every language.
 const QRegularExpression kNames(
     QStringLiteral("Orvane Station|StationOS|OrvaneLink|Orvane|Tarnwell|\\[ProductName\\]|"
                    "\\b(ID|SSL|IP|OK)\\b|MB|\\.tmp|%[12]"));
 
-// Texts that are the same word in a language as in English.
+// Texts that may equal the English ones: in every language, and in single languages.
 const std::set<std::string> kSameEverywhere = {"%1 / %2", "ID",       "OK",   "OrvaneLink ID",
                                                "Proxy",   "Internet", "Port", "Server",
                                                "Status",  "Version"};
@@ -36,8 +36,9 @@ const std::map<std::string, std::set<std::string>> kSame = {
     {"plk", {"Folder"}},
     {"hun", {"December", "November"}}};
 
-// What doesn't belong into a language: the form of address that it doesn't use, and the words and
-// characters of its neighbour.
+// What a translation must not contain: the form of address that our translation into that language
+// avoids, and words and characters of a related language (Brazilian and European Portuguese,
+// traditional and simplified Chinese).
 const std::map<std::string, const char*> kForeign = {
     {"deu", "\\b(du|dich|dir|deine?[mnrs]?)\\b"},
     {"fra", "\\b(tu|toi|ton|tes)\\b"},
@@ -53,7 +54,7 @@ QString CaseAndMarksAside(const QString& text) {
     return text.toLower().remove(QRegularExpression(QStringLiteral("[.:…\\s]+$")));
 }
 
-// A catalog as the launcher reads it: what it makes of each text of the table.
+// Loads a catalog from the launcher's resources and translates each text of the string table.
 class CatalogTest : public testing::TestWithParam<std::string> {
   protected:
     CatalogTest() {
@@ -106,7 +107,7 @@ TEST_P(CatalogTest, TranslatesEachTextOnce) {
     }
     const std::string file = ReadFile(TRANSLATIONS "/" + GetParam() + ".ts");
     EXPECT_EQ(LinesWith(file, "<message>").size(), translations_.size());
-    EXPECT_EQ(LinesWith(file, "<translation>").size(), translations_.size()) << "unfinished ones";
+    EXPECT_EQ(LinesWith(file, "<translation>").size(), translations_.size()) << "unfinished texts";
 }
 
 TEST_P(CatalogTest, KeepsWhatIsFilledInAndTheMarksAtTheEnd) {
@@ -174,7 +175,7 @@ TEST_P(CatalogTest, OneThingHasOneName) {
         const QString translated = CaseAndMarksAside(translation);
         EXPECT_EQ(same_but_for_marks.emplace(plain, translated).first->second, translated);
     }
-    // Buttons that one word names rightly in some languages; any other two must differ.
+    // Pairs of buttons that have the same name in some languages. All others must differ.
     const std::set<std::set<std::string>> synonyms = {
         {"Finish", "Done"}, {"OK", "Got it"}, {"Remove", "Delete"}, {"Change", "Edit"}};
     const QRegularExpression button(QStringLiteral("^(btn_|msi_button_)"));
@@ -190,7 +191,7 @@ TEST_P(CatalogTest, OneThingHasOneName) {
 }
 
 TEST_P(CatalogTest, TheDialogsTextsFit) {
-    const int bar_width = 400 - 2 * 11;  // the dialog's, without its margins
+    const int bar_width = 400 - 2 * 11;  // the dialog's width without its margins
     const QFontMetrics metrics(QFont(QStringLiteral("Arial")));
     for (const int id : {StrTable::kPreparationDone, StrTable::kPreparing, StrTable::kAppName}) {
         const QString text = translations_[QString::fromUtf8(kStrTableRows[id].text)];

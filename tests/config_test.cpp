@@ -59,7 +59,7 @@ TEST_F(ConfigTest, AddsToWhatItHolds) {
 }
 
 TEST_F(ConfigTest, ReadsALongLineInPieces) {
-    const std::string piece = "k=" + std::string(8189, 'v');  // just what one reading takes
+    const std::string piece = "k=" + std::string(8189, 'v');  // the longest unsplit line
     EXPECT_EQ(read(piece + "\n"), 0);
     EXPECT_EQ(config_.entries["k"].size(), 8189u);
     EXPECT_EQ(read(piece + "x=1\n"), 0);

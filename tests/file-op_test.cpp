@@ -11,7 +11,7 @@
 
 namespace {
 
-// What the fixture has made.
+// The objects that the fixture creates.
 const std::map<std::string, int> kKinds = {
     {"file", FILE_TYPE_REG},           {"folder", FILE_TYPE_DIR},   {"link to file", FILE_TYPE_LNK},
     {"link to folder", FILE_TYPE_LNK}, {"dangling", FILE_TYPE_LNK}, {"loop", FILE_TYPE_LNK},
@@ -33,7 +33,7 @@ TEST_F(FileOpTest, DescribesEveryKind) {
     missing.path = "missing";
     missing.type = FILE_TYPE_REG;
     missing.mtime = info.mtime;
-    missing.mode = missing.uid = 7;  // which aren't compared
+    missing.mode = missing.uid = 7;  // these aren't compared
     EXPECT_TRUE(info == missing);
     missing.alt_path = "x";
     EXPECT_TRUE(info != missing);
@@ -68,7 +68,7 @@ TEST_F(FileOpTest, KnowsWhatExists) {
         EXPECT_EQ(info.size == 77, !row.exists_exactly) << path;
     }
     MakeFile("\xC3\xA9");
-    EXPECT_TRUE(IsFileExist(folder_ / "e\xCC\x81", true)) << "looked up in its NFC form";
+    EXPECT_TRUE(IsFileExist(folder_ / "e\xCC\x81", true)) << "the path is converted to NFC";
     EXPECT_FALSE(IsFileExist("", false));
     _FILE_INFO_tag info;
     EXPECT_EQ(FSStat("", info, false), -1);
@@ -89,7 +89,7 @@ TEST_F(FileOpTest, CopiesBytes) {
         ASSERT_EQ(FSCopy("in/src", "in/dst", false), 0);
         EXPECT_TRUE(ReadFile("in/dst") == content);
     }
-    EXPECT_EQ(ModeOf("in/dst"), 0644u) << "a new file's, not the source's";
+    EXPECT_EQ(ModeOf("in/dst"), 0644u) << "the mode of a new file, not the source's";
     EXPECT_EQ(FSCopy("kinds/link to file", "in/dst", false), 0);
     EXPECT_EQ(ReadFile("in/dst"), "12345");
     MakeFile("in/dst", std::string(1000, 'o'), 0640);
@@ -170,8 +170,8 @@ TEST_F(FileOpTest, MakesFoldersStepByStep) {
         bool force;
         std::uint16_t mode;
         int error;
-        const char* rest;     // of the path, where it ended
-        const char* checked;  // a folder that was made then, and the mode that it has
+        const char* rest;     // the part of the path that `end` points to afterwards
+        const char* checked;  // an object, and the mode that it must have afterwards
         mode_t checked_mode;
     } cases[] = {{"a/b/c/", false, 0xFFFF, 0, "/", "a/b", 0755},
                  {"m//n", false, 01777, 0, "", "m/n", 01777},
@@ -198,12 +198,12 @@ TEST_F(FileOpTest, MakesFoldersStepByStep) {
         EXPECT_EQ(ModeOf(row.checked), row.checked_mode);
     }
     EXPECT_EQ(FSMKDirP("", nullptr, false, 0xFFFF), -1);
-    EXPECT_EQ(umask(022), 022u) << "as before";
+    EXPECT_EQ(umask(022), 022u) << "the umask has changed";
 }
 
 TEST_F(FileOpTest, GivesFoldersToTheOwner) {
     if (geteuid() != 0) {
-        GTEST_SKIP() << "only root may give things away";
+        GTEST_SKIP() << "only root can change the owner of a file";
     }
     FSInitialize(12, 0xFFFFFFFF);
     EXPECT_EQ(FSMKDir("a/b", true), 0);

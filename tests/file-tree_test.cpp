@@ -1,4 +1,4 @@
-// The file operations on whole trees.
+// Tests the file operations on whole trees.
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,13 +17,13 @@ using FileTreeTest = FileOpTest;
 TEST_F(FileTreeTest, AFullDiskIsTold) {
     const SmallDisk disk("disk", "64k");
     if (!disk.mounted()) {
-        GTEST_SKIP() << "this user may not mount a small disk";
+        GTEST_SKIP() << "this user can't mount a small disk";
     }
     MakeFile("tree/big", std::string(100000, 'x'));
     const std::string log =
         CaptureStderr([] { EXPECT_EQ(FSCopy("tree/big", "disk/big", true), -2); });
     EXPECT_TRUE(HasOneLine(log, "CopyFile: write: No space left on device (28)")) << log;
-    EXPECT_TRUE(Exists("disk/big")) << "what was written is left";
+    EXPECT_TRUE(Exists("disk/big")) << "the incomplete copy must be kept";
     EXPECT_EQ(FSRename("tree/big", "disk/file", false), -3);
     EXPECT_EQ(FSRename("tree", "disk/tree", false), -3);
     EXPECT_EQ(ReadFile("tree/big").size(), 100000u);
@@ -65,7 +65,7 @@ TEST_F(OtherVolumeTest, MovesATreeAlsoIntoFoldersThatCannotBeListed) {
     EXPECT_FALSE(Exists(dst + "/top"));
 }
 
-// The lines that looking up each object by its path would write, in this order.
+// At level 7, an operation logs what looking up each object by its path would log, in that order.
 TEST_F(OtherVolumeTest, LogsEachLookUpWhenToldTo) {
     const auto log_of = [&](const std::string& threshold, const std::function<int()>& operation) {
         MakeFile("levels", "file_op_debug=" + threshold + "\n");
@@ -158,7 +158,7 @@ TEST_F(FileTreeTest, LeavesWhatItMayNotOpenOrRemove) {
 
 TEST_F(FileTreeTest, NeitherDepthNorWidthHasALimit) {
     const FewDescriptors few;
-    MakeDeepTree("tree", 3000);  // no path leads to its bottom
+    MakeDeepTree("tree", 3000);  // the path of the lowest folder exceeds PATH_MAX
     EXPECT_EQ(FSRename("tree", other_volume_ / "tree", false), 0);
     EXPECT_FALSE(Exists("tree"));
     for (int i = 0; i < 5000; ++i) {
@@ -168,7 +168,7 @@ TEST_F(FileTreeTest, NeitherDepthNorWidthHasALimit) {
     EXPECT_FALSE(Exists(other_volume_ / "tree"));
 }
 
-// Moves a folder of the tree away while one that is far below it is copied.
+// Renames a folder of the tree while a folder far below it is being copied.
 class MovesAway : public FSCopyListener {
   public:
     void onFolder(const char*, const char*) override {

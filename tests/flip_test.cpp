@@ -1,4 +1,4 @@
-// Packages with one flipped bit: what is installed has the packed bytes, or nothing is installed.
+// Flips one bit of a package. The extractor must then fail or install files with the packed bytes.
 
 #include <zstd.h>
 
@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// How many packages are tried of each format; a thorough run has 1,000.
+// The number of damaged packages for each format. FLIPPED_BITS overrides it; 1000 is thorough.
 int Runs() {
     const char* const runs = std::getenv("FLIPPED_BITS");
     return runs != nullptr ? std::atoi(runs) : 40;
@@ -61,7 +61,8 @@ class FlipTest : public testing::TestWithParam<const char*> {
         return ReadFile(folder_ / "package");
     }
 
-    // What is installed of the package; false when that failed.
+    // Extracts a package with these bytes and sets tree to what was installed. Returns false and
+    // leaves tree unchanged if that fails.
     bool extract(const std::string& bytes, FileTree& tree) const {
         fs::remove_all(folder_ / "dest");
         MakeFolder(folder_ / "dest");
@@ -112,7 +113,7 @@ TEST_P(FlipTest, NeverInstallsOtherBytes) {
                         ContentOf(found->second) == ContentOf(description))
                 << name << " differs after bit " << bit << " of " << bytes.size() << " bytes";
         }
-        // A zip has its names and modes without a checksum.
+        // The checksums of a zip don't cover names and modes.
         EXPECT_TRUE(format_ == "zip" || tree == expected) << "bit " << bit;
     }
     std::cout << "of " << Runs() << " packages " << installed << " were installed, " << renamed
@@ -121,7 +122,8 @@ TEST_P(FlipTest, NeverInstallsOtherBytes) {
 
 TEST(ContentChecksumTest, IsMissedWhereThereIsNone) {
     const Folder folder;
-    for (const char* const format : {"tar", "cpio", "tar.zst"}) {  // libarchive's has none
+    // libarchive writes tar.zst without checksums.
+    for (const char* const format : {"tar", "cpio", "tar.zst"}) {
         MakeArchive(folder / "package", format, Application(true, true));
         EXPECT_FALSE(HasContentChecksum((folder / "package").c_str())) << format;
     }

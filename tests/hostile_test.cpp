@@ -1,4 +1,4 @@
-// Packages that try to get out of the folder that they are unpacked into, or that lie.
+// Extracts damaged packages, and malicious ones that try to change files outside the destination.
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -30,7 +30,8 @@ std::string Padded(const std::string& data) {
     return data + std::string((512 - data.size() % 512) % 512, '\0');
 }
 
-// An entry of a tar archive, for what libarchive does not write. The size is what the header says.
+// Builds a tar entry that libarchive would not write. size is what the header claims; data can have
+// another size.
 std::string Raw(const std::string& name, Type type, const std::string& link, std::size_t size,
                 unsigned mode, const std::string& data) {
     if (name.size() > 100) {
@@ -60,7 +61,7 @@ std::string Dir(const std::string& name, unsigned mode = 0755) {
 std::string Link(const std::string& name, const std::string& target) {
     return Raw(name, kLink, target, 0, 0777, "");
 }
-// Data of a hard link counts in the "pax" dialect only.
+// libarchive reads the data of a hard link only if the archive has a "pax" header.
 std::string Hard(const std::string& name, const std::string& target, const std::string& data = "") {
     const std::string record = "13 comment=x\n";
     return Raw("pax", kExtension, "", record.size(), 0644, record) +
@@ -82,7 +83,7 @@ class HostileTest : public testing::Test {
         chmod((folder_ / "outside/folder").c_str(), 0711);
     }
 
-    // Unpacks bytes, the content of an archive; nothing but the destination's content changes.
+    // Extracts an archive with these bytes. Checks that only the destination's content changes.
     int extract(const std::string& bytes) {
         MakeFile(folder_ / "package", bytes);
         Extractor extractor;
@@ -103,7 +104,7 @@ class HostileTest : public testing::Test {
         return result;
     }
 
-    // All but the content of the destination.
+    // Describes everything in the test's folder except the content of the destination.
     FileTree sentinel() const {
         const fs::perms mode = fs::status(folder_.path()).permissions();
         FileTree tree = {{"", DescribeFolder(static_cast<mode_t>(mode))}};
@@ -128,16 +129,16 @@ class HostileTest : public testing::Test {
     Folder folder_;
     const std::string dest_ = folder_ / "dest";
     std::string log_;
-    bool nobody_ = false;  // unpacks as a user who isn't root
+    bool nobody_ = false;  // extract as a user who isn't root
 };
 
-const std::string kEnd(1024, '\0');  // of every whole tar
+const std::string kEnd(1024, '\0');  // the end of a complete tar
 
 struct Package {
     const char* name;
     std::string bytes;
-    std::string log;  // empty: it is unpacked
-    FileTree tree;    // what is in the destination then
+    std::string log;  // part of the expected error message; empty if extracting succeeds
+    FileTree tree;    // the expected content of the destination
 };
 
 Package Unpacked(const char* name, const std::string& bytes, const FileTree& tree) {
@@ -271,7 +272,7 @@ TEST_F(HostileTest, LongPathsAreUnpackedOrRefused) {
     EXPECT_TRUE(HasOneLine(log_, "': its path is too long"));
 }
 
-// The text format, whose entries can name the file that holds their content, or be two things.
+// An entry of an mtree, which is a text file, can name a file as its content and have two types.
 TEST_F(HostileTest, AManifestDoesNotLeadOut) {
     EXPECT_EQ(extract("#mtree\n./a type=file mode=0644 size=6 contents=../outside/file\n"), 0);
     EXPECT_EQ(Tree(dest_), (FileTree{{"a", DescribeFile(0644, std::string(6, '\0'))}}));
@@ -303,7 +304,7 @@ TEST_P(CutTest, FailsOrIsWhole) {
 }
 INSTANTIATE_TEST_SUITE_P(Formats, CutTest, testing::Values("tar", "tar.gz", "zip"));
 
-// libarchive would leave these compressions to programs.
+// libarchive by itself would decompress these formats with external programs.
 TEST_F(HostileTest, NoProgramIsEverRun) {
     const std::string path = getenv("PATH");
     for (const char* const name : {"lrzip", "lzop", "grzip"}) {
@@ -332,10 +333,10 @@ TEST_F(HostileTest, NamesDoNotForgeLines) {
     EXPECT_TRUE(HasOneLine(log_, "'\\xFF'")) << log_;
 }
 
-// The permissions of folders wait until all entries are in.
+// The extractor sets the permissions of folders last, so that it can still write into them.
 TEST_F(HostileTest, AnOrdinaryUserGetsWhatIsInClosedFolders) {
     if (geteuid() != 0 || chown(dest_.c_str(), 65534, 65534) != 0) {
-        GTEST_SKIP() << "only root can see into closed folders";
+        GTEST_SKIP() << "only root can check the content of closed folders";
     }
     nobody_ = true;
     EXPECT_EQ(extract(Dir("a", 0555) + Dir("a/b", 0) + Dir("a/b/c", 0311) + File("a/b/c/d/file") +

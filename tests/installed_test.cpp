@@ -1,4 +1,4 @@
-// What an installation says about itself: its version file and its client.
+// Tests reading the version file of an installation and finding its client.
 
 #include <sys/stat.h>
 #include <utime.h>
@@ -53,7 +53,7 @@ TEST_F(InstalledTest, AReplacedVersionFileIsReadAnew) {
     }
 }
 
-// The file in its place, and what is said about it as a version file and as a client.
+// Creates each kind of object as the version file and as the client, and checks both results.
 TEST_F(InstalledTest, NothingButARegularFileInsideIsRead) {
     MakeFile(folder_ / "outside", "[Version]\nbuild_version=1");
     MakeFile(folder_ / "My.app-evil/file", "[Version]\nbuild_version=1");
@@ -104,7 +104,8 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
     MakeFile(info_, "[Version]\nbuild_version=1");
     MakeFile(client_, "x");
     VerInfo version;
-    const std::string app = app_;  // the sanitizers need descriptors to look at this object
+    // Local copies, because the sanitizers need descriptors to check an access to a member.
+    const std::string app = app_;
     const std::string info = info_;
     Reading reading = Reading::Done;
     int error = 0;
@@ -123,7 +124,7 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
     {
         const AsNobody nobody;
         EXPECT_EQ(FindClient(app_), Presence::CantTell);
-        EXPECT_EQ(load(version), Reading::Refused) << "it won't be readable at the next try either";
+        EXPECT_EQ(load(version), Reading::Refused) << "a later try would fail too";
     }
     chmod((app_ + "/Contents").c_str(), 0755);
     EXPECT_EQ(FindClient(app_), Presence::There);

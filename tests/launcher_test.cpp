@@ -1,4 +1,4 @@
-// The controller, its worker and the dialog through the real event loop.
+// Runs the controller, its worker and the dialog in the real event loop.
 
 #include "ui-client/launcher/launcher.h"
 
@@ -15,7 +15,7 @@
 
 namespace {
 
-// This test's executable stands in a bundle of its own, whose package each test writes anew.
+// The test program is in a bundle that only it uses. Each test rewrites the bundle's package.
 class LauncherTest : public testing::Test {
   protected:
     LauncherTest() {
@@ -26,7 +26,7 @@ class LauncherTest : public testing::Test {
 
     static std::string bundle() { return Service::GetRootTarnwellInstallPath().c_str(); }
 
-    // Seven entries, the last one the client.
+    // Writes a package of seven entries; the last one is the client.
     static void writePackage() {
         std::vector<Entry> package;
         for (int i = 1; i < 7; ++i) {
@@ -53,7 +53,7 @@ class LauncherTest : public testing::Test {
         std::vector<bool> visible;  // before the run, at each value, and after the run
         int result;
     };
-    // Runs a launcher to the end of its event loop and keeps what the user would see.
+    // Runs a launcher until its event loop ends and records what the user would see.
     static Watched runAndWatch() {
         Launcher launcher;
         auto* const label = dialog()->findChild<QLabel*>();
@@ -97,7 +97,7 @@ TEST_F(LauncherTest, TheDialogIsBuiltAsDesigned) {
     const QProgressDialog* const built = dialog();
     EXPECT_EQ(built->windowTitle(), QStringLiteral("Tarnwell Backup"));
     EXPECT_EQ(built->labelText(), QStringLiteral("Tarnwell is initializing..."));
-    EXPECT_EQ(int(built->windowFlags() & ~Qt::Window), 0x3000);  // Qt adds that bit itself
+    EXPECT_EQ(int(built->windowFlags() & ~Qt::Window), 0x3000);  // Qt adds Qt::Window
     EXPECT_EQ(std::make_tuple(built->minimum(), built->maximum(), built->value()),
               std::make_tuple(0, 100, 0));
     EXPECT_EQ(std::pair(built->minimumWidth(), built->maximumWidth()), std::pair(400, 400));
@@ -113,7 +113,7 @@ TEST_F(LauncherTest, AFailureKeepsTheLabel) {
     EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is initializing..."));
 }
 
-// Qt shows a progress dialog by itself when its work takes long.
+// By default, QProgressDialog shows itself after four seconds.
 TEST_F(LauncherTest, TheDialogNeverShowsItself) {
     Launcher launcher;
     const int longer_than_qt_waits = 4500;

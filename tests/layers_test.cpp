@@ -1,5 +1,6 @@
-// The layers: what replaces the application knows nothing of what draws, and no include points
-// upwards. The linker enforces the first by the targets; this looks at the result.
+// Checks the layers: no file includes a file of a higher layer, and programs that only pack or
+// unpack an application need no GUI library of Qt. The libraries of the CMake targets ensure the
+// latter; the test checks the programs that result.
 
 #include <filesystem>
 #include <iterator>
@@ -11,8 +12,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// From the bottom to the top: a file may include files of its own layer and of those above it in
-// this list. A file belongs to the last layer whose pattern it matches.
+// The layers from the lowest to the highest. A file belongs to the first layer whose pattern it
+// matches, and may include files of its own layer and of those before it in this list.
 const std::regex kLayers[] = {
     std::regex("ustring/.*"),
     std::regex("lib/(config|libtmpname|platform)/.*|lib/install-layout.h|libcommon/.*"),
@@ -59,7 +60,7 @@ TEST(LayersTest, NoIncludePointsUpwards) {
 
 TEST(LayersTest, OnlyTheWindowLinksWidgets) {
     for (const std::string program : {MAKE_PACKAGE, EXTRACTOR_TEST}) {
-        const std::string binary = ReadFile(program);  // which names the libraries that it needs
+        const std::string binary = ReadFile(program);  // contains the names of its libraries
         EXPECT_NE(binary.find("libQt5Core.so"), std::string::npos) << program;
         EXPECT_EQ(binary.find("libQt5Widgets.so"), std::string::npos) << program;
         EXPECT_EQ(binary.find("libQt5Gui.so"), std::string::npos) << program;

@@ -1,4 +1,4 @@
-// The choice of the language, the embedded catalogs and the string table.
+// Tests the choice of the language, the embedded catalogs and the string table.
 
 #include "libcommon/OrvLocale.h"
 
@@ -25,7 +25,7 @@ class LocaleTest : public testing::Test {
         StrTable::InitStrTable();
     }
 
-    // Asks a process of its own, because Qt reads the environment's locale once.
+    // Runs in a child process, because Qt reads the locale from the environment only once.
     static QString languageOf(const char* locale) {
         const pid_t pid = fork();
         if (pid == 0) {
@@ -52,7 +52,7 @@ TEST_F(LocaleTest, FollowsTheSystemsLocale) {
         ASSERT_TRUE(std::regex_search(catalog, match, language)) << code.toStdString();
         EXPECT_EQ(languageOf(match[1].str().c_str()), code) << match[1];
     }
-    // The last four are what macOS makes of the user's first language and the region.
+    // The last four are locales that macOS forms from the user's first language and region.
     const std::vector<std::pair<const char*, const char*>> cases = {
         {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"zh_SG", "chs"}, {"de_CH", "deu"},
         {"nn_NO", "nor"}, {"el_GR", "enu"}, {"C", "enu"},     {"de_US", "deu"},

@@ -28,7 +28,7 @@ class LogTest : public testing::Test {
     int logToFile(int rotate_cnt = 50) {
         return Logger::Initialize(Logger::TYPE_FILE, log_.c_str(), levels_.c_str(), rotate_cnt);
     }
-    // Writes a line that is this long with its time.
+    // Writes a line of this many bytes, including its timestamp.
     static void writeLine(std::size_t size) {
         const std::string text(size - std::strlen("Nov 16 21:52:51 \n") - kPrefix.size(), 'x');
         LOG_MSG_AT(1, ERROR, "%s\n", text.c_str());
@@ -75,7 +75,7 @@ TEST_F(LogTest, ThresholdsComeFromTheLevelFile) {
     EXPECT_EQ(WithoutTimes(ReadFile(log_)), "[INFO] log_test(1): info\nwarning\ndefault\n");
 }
 
-// vsyslog writes to /dev/log, and with LOG_PERROR to standard error as well.
+// With LOG_PERROR, vsyslog writes to standard error too, where the test can read it.
 TEST_F(LogTest, WritesWhereItIsTold) {
     openlog("log_test", LOG_PERROR, LOG_USER);
     using Texts = std::vector<std::string>;

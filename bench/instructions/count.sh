@@ -8,15 +8,16 @@ usage() {
 usage: bench/instructions/count.sh --update
        bench/instructions/count.sh PROGRAM OPERATION
   --update   build hot-operations for release, count each of its operations and write the bars
-  PROGRAM    the path of hot-operations; fails when OPERATION takes over 20 % more than its bar
+  PROGRAM    the path of hot-operations
+  OPERATION  count this operation; exit with status 1 if it exceeds its bar by over 20 %
 END
 }
 
 bars=$(dirname "$0")/bars.txt
 
-# The instructions of one operation: count PROGRAM OPERATION TIMES. The environment is the same
-# everywhere: no other locales, time zones and hash seeds, symbols looked up at the start, and the C
-# library's choice of code the same for each processor.
+# Prints the instructions of one operation: count PROGRAM OPERATION TIMES. Fixes what would make the
+# count differ between machines: locale, time zone, hash seed, late binding of symbols, and the code
+# that the C library chooses for the processor.
 count() {
     local profile total plain=-AVX_Fast_Unaligned_Load,-AVX2,-AVX,-BMI2,-ERMS,-FSRM,-SSSE3
     profile=$(dirname "$1")/$2.callgrind
@@ -29,7 +30,7 @@ count() {
             --collect-atstart=no --toggle-collect=Counted "$1" "$2" >&2
     )
     total=$(sed -n 's/^totals: //p' "$profile")
-    [ "${total:-0}" -gt 0 ] || { echo "$2: nothing was counted" >&2; return 1; }
+    [ "${total:-0}" -gt 0 ] || { echo "$2: callgrind counted no instructions" >&2; return 1; }
     echo $((total / $3))
 }
 
@@ -54,7 +55,7 @@ check() {
     program=$(realpath "$1")
     operations=$("$program" --list)
     if ! diff <(cut -d ' ' -f 1 <<<"$operations") <(grep '^[a-z]' "$bars" | cut -d ' ' -f 1); then
-        echo "bars.txt lists other operations than hot-operations; run $0 --update" >&2
+        echo "bars.txt and hot-operations list different operations; run $0 --update" >&2
         return 1
     fi
     times=$(sed -n "s/^$name //p" <<<"$operations")

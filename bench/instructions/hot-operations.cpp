@@ -1,5 +1,5 @@
-// Runs one operation repeatedly within Counted(), whose instructions count.sh counts, and arranges
-// what the operation needs outside.
+// Runs one operation repeatedly inside Counted(), whose instructions count.sh counts. What prepares
+// the operation runs outside of Counted().
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -22,10 +22,10 @@
 
 int qInitResources_texts();  // generated with the catalogs
 
-// What is counted: callgrind knows it by this name. False when the operation failed.
+// Callgrind finds this function by its name. Returns false if the operation failed.
 extern "C" [[gnu::noinline]] bool Counted(const std::function<bool()>& operation) {
     const bool done = operation();
-    asm volatile("");  // keeps the call from becoming a jump, which would never return to here
+    asm volatile("");  // prevents a tail call, which would not return here
     return done;
 }
 
@@ -38,14 +38,14 @@ const char kVersionFile[] = ".Tarnwell/Tarnwell.app/Contents/Resources/INFO";
 const char kVersion[] =
     "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=100\nicon_overlay_version=1\n";
 
-// Lets the version that was read be seen.
+// Gives access to the version that was read.
 class InstalledVersion : public MacService {
   public:
     const ustring& build() const { return source_version.build_version; }
 };
 
-// Runs an operation once so that what is only done the first time isn't counted, and then count
-// times. What prepare() does isn't counted.
+// Runs an operation once without counting, because the first run does additional work, and then
+// count times with counting. Calls prepare() before each run, without counting.
 void Repeat(
     int count, const std::function<bool()>& operation,
     const std::function<void()>& prepare = [] {}) {
@@ -57,7 +57,7 @@ void Repeat(
     }
 }
 
-// Text that doesn't compress to nothing, and is the same in every run.
+// Varied text, which doesn't compress to almost nothing. It is the same in every run.
 std::string Content(unsigned number) {
     std::string text;
     for (unsigned word = number; text.size() < 1024; word = word * 1664525 + 1013904223) {
@@ -130,7 +130,7 @@ void MakeExistingFolder(const Folder& folder, int count) {
     Repeat(count, [&] { return FSMKDirP(path, nullptr, false, 0xFFFF) == 0; });
 }
 
-// One tree of so many files.
+// Removes one tree of count files.
 void RemoveTree(const Folder& folder, int count) {
     const ustring path(folder / "tree");
     Repeat(
@@ -156,7 +156,7 @@ void CopyFile(const Folder& folder, int count) {
     }
 }
 
-// One archive of so many files.
+// Unpacks one archive of count files.
 void Unpack(const Folder& folder, int count, const std::string& format) {
     std::vector<Entry> entries;
     entries.reserve(static_cast<std::size_t>(count));
@@ -190,7 +190,7 @@ void LoadString(const Folder&, int count) {
     Repeat(count, [] { return !StrTable::LoadStr(StrTable::kPreparing).isEmpty(); });
 }
 
-// Each time the file has another time, so that nothing kept of an earlier reading will do.
+// Changes the file's time before each run, so that the launcher can't use a cached version.
 void ReadVersion(const Folder& folder, int count) {
     MakeFile(folder / kVersionFile, kVersion);
     InstalledVersion version;
@@ -207,7 +207,7 @@ void ReadVersion(const Folder& folder, int count) {
         });
 }
 
-// What every start does: no upgrade was cut off.
+// What every start does if no upgrade was interrupted.
 void FindNoRecord(const Folder& folder, int count) {
     MakeFolder(folder / ".Tarnwell");
     const ustring user_folder(folder / ".Tarnwell");
