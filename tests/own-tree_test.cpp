@@ -127,7 +127,7 @@ TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
     MakeFolder("tree/closed/bound");
     if (!disk.mounted() ||
         mount("elsewhere", "tree/closed/bound", nullptr, MS_BIND, nullptr) != 0) {
-        GTEST_SKIP() << "this user may not mount a small disk";
+        GTEST_SKIP() << "this user can't mount a small disk";
     }
     MakeFile("tree/closed/disk/file");
     MakeFile("tree/closed/removed/file");

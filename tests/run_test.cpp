@@ -324,7 +324,7 @@ TEST_F(RunTest, WhatCannotBeRemovedIsSetAsideForTheOldApplication) {
     {
         const SmallDisk disk(app("volume"), "1m");
         if (!disk.mounted()) {
-            GTEST_SKIP() << "this user may not mount a small disk";
+            GTEST_SKIP() << "this user can't mount a small disk";
         }
         MakeFile(app("volume/file"), "kept");
         for (int start = 0; start < 3; ++start) {
