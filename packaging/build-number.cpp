@@ -32,25 +32,26 @@ bool ReadSmallFile(const std::string& file, std::string& text, Fault& fault) {
 }  // namespace
 
 bool ReadBuildNumber(const std::string& file, int& number, Fault& fault) {
-    std::string content;
-    if (!ReadSmallFile(file, content, fault)) {
-        return false;
-    }
+    std::string text;
+    return ReadSmallFile(file, text, fault) && ParseBuildNumber(text, number, fault);
+}
+
+bool ParseBuildNumber(const std::string& text, int& number, Fault& fault) {
     VerInfo version;
-    if (LoadVersion(file.c_str(), version) != platform::Reading::Done) {
+    if (!ParseVersion(text, version)) {
         fault.what = "can't be read";
         return false;
     }
     // The launcher reads the number up to the first other character.
-    const QString text = QString::fromUtf8(version.build_version.c_str());
+    const QString digits = QString::fromUtf8(version.build_version.c_str());
     bool is_number = false;
-    number = text.toInt(&is_number);
-    if (is_number && number > 0 && QString::number(number) == text) {
+    number = digits.toInt(&is_number);
+    if (is_number && number > 0 && QString::number(number) == digits) {
         return true;
     }
     fault.what = "has no build_version from 1 to " +
                  std::to_string(std::numeric_limits<int>::max()) +
-                 " in its group [Version], but '" + text.toStdString() + "'";
+                 " in its group [Version], but '" + digits.toStdString() + "'";
     fault.advice = "write the number in digits, greater than the last one shipped";
     return false;
 }

@@ -8,16 +8,15 @@
 #include <vector>
 
 #include "lib/install-layout.h"
-#include "lib/platform/memory-file.h"
 #include "packaging/build-number.h"
 #include "packaging/fault.h"
 #include "ui-client/launcher/package-reader.h"
+#include "ui-client/launcher/version-file.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-const std::size_t kMaxInfo = std::size_t{1024} * 1024;  // bytes
 const int kBlockSize = 65536;
 
 // Reads one package.
@@ -103,7 +102,7 @@ class Scan {
                ARCHIVE_OK) {
             const char* const bytes = static_cast<const char*>(block);
             hash.addData(bytes, static_cast<int>(size));
-            if (is_info && info_.size() + size <= kMaxInfo) {
+            if (is_info && info_.size() + size <= kMaxVersionFile) {
                 info_.append(bytes, size);
             }
         }
@@ -119,9 +118,8 @@ class Scan {
             all.addData(digest);
         }
         content_.digest = all.result().toStdString();
-        const platform::MemoryFile copy(info_);
         Fault ignored;
-        if (!ReadBuildNumber(copy.path(), content_.build_number, ignored)) {
+        if (!ParseBuildNumber(info_, content_.build_number, ignored)) {
             content_.build_number = 0;
         }
     }
