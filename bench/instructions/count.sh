@@ -38,8 +38,7 @@ update() {
     local program name times rows bar
     cd "$(dirname "$0")/../.." >/dev/null
     bars=bench/instructions/bars.txt
-    cmake --preset release >/dev/null
-    cmake --build --preset release --target hot-operations
+    scripts/build hot-operations
     program=$PWD/build/release/bench/instructions/hot-operations
     rows=$("$program" --list | while read -r name times; do
         bar=$(count "$program" "$name" "$times")
