@@ -1,11 +1,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <cstddef>
 #include <sstream>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "lib/libclient/file-op-internal.h"
 #include "lib/libclient/file-op.h"
@@ -20,41 +18,6 @@ using platform::Descriptor;
 namespace {
 
 const int kFolderToPass = platform::kOpenToPass | O_DIRECTORY | O_CLOEXEC;
-const std::size_t kCopyBatch = 32;  // files that are forced to the disk together
-
-// Copies files as FSCopy does, but forces them to the disk in batches. When sync() returns, every
-// file is on the disk or its failure has been reported.
-class CopyBatch {
-  public:
-    CopyBatch() = default;
-    ~CopyBatch() { static_cast<void>(sync()); }
-    CopyBatch(const CopyBatch&) = delete;
-    CopyBatch& operator=(const CopyBatch&) = delete;
-
-    // Returns 0, or FSCopy's result for this file or for another one of the batch.
-    int copy(const Place& src, const Place& dst) {
-        Descriptor destination(-1);
-        const int result = file_op::CopyContent(src, dst, destination);
-        if (destination.get() >= 0) {
-            platform::StartWriting(destination.get());
-            copied_.push_back(std::move(destination));
-        }
-        return result == 0 && copied_.size() >= kCopyBatch ? sync() : result;
-    }
-
-    // Returns 0, or FSCopy's result for the first file that failed.
-    int sync() {
-        int result = 0;
-        for (Descriptor& file : copied_) {
-            result = file_op::FinishCopy(file, result);
-        }
-        copied_.clear();
-        return result;
-    }
-
-  private:
-    std::vector<Descriptor> copied_;
-};
 
 bool IsSame(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
@@ -114,10 +77,17 @@ class TreeCopy : private file_op::Walk {
         const Place from(src);
         const Place to(dst);
         const std::int32_t type = file_op::TypeAt(from);
-        const bool begun = type == FILE_TYPE_DIR
-                               ? isOutside(from, to) && enter(from, to, FSMKDir(dst, true))
-                               : copyFile(from, to, type);
-        return begun && run() && batch_.sync() == 0 ? 0 : -1;
+        if (type != FILE_TYPE_DIR) {
+            return copyFile(from, to, type) ? 0 : -1;
+        }
+        if (!isOutside(from, to) || !enter(from, to, FSMKDir(dst, true))) {
+            return -1;
+        }
+        volume_ = volumeToSync(dst);
+        const bool copied = run();
+        const bool is_on_disk =
+            volume_ == 0 || platform::SyncVolume(dst.c_str()) == 0 || file_op::FailWrite() == 0;
+        return copied && is_on_disk ? 0 : -1;
     }
 
   private:
@@ -145,6 +115,13 @@ class TreeCopy : private file_op::Walk {
             file_op::LogOpenFailure(chain.at("."));
         }
         return left;
+    }
+
+    // The volume of a folder that can be read, as SyncVolume() needs it, or 0.
+    static dev_t volumeToSync(const ustring& folder) {
+        const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        struct stat status;
+        return fstat(opened.get(), &status) == 0 ? status.st_dev : 0;
     }
 
     bool copyFolder(const Place& src, const Place& dst) {
@@ -203,7 +180,14 @@ class TreeCopy : private file_op::Walk {
             listener_.onSpecial(src.path().c_str(), type);
             return false;
         }
-        return batch_.copy(src, dst) == 0;
+        Descriptor destination(-1);
+        const int result = file_op::CopyContent(src, dst, destination);
+        if (destination.get() < 0) {
+            return false;
+        }
+        // Through a link or a mount, the file can be on another volume.
+        const bool sync = fstat(destination.get(), &status) != 0 || status.st_dev != volume_;
+        return file_op::FinishCopy(destination, result, sync) == 0;
     }
 
     // Reports that an entry of the current folder wasn't copied, then the same of each folder above
@@ -222,7 +206,7 @@ class TreeCopy : private file_op::Walk {
     }
 
     FSCopyListener& listener_;
-    CopyBatch batch_;
+    dev_t volume_ = 0;  // that is forced to the disk at the end; 0: each file is
     const file_op::LookUpLog look_ups_;
     FolderChain to_{FolderChain::Pass};
 };

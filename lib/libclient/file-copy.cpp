@@ -24,20 +24,13 @@ namespace {
 
 const int kCopySize = 32 * 1024 * 1024;
 
-// Logs errno and returns FSCopy's result for it.
-int FailWrite() {
-    const int error = errno;
-    LOG_MSG(ERROR, "CopyFile: write: %s (%d)\n", strerror(error), error);
-    return error == ENOSPC || error == EDQUOT ? -2 : -1;
-}
-
 // Writes all of the bytes; 0, or FSCopy's result.
 int WriteAll(int fd, const char* bytes, std::size_t size) {
     while (size > 0) {
         const ssize_t written = write(fd, bytes, size);
         if (written <= 0) {
             errno = written < 0 ? errno : EIO;
-            return FailWrite();
+            return file_op::FailWrite();
         }
         bytes += written;
         size -= static_cast<std::size_t>(written);
@@ -92,6 +85,12 @@ bool Truncate(int destination, int source) {
 
 }  // namespace
 
+int file_op::FailWrite() {
+    const int error = errno;
+    LOG_MSG(ERROR, "CopyFile: write: %s (%d)\n", strerror(error), error);
+    return error == ENOSPC || error == EDQUOT ? -2 : -1;
+}
+
 void file_op::LogOpenFailure(const Place& place) {
     const int error = errno;
     LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)\n", place.path().c_str(), strerror(error), error);
@@ -111,8 +110,8 @@ int file_op::CopyContent(const Place& src, const Place& dst, Descriptor& destina
     return CopyBytes(source.get(), destination.get());
 }
 
-int file_op::FinishCopy(Descriptor& destination, int result) {
-    if (platform::SyncFile(destination.get()) != 0 && result == 0) {
+int file_op::FinishCopy(Descriptor& destination, int result, bool sync) {
+    if (sync && platform::SyncFile(destination.get()) != 0 && result == 0) {
         result = FailWrite();
     }
     if (destination.close() != 0 && result == 0) {
@@ -125,7 +124,7 @@ int file_op::CopyFile(const Place& src, const Place& dst, bool remove_src) {
     Descriptor destination(-1);
     int result = CopyContent(src, dst, destination);
     if (destination.get() >= 0) {
-        result = FinishCopy(destination, result);
+        result = FinishCopy(destination, result, true);
     }
     if (result != 0 || !remove_src) {
         return result;

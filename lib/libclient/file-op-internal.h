@@ -43,11 +43,12 @@ class LookUpLog {
 int CopyFile(const Place& src, const Place& dst, bool remove_src);
 
 // The two halves of FSCopy, with its results. CopyContent copies the bytes and leaves the
-// destination open, if it could be opened. FinishCopy forces it to the disk and closes it; result
-// is that of CopyContent, and is returned if it is a failure.
+// destination open, if it could be opened. FinishCopy forces it to the disk, if sync is true, and
+// closes it; result is that of CopyContent, and is returned if it is a failure.
 int CopyContent(const Place& src, const Place& dst, platform::Descriptor& destination);
-int FinishCopy(platform::Descriptor& destination, int result);
+int FinishCopy(platform::Descriptor& destination, int result, bool sync);
 
+int FailWrite();                          // logs errno and returns FSCopy's result for it
 void LogOpenFailure(const Place& place);  // with errno
 
 // make-folder.cpp

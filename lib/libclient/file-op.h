@@ -119,10 +119,11 @@ class FSCopyListener {
 };
 
 // Copies a file as FSCopy does, or a folder with everything below it. An existing folder is merged
-// into; links to files in the source are followed; pipes, sockets and devices are refused. Files
-// are forced to the disk in batches, which takes far less time than one by one. Depth and size of a
-// tree are not limited. A folder isn't copied into itself: where dst would be is found out before
-// anything is created. Not atomic: a failure ends the copy, leaves what was copied, and returns -1.
+// into; links to files in the source are followed; pipes, sockets and devices are refused. The
+// volume of a folder's copy is forced to the disk once, at the end, which takes far less time than
+// file by file. Depth and size of a tree are not limited. A folder isn't copied into itself: where
+// dst would be is found out before anything is created. Not atomic: a failure ends the copy, leaves
+// what was copied, and returns -1.
 int FSCopyTree(const ustring& src, const ustring& dst, FSCopyListener& listener);
 
 // Moves src to dst. On one volume this is atomic and replaces an existing file or empty folder.
