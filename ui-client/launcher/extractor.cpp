@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <set>
 #include <string>
@@ -98,8 +99,41 @@ class ClosedFolders {
     std::vector<std::pair<std::string, mode_t>> folders_;
 };
 
+// Reports the entries that are written. A report wakes the main thread, which can take longer than
+// unpacking a small file, so the reports of one frame on the screen are sent together.
+class ProgressReports {
+  public:
+    explicit ProgressReports(int total) : total_(total) {}
+    ~ProgressReports() { send(); }
+    ProgressReports(const ProgressReports&) = delete;
+    ProgressReports& operator=(const ProgressReports&) = delete;
+
+    void entryIsWritten() {
+        ++written_;
+        if (Clock::now() - last_sent_ >= kFrame) {
+            send();
+        }
+    }
+
+    void send() {
+        while (sent_ < written_) {
+            Notify_Adapter::GetInstance()->UpdateProgress(total_, ++sent_);
+        }
+        last_sent_ = Clock::now();
+    }
+
+  private:
+    using Clock = std::chrono::steady_clock;
+    static constexpr std::chrono::milliseconds kFrame{16};
+
+    const int total_;
+    int written_ = 0;
+    int sent_ = 0;
+    Clock::time_point last_sent_;  // long ago, so that the first report is sent at once
+};
+
 int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGuard& guard,
-                 ClosedFolders& closed, int total, int number) {
+                 ClosedFolders& closed, ProgressReports& progress) {
     if (archive_entry_pathname(entry) == nullptr) {
         LOG_MSG(ERROR, "archive_entry_pathname failed");
         return -1;
@@ -110,16 +144,20 @@ int ExtractEntry(archive* reader, archive_entry* entry, archive* writer, EntryGu
         return -1;
     }
     closed.add(entry);
+    const bool is_large = archive_entry_size(entry) >= kLargeFile;
+    if (is_large) {
+        progress.send();  // the next report may be a while
+    }
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader).c_str());
         return -1;
     }
-    Notify_Adapter::GetInstance()->UpdateProgress(total, number);
+    progress.entryIsWritten();
     if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer).c_str());
         return -1;
     }
-    if (archive_entry_size(entry) >= kLargeFile && archive_entry_filetype(entry) == AE_IFREG) {
+    if (is_large && archive_entry_filetype(entry) == AE_IFREG) {
         platform::StartWriting(archive_entry_pathname(entry));
     }
     return 0;
@@ -142,6 +180,7 @@ bool IsWhole(PackageReader& package, int entries) {
 int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_dir, int total,
                    ClosedFolders& closed) {
     EntryGuard guard(dest_dir.c_str());
+    ProgressReports progress(total);
     for (int number = 1;; ++number) {
         archive_entry* entry = nullptr;
         const int result = package.next(entry);
@@ -153,7 +192,7 @@ int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_
                     ErrorText(package.get()).c_str());
             return -1;
         }
-        if (ExtractEntry(package.get(), entry, writer, guard, closed, total, number) != 0) {
+        if (ExtractEntry(package.get(), entry, writer, guard, closed, progress) != 0) {
             return -1;
         }
     }
