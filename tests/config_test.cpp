@@ -5,7 +5,6 @@
 #include <climits>
 
 #include "tests/support/scenario.h"
-#include "tests/support/system.h"
 
 namespace {
 
@@ -21,13 +20,11 @@ class ConfigTest : public testing::Test {
 };
 
 TEST_F(ConfigTest, Accepts) {
-    using Entries = std::map<ustring, ustring>;
-    const std::vector<std::pair<const char*, Entries>> cases = {
+    const std::pair<const char*, std::map<ustring, ustring>> cases[] = {
         {"pid=1234\n", {{"pid", "1234"}}},
         {"pid=1234", {{"pid", "1234"}}},
-        {" \t key \v= value  # note\n", {{"key", "value"}}},
+        {" \t a.b-c_d \v= value  # note\n", {{"a.b-c_d", "value"}}},
         {"a='two words'\nb=\"it's\"#note\nc=''\n", {{"a", "two words"}, {"b", "it's"}, {"c", ""}}},
-        {"a.b-c_d=1\n", {{"a.b-c_d", "1"}}},
         {"a=abc#def\nb=abc #def\nc= #x\n", {{"a", "abc#def"}, {"b", "abc"}, {"c", "#x"}}},
         {"a=a=b\nb=it's\nc=\xC3\xA9\r\n", {{"a", "a=b"}, {"b", "it's"}, {"c", "\xC3\xA9"}}},
         {"=x\n", {{"", "x"}}},
@@ -69,8 +66,7 @@ TEST_F(ConfigTest, ReadsALongLineInPieces) {
 
 TEST_F(ConfigTest, ANulEndsALineAndAFailingDiskTheFile) {
     EXPECT_EQ(read(std::string("a=1\0b=2\nc=3\n", 12)), 0);
-    const std::string file = UnreadableFile();
-    EXPECT_EQ(config_.read(file.c_str()), file.empty() ? -1 : 0);
+    EXPECT_EQ(config_.read("/proc/self/mem"), Exists("/proc/self/mem") ? 0 : -1);
     EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"c", "3"}}));
 }
 
@@ -95,18 +91,16 @@ TEST_F(ConfigTest, OpensNothingButASmallRegularFileInside) {
 }
 
 TEST_F(ConfigTest, ReadsIntegers) {
-    const std::map<std::string, int> cases = {{"12abc", 12},
-                                              {"abc", 0},
-                                              {"-7", -7},
-                                              {"+5", 5},
-                                              {"''", 0},
-                                              {"' 8'", 8},
-                                              {"0x10", 0},
-                                              {"2147483647", INT_MAX},
-                                              {"-2147483648", INT_MIN},
-                                              {"2147483648", 0}};
+    const std::pair<const char*, int> cases[] = {{"2147483647", INT_MAX},
+                                                 {"2147483648", 0},
+                                                 {"-2147483648", INT_MIN},
+                                                 {"+12abc", 12},
+                                                 {"' -8'", -8},
+                                                 {"abc", 0},
+                                                 {"''", 0},
+                                                 {"0x10", 0}};
     for (const auto& [text, number] : cases) {
-        ASSERT_EQ(read("x= " + text + "\n"), 0) << text;
+        ASSERT_EQ(read(std::string("x= ") + text + "\n"), 0) << text;
         EXPECT_EQ(config_.get_int("x"), number) << text;
     }
     EXPECT_EQ(config_.get_int("absent"), 0);

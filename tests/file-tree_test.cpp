@@ -9,6 +9,7 @@
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
 #include "tests/support/file-op-fixture.h"
+#include "tests/support/system.h"
 
 namespace {
 
@@ -32,14 +33,14 @@ TEST_F(FileTreeTest, AFullDiskIsTold) {
 class OtherVolumeTest : public FileOpTest {
   protected:
     void SetUp() override {
-        if (AnotherVolume().empty()) {
+        if (!Exists("/dev/shm")) {
             GTEST_SKIP() << "there is no other volume";
         }
     }
 };
 
 TEST_F(OtherVolumeTest, MovesATreeAlsoIntoFoldersThatCannotBeListed) {
-    ASSERT_EQ(chmod(".", 0777) + chmod(other_volume_.path().c_str(), 0777), 0);
+    ASSERT_EQ(chmod(other_volume_.path().c_str(), 0777), 0);
     const std::string dst = other_volume_ / "tree";
     const AsNobody nobody;
     MakeFile("tree/a/b/file", "new", 0600);

@@ -2,15 +2,14 @@
 
 #include "libcommon/OrvLocale.h"
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QSysInfo>
 #include <QTranslator>
 #include <regex>
 
 #include "tests/support/scenario.h"
-#include "tests/support/system.h"
 #include "ui-client/launcher/translations/str-table.h"
 
 int qInitResources_texts();
@@ -25,65 +24,61 @@ class LocaleTest : public testing::Test {
         StrTable::InitStrTable();
     }
 
-    // Runs in a child process, because Qt reads the locale from the environment only once.
-    static QString languageOf(const char* locale) {
-        const pid_t pid = fork();
-        if (pid == 0) {
-            qputenv("LC_ALL", locale);
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-            const QString code = OrvLocale::getDefaultLanguage();
-            _exit(OrvLocale::getSupportedLanguages().indexOf(code));
-        }
-        int status = 0;
-        waitpid(pid, &status, 0);
-        return WIFEXITED(status) ? OrvLocale::getLanguageAbbrByID(WEXITSTATUS(status))
-                                 : QStringLiteral("crashed");
+    // Uses a child process, because Qt reads the locale from the environment only once.
+    void expectLanguage(const std::string& locale, const QString& code) const {
+        const auto choose = [&] {
+            qputenv("LC_ALL", locale.c_str());
+            _exit(codes_.indexOf(OrvLocale::getDefaultLanguage()));
+        };
+        EXPECT_EXIT(choose(), testing::ExitedWithCode(codes_.indexOf(code)), "") << locale;
     }
+
+    const QStringList codes_ = OrvLocale::getSupportedLanguages();
+    const bool has_environment_ = QSysInfo::kernelType() != QLatin1String("darwin");
 };
 
 TEST_F(LocaleTest, FollowsTheSystemsLocale) {
-    if (!HasLocaleInEnvironment()) {
-        GTEST_SKIP() << "the environment doesn't name the locale";
+    if (!has_environment_) {
+        GTEST_SKIP() << "this system doesn't take the locale from the environment";
     }
     const std::regex language(" language=\"(\\w+)\"");
-    for (const QString& code : OrvLocale::getSupportedLanguages()) {
+    for (const QString& code : codes_) {
         const std::string catalog = ReadFile(TRANSLATIONS "/" + code.toStdString() + ".ts");
         std::smatch match;
         ASSERT_TRUE(std::regex_search(catalog, match, language)) << code.toStdString();
-        EXPECT_EQ(languageOf(match[1].str().c_str()), code) << match[1];
+        expectLanguage(match[1], code);
     }
     // The last four are locales that macOS forms from the user's first language and region.
-    const std::vector<std::pair<const char*, const char*>> cases = {
+    const std::pair<const char*, const char*> cases[] = {
         {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"zh_SG", "chs"}, {"de_CH", "deu"},
         {"nn_NO", "nor"}, {"el_GR", "enu"}, {"C", "enu"},     {"de_US", "deu"},
         {"pt_FI", "ptb"}, {"zh_DE", "chs"}, {"fi_DE", "enu"}};
     for (const auto& [locale, code] : cases) {
-        EXPECT_EQ(languageOf(locale).toStdString(), code) << locale;
+        expectLanguage(locale, QLatin1String(code));
     }
 }
 
 TEST_F(LocaleTest, TracesItsChoiceAlsoWithoutTheCatalogs) {
-    if (!HasLocaleInEnvironment()) {
-        GTEST_SKIP() << "the environment doesn't name the locale";
+    if (!has_environment_) {
+        GTEST_SKIP() << "this system doesn't take the locale from the environment";
     }
     qputenv("LC_ALL", "de_DE");
     const auto trace = [] { return CaptureStderr([] { OrvLocale::getDefaultLanguage(); }); };
     const std::string start =
         "../libcommon/OrvLocale.cpp:64 qPrintable(qstrLocaleLower)=[de_de\n] \n"
         "../libcommon/OrvLocale.cpp:80 qPrintable(qstrLocaleLower)=[de_de] \n";
-    EXPECT_EQ(trace(), start +
-                           "../libcommon/OrvLocale.cpp:161 "
-                           "qPrintable(qstrLangFileName)=[:/deu.qm] \n"
-                           "../libcommon/OrvLocale.cpp:138 qPrintable(qstrDef)=[deu] \n");
+    const std::string file =
+        "../libcommon/OrvLocale.cpp:161 qPrintable(qstrLangFileName)=[:/deu.qm] \n";
+    const std::string choice = "../libcommon/OrvLocale.cpp:138 qPrintable(qstrDef)=";
+    EXPECT_EQ(trace(), start + file + choice + "[deu] \n");
     qCleanupResources_texts();
-    EXPECT_EQ(trace(), start + "../libcommon/OrvLocale.cpp:138 qPrintable(qstrDef)=[enu] \n");
+    EXPECT_EQ(trace(), start + choice + "[enu] \n");
 }
 
 TEST_F(LocaleTest, NumbersItsLanguages) {
-    const QStringList codes = OrvLocale::getSupportedLanguages();
-    EXPECT_EQ(codes.indexOf(QStringLiteral("ptg")), 17);
-    for (int id = -1; id <= codes.size(); ++id) {
-        EXPECT_EQ(OrvLocale::getLanguageAbbrByID(id), codes.value(id));
+    EXPECT_EQ(codes_.indexOf(QStringLiteral("ptg")), 17);
+    for (int id = -1; id <= codes_.size(); ++id) {
+        EXPECT_EQ(OrvLocale::getLanguageAbbrByID(id), codes_.value(id));
     }
     EXPECT_FALSE(OrvLocale::isLanguageInstalled(QStringLiteral("xyz")));
 }
@@ -107,14 +102,11 @@ TEST_F(LocaleTest, LoadsTextsInEnglishAndTranslated) {
 }
 
 TEST_F(LocaleTest, FindsIdsByKey) {
-    const std::pair<const char*, int> cases[] = {{"btn_resume", 0},
-                                                 {"APP_NAME", 493},
-                                                 {"desc_cannot_list_version", 599},
-                                                 {"app_name ", -1},
-                                                 {"", -1}};
-    for (const auto& [key, id] : cases) {
-        EXPECT_EQ(StrTable::LookupStrID(QString::fromLatin1(key)), id) << key;
-    }
+    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("btn_resume")), 0);
+    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("APP_NAME")), 493);
+    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("desc_cannot_list_version")), 599);
+    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("app_name ")), -1);
+    EXPECT_EQ(StrTable::LookupStrID(QString()), -1);
 }
 
 }  // namespace

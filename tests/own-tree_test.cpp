@@ -6,16 +6,12 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/mount.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
-#include <string>
 
 #include "lib/libclient/file-op.h"
-#include "tests/support/scenario.h"
+#include "tests/support/file-op-fixture.h"
 #include "tests/support/system.h"
 #include "tests/support/traced-run.h"
 #include "ui-client/launcher/move-entries.h"
@@ -26,48 +22,30 @@ namespace {
 
 int reads_until_failure = 0;  // readdir() calls; 0: none fails
 
-mode_t ModeOf(const std::string& path) {
-    struct stat status;
-    return lstat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
-
-class OwnTreeTest : public testing::Test {
+class OwnTreeTest : public FileOpTest {
   protected:
-    OwnTreeTest() {
-        umask(022);
-        EXPECT_EQ(chmod(folder_.path().c_str(), 0777), 0);
-        EXPECT_EQ(chdir(folder_.path().c_str()), 0);
-    }
+    OwnTreeTest() : FileOpTest("/dev/shm") {}  // in memory, where creating folders is fast
 
-    // Creates a tree that belongs to the user that AsNobody switches to.
-    static void makeClosedTree(const std::string& path, mode_t top = 0755) {
+    // Creates a tree that belongs to the user that AsNobody switches to. The name of each folder in
+    // it is the folder's mode. One folder is empty.
+    static void makeClosedTree(const fs::path& path, mode_t top = 0755) {
         const AsNobody nobody;
-        const std::pair<const char*, mode_t> folders[] = {{"read-only/in read-only/in both", 0555},
-                                                          {"read-only/in read-only/empty", 0777},
-                                                          {"read-only/in read-only", 0555},
-                                                          {"read-only/closed/open", 0755},
-                                                          {"read-only/closed", 0},
-                                                          {"read-only", 0555},
-                                                          {"read-only/shared", 0575},
-                                                          {"unsearchable/closed", 0},
-                                                          {"unsearchable", 0444},
-                                                          {"unreadable/unsearchable", 0660},
-                                                          {"unreadable", 0333},
-                                                          {"empty", 0},
-                                                          {"open/group", 0775},
-                                                          {"open", 01755},
-                                                          {"", top}};
-        for (const auto& [name, mode] : folders) {
-            MakeFile(path + "/" + name + "/file", name);
+        // From the bottom up: the modes of the upper ones deny access to the lower ones.
+        const auto folders = {"555/555/1777", "555/555/555", "555/555",  "555/0/755", "555/0",
+                              "555/575",      "555",         "444/0",    "444",       "333/660",
+                              "333",          "0",           "1755/775", "1755"};
+        for (const char* const folder : folders) {
+            MakeFile(path / folder / "file", folder);
         }
-        unlink((path + "/empty/file").c_str());
-        MakeLink("read-only/file", path + "/read-only/link");
-        for (const auto& [name, mode] : folders) {
-            ASSERT_EQ(chmod((path + "/" + name).c_str(), mode), 0);
+        MakeFile(path / "file");
+        MakeLink("555/file", path / "555/link");
+        fs::remove(path / "0/file");
+        for (const char* const folder : folders) {
+            const auto mode = std::stoul(fs::path(folder).filename(), nullptr, 8);
+            fs::permissions(path / folder, fs::perms(mode));
         }
+        fs::permissions(path, fs::perms(top));
     }
-
-    Folder folder_{"/dev/shm"};  // in memory, where creating folders is fast
 };
 
 // Tests that only root can set up or check.
@@ -94,41 +72,38 @@ TEST_F(OwnTreeTest, RemovesWhatItsOwnerMayNotChange) {
     makeClosedTree("tree");
     const AsNobody nobody;
     MakeLink("../outside", "tree/link to folder");
-    MakeLink("../tree/open", "way");
+    MakeLink("../tree/1755", "way");
     EXPECT_EQ(FSRemoveOwnTree("way/"), 0);
-    EXPECT_TRUE(!Exists("way") && Exists("tree/open"));
+    EXPECT_TRUE(!Exists("way") && Exists("tree/1755"));
     EXPECT_EQ(FSRemoveOwnTree("tree//"), 0);
     EXPECT_FALSE(Exists("tree"));
     EXPECT_EQ(ModeOf("outside"), 0u);
 }
 
 TEST_F(OwnTreeTest, RemovesOneObject) {
-    MakeFile("kept");
     MakeFile("fixed/file");
-    MakeLink("kept", "link");
+    MakeLink("fixed/file", "link");
     chmod("fixed", 0555);
-    {
-        const AsNobody nobody;
-        EXPECT_EQ(FSRemoveOwnTree(""), -1);
-        EXPECT_EQ(FSRemoveOwnTree("kept/below"), -1);
-        EXPECT_EQ(FSRemoveOwnTree("missing"), 0);
-        EXPECT_EQ(FSRemoveOwnTree("fixed/file"), -3) << "its folder must not be changed";
-        EXPECT_EQ(FSRemoveOwnTree("link"), 0);
-    }
-    EXPECT_EQ(Tree(".", true), (FileTree{{"", "folder 0777"},
-                                         {"fixed", "folder 0555"},
-                                         {"fixed/file", "file 0644: "},
-                                         {"kept", "file 0644: "}}));
+    const AsNobody nobody;
+    EXPECT_EQ(FSRemoveOwnTree(""), -1);
+    EXPECT_EQ(FSRemoveOwnTree("fixed/file/below"), -1);
+    EXPECT_EQ(FSRemoveOwnTree("missing"), 0);
+    EXPECT_EQ(FSRemoveOwnTree("fixed/file"), -3) << "its folder must not be changed";
+    EXPECT_EQ(FSRemoveOwnTree("link"), 0);
+    EXPECT_FALSE(Exists("link"));
+    EXPECT_TRUE(Exists("fixed/file"));
+    EXPECT_EQ(ModeOf("fixed"), 0555u);
+    EXPECT_EQ(ModeOf("."), 0777u);
 }
 
 TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
     MakeFile("elsewhere/file");
     const SmallDisk disk("tree/closed/disk", "64k");
     MakeFolder("tree/closed/bound");
-    if (!disk.mounted() ||
-        mount("elsewhere", "tree/closed/bound", nullptr, MS_BIND, nullptr) != 0) {
+    if (!disk.mounted()) {
         GTEST_SKIP() << "this user can't mount a small disk";
     }
+    ASSERT_EQ(mount("elsewhere", "tree/closed/bound", nullptr, MS_BIND, nullptr), 0);
     MakeFile("tree/closed/disk/file");
     MakeFile("tree/closed/removed/file");
     MakeFile("tree/removed");
@@ -153,19 +128,18 @@ TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
 
 TEST_F(OthersTreeTest, GoesOnAfterWhatCannotBeRemoved) {
     makeClosedTree("tree");
-    MakeFile("tree/open/another's/file");
-    MakeFolder("tree/open/another's empty");
-    chmod("tree/open/another's empty", 0700);
+    MakeFile("tree/1755/another's/file");
+    MakeFolder("tree/1755/another's empty");
+    chmod("tree/1755/another's empty", 0700);
     const AsNobody nobody;
     EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
-    EXPECT_EQ(Tree("tree"), (FileTree{{"open", "folder"},
-                                      {"open/another's", "folder"},
-                                      {"open/another's/file", "file 0644: "}}));
+    EXPECT_EQ(Tree("tree"), (FileTree{{"1755", "folder"},
+                                      {"1755/another's", "folder"},
+                                      {"1755/another's/file", "file 0644: "}}));
 }
 
 TEST_F(OwnTreeTest, ABrokenListingIsNotItsEnd) {
     for (const int failing : {1, 2, 5}) {
-        SCOPED_TRACE(failing);
         MakeFile("tree/a/file");
         MakeFile("tree/b/file");
         MakeFolder("moved");
@@ -226,9 +200,6 @@ TEST_F(OthersTreeTest, AMoveCanBeKilledAnywhere) {
         run.follow(pid);
         return run.end;
     };
-    const auto mode_of = [](const std::string& folder) {  // from its description by Tree()
-        return static_cast<mode_t>(std::stoul(folder.substr(strlen("folder ")), nullptr, 8));
-    };
     for (const auto& [top, back] :
          {std::pair(0555u, false), {0555u, true}, {0755u, true}, {0u, true}}) {
         int end = 1000 + SIGKILL;
@@ -237,18 +208,20 @@ TEST_F(OthersTreeTest, AMoveCanBeKilledAnywhere) {
             makeClosedTree("from", top);
             const FileTree tree = Tree("from", true);
             end = move_killed_at(change);
+            const auto [start, goal] = back ? std::pair("to", "from") : std::pair("from", "to");
             {
                 const AsNobody nobody;
                 EXPECT_TRUE(Exists("to") || MakeFolderLike("from", "to"));
-                EXPECT_TRUE(back ? MoveEntries("to", "from") : MoveEntries("from", "to"));
+                EXPECT_TRUE(MoveEntries(start, goal));
             }
-            const FileTree moved = Tree(back ? "from" : "to", true);
-            EXPECT_EQ(Tree(back ? "to" : "from", true), (FileTree{{"", moved.at("")}}));
+            const FileTree moved = Tree(goal, true);
+            EXPECT_EQ(Tree(start, true), (FileTree{{"", moved.at("")}}));
             EXPECT_EQ(moved.size(), tree.size());
             int unlocked = 0;
-            for (const auto& [name, description] : moved) {
-                if (description != tree.at(name)) {
-                    EXPECT_EQ(description, DescribeFolder(mode_of(tree.at(name)) | 0700u)) << name;
+            for (const auto& [name, folder] : moved) {
+                if (folder != tree.at(name)) {
+                    const auto mode = std::stoul(tree.at(name).substr(7), nullptr, 8);  // "folder "
+                    EXPECT_EQ(folder, DescribeFolder(static_cast<mode_t>(mode) | 0700)) << name;
                     EXPECT_TRUE(++unlocked == 1 && end != 0) << name;
                 }
             }

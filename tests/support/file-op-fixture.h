@@ -10,19 +10,19 @@
 #include <string>
 
 #include "tests/support/scenario.h"
-#include "tests/support/system.h"
 
 inline mode_t ModeOf(const std::string& path) {
     struct stat status;
-    return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
+    return lstat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
-// Runs a test in a temporary folder. Its subfolder "kinds" has one object of each kind, but no
-// devices.
+// Runs a test in a temporary folder, which every user can write to. Its subfolder "kinds" has one
+// object of each kind, but no devices.
 class FileOpTest : public testing::Test {
   protected:
-    FileOpTest() {
+    explicit FileOpTest(const std::string& parent = "/tmp") : folder_(parent) {
         umask(022);
+        EXPECT_EQ(chmod(folder_.path().c_str(), 0777), 0);
         EXPECT_EQ(chdir(folder_.path().c_str()), 0);
         MakeFile("kinds/file", "12345");
         MakeFolder("kinds/folder");
@@ -40,7 +40,7 @@ class FileOpTest : public testing::Test {
     }
 
     Folder folder_;
-    Folder other_volume_{AnotherVolume().empty() ? "/tmp" : AnotherVolume()};
+    Folder other_volume_{Exists("/dev/shm") ? "/dev/shm" : "/tmp"};
 };
 
 #endif

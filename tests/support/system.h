@@ -5,43 +5,36 @@
 
 #include <string>
 
-// What tests need from the operating system, implemented for each system. A test is skipped on
-// systems that don't have what it needs.
+// What tests need from the operating system, implemented for each system.
 
 // The time when the object's content, name or permissions were last changed (ctime).
 timespec ChangeTime(const struct stat& status);
 
-// The path of a regular file whose beginning can't be read; empty if the system has none.
-std::string UnreadableFile();
-
-// Whether the system takes the locale from environment variables.
-bool HasLocaleInEnvironment();
-
-// The path of a folder that is on another volume than /tmp and that every user can write to; empty
-// if the system has none.
-std::string AnotherVolume();
-
-// A volume that a test mounts on a folder. Only this process and its children see it.
+// A volume that a test mounts on a folder, which is created. Only this process and its children see
+// it.
 class Volume {
   public:
     ~Volume();
     Volume(const Volume&) = delete;
     Volume& operator=(const Volume&) = delete;
 
-    // False if the system has no such volume or this user may not mount it.
+    // False if the system has no such volume or this user may not mount it. The test is then
+    // skipped.
     bool mounted() const { return mounted_; }
 
   protected:
-    explicit Volume(const std::string& path);  // creates the folder
+    // Mounts the volume with this code of a shell, where $1 is the path.
+    Volume(const std::string& path, const std::string& code);
 
     const std::string path_;
-    bool mounted_ = false;
+    bool mounted_;
 };
 
 // A file system in memory. size is its capacity, for example "64k".
 class SmallDisk : public Volume {
   public:
-    SmallDisk(const std::string& path, const char* size);
+    SmallDisk(const std::string& path, const std::string& size)
+        : Volume(path, "mount -t tmpfs -o size=" + size + " none \"$1\"") {}
 };
 
 // A case-insensitive volume. exFAT lists names as they were created, but has no links or

@@ -9,17 +9,9 @@
 
 namespace {
 
-// Gives this process a private mount namespace.
-bool LeaveMountNamespace() {
-    return unshare(CLONE_NEWNS) == 0 &&
-           mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
-
-// Creates a volume of the kind $2 and mounts it on the folder $1. The image file is deleted and the
-// loop device detached at once; both exist until the volume is unmounted.
-const char kMount[] = R"(
-    exec >/dev/null 2>&1
-    PATH=$PATH:/usr/sbin:/sbin
+// Creates a volume of the kind $2 in a file and mounts it. The file is deleted and the loop device
+// detached at once; both exist until the volume is unmounted.
+const char kMountFile[] = R"(
     truncate -s 16M "$1.image"
     if [ $2 = ntfs ]; then
         mkntfs -F -Q "$1.image" && lowntfs-3g -o ignore_case "$1.image" "$1"
@@ -38,20 +30,12 @@ timespec ChangeTime(const struct stat& status) {
     return status.st_ctim;
 }
 
-std::string UnreadableFile() {
-    return "/proc/self/mem";
-}
-
-bool HasLocaleInEnvironment() {
-    return true;
-}
-
-std::string AnotherVolume() {
-    return "/dev/shm";
-}
-
-Volume::Volume(const std::string& path) : path_(path) {
+Volume::Volume(const std::string& path, const std::string& code) : path_(path) {
     MakeFolder(path);
+    const std::string prepare = "exec >/dev/null 2>&1; PATH=$PATH:/usr/sbin:/sbin; set -- ";
+    mounted_ = unshare(CLONE_NEWNS) == 0 &&
+               mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+               std::system((prepare + "'" + path + "'\n" + code).c_str()) == 0;
 }
 
 Volume::~Volume() {
@@ -60,13 +44,6 @@ Volume::~Volume() {
     }
 }
 
-SmallDisk::SmallDisk(const std::string& path, const char* size) : Volume(path) {
-    mounted_ = LeaveMountNamespace() &&
-               mount("none", path.c_str(), "tmpfs", 0, ("size=" + std::string(size)).c_str()) == 0;
-}
-
-CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind kind) : Volume(path) {
-    const char* const name = kind == Ntfs ? "ntfs" : "exfat";
-    mounted_ = LeaveMountNamespace() &&
-               std::system(("set -- '" + path + "' " + name + kMount).c_str()) == 0;
+CaseIgnoringVolume::CaseIgnoringVolume(const std::string& path, Kind kind)
+    : Volume(path, std::string("set -- \"$1\" ") + (kind == Ntfs ? "ntfs" : "exfat") + kMountFile) {
 }
