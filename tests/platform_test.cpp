@@ -4,7 +4,6 @@
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QString>
@@ -27,17 +26,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool InAnotherProcess(const std::function<bool()>& condition) {
-    const pid_t pid = fork();
-    if (pid == 0) {
-        _exit(condition() ? 1 : 0);
-    }
-    int status = 0;
-    waitpid(pid, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status));
-    return WEXITSTATUS(status) != 0;
-}
-
 TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
     const Folder folder;
     MakeFile(folder / "folder/Name");
@@ -50,37 +38,34 @@ TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
     MakeFile(folder / "closed/file");
     fs::permissions(folder / "closed", fs::perms::none);
     const struct {
-        std::string path;
         OSStatus status;
-        const char* target = "";
-    } cases[] = {{"/folder/Name", 0, "folder/Name"},
-                 {"/folder/nAME", 0, "folder/nAME"},
-                 {"/link", 0, "folder/Name"},
-                 {"/way", 0, "folder"},
-                 {"/way/Name", 0, "folder/Name"},
-                 {"/folder/../link", 0, "folder/Name"},
-                 {"//folder/.//Name", 0, "folder/Name"},
-                 {"/missing", -43},
-                 {"/dangling", -43},
-                 {"/missing/", -43},
-                 {"/missing/file", -120},
-                 {"/folder/Name/below", -120},
-                 {"/" + std::string(300, 'x'), -37},
-                 {"/loop", -36},
-                 {"/closed/file", -5000}};
+        std::string target;
+        std::vector<std::string> paths;
+    } cases[] = {{0,
+                  "folder/Name",
+                  {"folder/Name", "link", "way/Name", "folder/../link", "/folder/.//Name"}},
+                 {0, "folder/nAME", {"folder/nAME"}},
+                 {0, "folder", {"way"}},
+                 {-43, "", {"missing", "dangling", "missing/"}},
+                 {-120, "", {"missing/file", "folder/Name/below"}},
+                 {-37, "", {std::string(300, 'x')}},
+                 {-36, "", {"loop"}},
+                 {-5000, "", {"closed/file"}}};
     const AsNobody nobody;
     FSRef ref;
     UInt8 text[PATH_MAX] = {};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.path.substr(0, 80));
-        const std::string path = folder.path() + row.path;
-        Boolean is_folder = 2;
-        ASSERT_EQ(FSPathMakeRef(reinterpret_cast<const UInt8*>(path.c_str()), &ref, &is_folder),
-                  row.status);
-        if (row.status == 0) {
-            EXPECT_EQ(is_folder, fs::is_directory(path));
-            EXPECT_EQ(FSRefMakePath(&ref, text, sizeof text), 0);
-            EXPECT_EQ(reinterpret_cast<char*>(text), folder / row.target);
+    for (const auto& [status, target, paths] : cases) {
+        for (const std::string& name : paths) {
+            SCOPED_TRACE(name);
+            const std::string path = folder / name;
+            Boolean is_folder = 2;
+            ASSERT_EQ(FSPathMakeRef(reinterpret_cast<const UInt8*>(path.c_str()), &ref, &is_folder),
+                      status);
+            if (status == 0) {
+                EXPECT_EQ(is_folder, fs::is_directory(path));
+                EXPECT_EQ(FSRefMakePath(&ref, text, sizeof text), 0);
+                EXPECT_EQ(reinterpret_cast<char*>(text), folder / target);
+            }
         }
     }
     const UInt8 root[] = "/";
@@ -111,24 +96,24 @@ TEST(Durability, WhatKnowsNoSuchRequestIsNoFailure) {
 }
 
 TEST(BundleExecutable, IsReadFromTheInfoPlist) {
+    const auto name_in = [](const std::string& dict) {
+        const std::string plist =
+            "<?xml version=\"1.0\"?><plist version=\"1.0\">" + dict + "</plist>";
+        return platform::BundleExecutable(QByteArray::fromStdString(plist)).toStdString();
+    };
     const std::string key = "<key>CFBundleExecutable</key>";
-    const std::pair<std::string, const char*> cases[] = {
-        {"<dict><key>A</key><true/><key>B</key><string>no</string>" + key +
-             "<string>ui &amp; \xC3\xA9</string></dict>",
-         "ui & \xC3\xA9"},
-        {"", ""},
-        {"<dict/>", ""},
-        {"<array><string>CFBundleExecutable</string></array>", ""},
-        {"<dict>" + key + "<string></string></dict>", ""},
-        {"<dict>" + key + "<string>../ui</string></dict>", ""},
-        {"<dict>" + key + "<string>..</string></dict>", ""},
-        {"<dict>" + key + "<true/></dict>", ""},
-        {"<dict><key>D</key><dict>" + key + "<string>ui</string></dict></dict>", ""},
-        {"<dict>" + key + "<string>ui</strin", ""}};
-    for (const auto& [dict, name] : cases) {
-        const std::string list =
-            R"(<?xml version="1.0"?><plist version="1.0">)" + dict + "</plist>";
-        EXPECT_EQ(platform::BundleExecutable(QByteArray::fromStdString(list)).toStdString(), name);
+    EXPECT_EQ(name_in("<dict><key>A</key><true/><key>B</key><string>no</string>" + key +
+                      "<string>ui &amp; \xC3\xA9</string></dict>"),
+              "ui & \xC3\xA9");
+    for (const std::string& dict :
+         {std::string(), std::string("<dict/>"),
+          std::string("<array><string>CFBundleExecutable</string></array>"),
+          "<dict>" + key + "<string></string></dict>",
+          "<dict>" + key + "<string>../ui</string></dict>",
+          "<dict>" + key + "<string>..</string></dict>", "<dict>" + key + "<true/></dict>",
+          "<dict><key>D</key><dict>" + key + "<string>ui</string></dict></dict>",
+          "<dict>" + key + "<string>ui</strin"}) {
+        EXPECT_EQ(name_in(dict), "") << dict;
     }
     EXPECT_EQ(platform::BundleExecutable("bplist00"), QString());
 }
@@ -211,34 +196,35 @@ TEST(InstanceLock, OneProcessHoldsItWhateverIsInItsPlace) {
     const Folder folder;
     const std::string path = folder / "lock";
     platform::Descriptor foreign(-1);
-    const struct {
-        std::function<void()> make;
-        bool can_lock = true;
-    } cases[] = {{[] {}},
-                 {[&] { MakeFile(path, "", 0600); }},  // left by a killed process
-                 {[&] { MakeLink("/etc/passwd", path); }},
-                 {[&] { mkfifo(path.c_str(), 0666); }},
-                 {[&] {
-                     if (geteuid() == 0) {  // another user's file, locked
-                         MakeFile(path, "", 0666);
-                         ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
-                         foreign.reset(open(path.c_str(), O_RDWR | O_CLOEXEC));
-                         ASSERT_EQ(flock(foreign.get(), LOCK_EX | LOCK_NB), 0);
-                     }
-                 }},
-                 {[&] { MakeFolder(path); }, false}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(&row - cases);
-        const auto held = [&] { return platform::InstanceLock(path).heldElsewhere(); };
-        row.make();
+    const auto make_foreign = [&] {  // a locked file of another user
+        MakeFile(path, "", 0666);
+        if (geteuid() == 0) {
+            ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
+            foreign.reset(open(path.c_str(), O_RDWR | O_CLOEXEC));
+            ASSERT_EQ(flock(foreign.get(), LOCK_EX | LOCK_NB), 0);
+        }
+    };
+    const std::function<void()> cases[] = {
+        [] {},
+        [&] { MakeFile(path, "", 0600); },  // of a killed process
+        [&] { MakeLink("/etc/passwd", path); },
+        [&] { mkfifo(path.c_str(), 0666); },
+        make_foreign,
+        [&] { MakeFolder(path); }};
+    // To the lock, another object is like another process.
+    const auto held = [&] { return platform::InstanceLock(path).heldElsewhere(); };
+    for (const auto& make : cases) {
+        SCOPED_TRACE(&make - cases);
+        make();
+        const bool can_lock = !fs::is_directory(path);
         {
             const platform::InstanceLock lock(path);
             EXPECT_FALSE(lock.heldElsewhere());
-            EXPECT_EQ(InAnotherProcess(held), row.can_lock);
-            EXPECT_EQ(InAnotherProcess(held), row.can_lock) << "the first check removed the file";
+            EXPECT_EQ(held(), can_lock);
+            EXPECT_EQ(held(), can_lock) << "the first check removed the file";
         }
-        EXPECT_EQ(Exists(path), !row.can_lock);
-        EXPECT_FALSE(InAnotherProcess(held));
+        EXPECT_EQ(Exists(path), !can_lock);
+        EXPECT_FALSE(held());
     }
     EXPECT_FALSE(platform::InstanceLock("/proc/lock").heldElsewhere());
     EXPECT_FALSE(platform::InstanceLock(folder / "no folder/lock").heldElsewhere());
@@ -253,8 +239,7 @@ TEST(SingleInstance, EachCopyRunsOnceAndRemovesLocksThatNobodyHolds) {
     MakeFile(folder + "/.launcher-0123456789abcdef.lock", "", 0600);
     const platform::InstanceLock lock(folder + "/" + held);
     const auto runs = [&](const char* executable) {
-        return InAnotherProcess(
-            [&] { return platform::SingleInstance(folder, executable).runsElsewhere(); });
+        return platform::SingleInstance(folder, executable).runsElsewhere();
     };
     {
         const platform::SingleInstance instance(folder, "/copy");
