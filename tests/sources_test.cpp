@@ -1,4 +1,5 @@
-// Compares the messages in docs/troubleshooting.md with those in the sources.
+// Checks the sources as texts: their layers, and whether docs/troubleshooting.md has their
+// messages.
 
 #include <algorithm>
 #include <filesystem>
@@ -11,6 +12,53 @@
 namespace fs = std::filesystem;
 
 namespace {
+
+// Calls the function with the path, relative to the root of the tree, and the text of each source.
+void ForEachSource(const std::function<void(const fs::path&, const std::string&)>& function) {
+    for (const std::string folder : {"/lib", "/libcommon", "/ustring", "/ui-client"}) {
+        for (const auto& entry : fs::recursive_directory_iterator(SOURCE_DIR + folder)) {
+            const fs::path& path = entry.path();
+            if (path.extension() == ".cpp" || path.extension() == ".h") {
+                function(path.lexically_relative(SOURCE_DIR), ReadFile(path));
+            }
+        }
+    }
+}
+
+// The layers from the lowest to the highest. A file belongs to the first layer whose pattern it
+// matches, and may include files of its own layer and of those before it in this list.
+const char* const kLayers[] = {
+    "ustring/.*",
+    "lib/(config|libtmpname|platform)/.*|lib/install-layout.h|libcommon/.*",
+    "lib/liblogger/.*",
+    "lib/libclient/.*",
+    "ui-client/launcher/(translations/.*|(archive-handles|client-file|entry-guard|move-entries|"
+    "notify-adapter|running-client|upgrade-journal|version-file)\\..*)",
+    "ui-client/launcher/(app-replacement|content-checksum|extractor|package-reader)\\..*",
+    "ui-client/launcher/tarnwell-service.*",
+    "ui-client/launcher/mac/.*",
+    "ui-client/launcher/(launcher|progress-dialog)\\..*",
+    "ui-client/launcher/main.cpp"};
+
+std::ptrdiff_t LayerOf(const std::string& file) {
+    const auto layer = std::find_if(
+        std::begin(kLayers), std::end(kLayers),
+        [&](const char* pattern) { return std::regex_match(file, std::regex(pattern)); });
+    EXPECT_NE(layer, std::end(kLayers)) << file << " belongs to no layer";
+    return layer - kLayers;
+}
+
+TEST(LayersTest, NoIncludePointsUpwards) {
+    int includes = 0;
+    ForEachSource([&](const std::string& file, const std::string& text) {
+        for (const std::string& line : LinesWith(text, "#include \"")) {
+            const std::string included = line.substr(10, line.size() - 11);
+            EXPECT_LE(LayerOf(included), LayerOf(file)) << file << ": " << line;
+            ++includes;
+        }
+    });
+    EXPECT_GT(includes, 100);
+}
 
 using Message = std::tuple<std::string, std::string, std::string>;  // level, source, format
 using Messages = std::set<Message>;
@@ -42,23 +90,17 @@ Messages InSource(const std::string& text, const std::string& name) {
     return messages;
 }
 
-Messages InSources() {
-    Messages messages;
-    for (const std::string folder : {"/lib", "/libcommon", "/ustring", "/ui-client"}) {
-        for (const auto& entry : fs::recursive_directory_iterator(SOURCE_DIR + folder)) {
-            const fs::path& path = entry.path();
-            const bool code = path.extension() == ".cpp" || path.extension() == ".h";
-            if (code && path.parent_path().filename() != "liblogger") {  // it defines the macros
-                messages.merge(InSource(ReadFile(path), path.stem()));
-            }
-        }
-    }
-    return messages;
-}
-
 class TroubleshootingTest : public testing::Test {
   protected:
-    const Messages written_ = InSources();
+    TroubleshootingTest() {
+        ForEachSource([this](const fs::path& path, const std::string& text) {
+            if (path.parent_path() != "lib/liblogger") {  // it defines the macros
+                written_.merge(InSource(text, path.stem()));
+            }
+        });
+    }
+
+    Messages written_;
     const std::vector<std::string> document_ =
         LinesWith(ReadFile(SOURCE_DIR "/docs/troubleshooting.md"), "");
 };
