@@ -26,7 +26,7 @@ std::string Quoted(std::map<ustring, ustring>& entries) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Folder folder(InMemory());
+    static const Folder folder(Temporary());
     static const std::string path = folder / "file";
     const std::string file = TextOf(data, size);
     MakeFile(path, file);

@@ -7,7 +7,6 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <array>
 #include <csignal>
 #include <cstring>
 #include <filesystem>
@@ -20,18 +19,20 @@
 #include "ui-client/launcher/package-reader.h"
 #include "ui-client/launcher/translations/str-table.h"
 
+namespace fs = std::filesystem;
+
 namespace {
 
 const rlim_t kMaxFileSize = 4 * 1024 * 1024;  // bytes; a package can claim any size
 const std::size_t kTarBlock = 512;
-const std::size_t kMagicAt = 257;
-const std::size_t kChecksumAt = 148;
-const std::size_t kChecksumSize = 8;
-const char kSentinel[] = "must stay";
 
 const Folder& World() {
-    static const Folder folder(InMemory());
+    static const Folder folder(Temporary());
     return folder;
+}
+
+std::string Destination() {
+    return World() / "dest";
 }
 
 // A folder beside the destination. The extractor must not write into it.
@@ -39,19 +40,19 @@ std::string Outside() {
     return World() / "outside";
 }
 
-// Describes what the extractor must not change: the objects outside of the destination, with inode,
-// type and the time of the last change, which covers permissions and links too. The time is 0 for
-// the package and the destination, which this target changes itself.
-std::map<std::string, std::array<long, 3>> Surroundings() {
-    std::map<std::string, std::array<long, 3>> found;
+// Describes what the extractor must not change: the objects outside of the destination, with inode
+// and the time of the last change, which covers permissions and links too. The time is 0 for the
+// destination itself.
+std::map<std::string, std::pair<ino_t, long>> Surroundings() {
+    std::map<std::string, std::pair<ino_t, long>> found;
     for (const std::string& folder : {World().path(), Outside()}) {
-        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        for (const fs::path& path : fs::directory_iterator(folder)) {
             struct stat status {};
-            REQUIRE(lstat(entry.path().c_str(), &status) == 0);
+            REQUIRE(lstat(path.c_str(), &status) == 0);
             const timespec& changed = status.st_ctim;
-            const bool is_ours = folder == World().path() && entry.path() != Outside();
-            found[entry.path()] = {static_cast<long>(status.st_ino), status.st_mode & S_IFMT,
-                                   is_ours ? 0 : changed.tv_sec * 1000000000 + changed.tv_nsec};
+            const bool is_ours = path == Destination();
+            found[path] = {status.st_ino,
+                           is_ours ? 0 : changed.tv_sec * 1000000000 + changed.tv_nsec};
         }
     }
     return found;
@@ -74,7 +75,7 @@ void CopyAllData(Extractor& extractor) {
     }
     while (package.next(entry) == ARCHIVE_OK) {
         const EntryHandle copy(archive_entry_new());
-        archive_entry_set_pathname(copy.get(), (World() / "dest/copy").c_str());
+        archive_entry_set_pathname(copy.get(), (Destination() + "/copy").c_str());
         archive_entry_set_mode(copy.get(), AE_IFREG | 0600);
         const ArchiveHandle out(archive_write_disk_new());
         REQUIRE(archive_write_header(out.get(), copy.get()) == ARCHIVE_OK);
@@ -85,11 +86,9 @@ void CopyAllData(Extractor& extractor) {
 
 // Corrects the checksum of a tar header. libarchive doesn't recognise a header with a wrong one.
 void SealTarHeader(std::uint8_t* header) {
-    std::uint8_t* const field = header + kChecksumAt;
-    std::fill_n(field, kChecksumSize, std::uint8_t(' '));
-    char digits[kChecksumSize];
-    std::snprintf(digits, sizeof digits, "%06o", std::accumulate(header, header + kTarBlock, 0u));
-    std::copy_n(digits, kChecksumSize - 1, field);
+    char* const checksum = reinterpret_cast<char*>(header) + 148;
+    std::memset(checksum, ' ', 8);  // which it counts as
+    std::snprintf(checksum, 7, "%06o", std::accumulate(header, header + kTarBlock, 0U));
 }
 
 int reports;  // how often progress was reported since this was last set to 0
@@ -121,8 +120,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
     REQUIRE(std::freopen("/dev/null", "w", stdout) != nullptr);
     std::signal(SIGXFSZ, SIG_IGN);
     umask(022);
-    MakeFolder(Outside());
-    MakeFile(Outside() + "/sentinel", kSentinel);
+    MakeFile(Outside() + "/sentinel");
     return 0;
 }
 
@@ -132,8 +130,8 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                                                std::size_t max_size, unsigned seed) {
     size = LLVMFuzzerMutate(data, size, max_size);
     if (seed % 8 != 0) {
-        for (std::size_t at = 0; size >= kTarBlock && at <= size - kTarBlock; at += kTarBlock) {
-            if (std::memcmp(data + at + kMagicAt, "ustar", 5) == 0) {
+        for (std::size_t at = 0; at + kTarBlock <= size; at += kTarBlock) {
+            if (std::memcmp(data + at + 257, "ustar", 5) == 0) {
                 SealTarHeader(data + at);
             }
         }
@@ -142,28 +140,28 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    MakeFolder(World() / "dest");
+    MakeFolder(Destination());
     MakeFile(World() / "package", TextOf(data, size));
     const auto before = Surroundings();
 
     Extractor extractor;
-    extractor.dest_dir = (World() / "dest").c_str();
+    extractor.dest_dir = Destination().c_str();
     extractor.archive_path = (World() / "package").c_str();
     LimitFileSize(kMaxFileSize);
     const int count = extractor.Count();
     REQUIRE(count >= -1);
     REQUIRE(extractor.List() == (count < 0 ? -1 : 0));
-    REQUIRE(std::filesystem::is_empty(World() / "dest"));
+    REQUIRE(fs::is_empty(Destination()));
     reports = 0;
     const int result = extractor.Extract();
     REQUIRE(result == 0 || result == -1);
     REQUIRE(result != 0 || reports == count);
     REQUIRE(Surroundings() == before);
 
-    RemoveTree(World() / "dest");
-    MakeFolder(World() / "dest");
+    RemoveTree(Destination());
+    MakeFolder(Destination());
     CopyAllData(extractor);
     LimitFileSize(RLIM_INFINITY);
-    RemoveTree(World() / "dest");
+    RemoveTree(Destination());
     return 0;
 }

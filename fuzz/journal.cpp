@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Folder folder(InMemory());
+    static const Folder folder(Temporary());
     static const UpgradeJournal journal(folder.path().c_str());
     MakeFile(journal.path().c_str(), TextOf(data, size));
     UpgradeJournal::Record record;

@@ -3,8 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <string>
 
 #include "lib/liblogger/log.h"
@@ -12,24 +11,17 @@
 
 // What the fuzz targets share.
 
-// Ends the run when a promise is broken; the input that broke it is then a find.
-inline void Require(bool kept, const char* promise, const char* file, int line) {
-    if (!kept) {
-        static_cast<void>(std::fprintf(stderr, "%s:%d: broken promise: %s\n", file, line, promise));
-        std::abort();
-    }
-}
-#define REQUIRE(condition) Require(static_cast<bool>(condition), #condition, __FILE__, __LINE__)
+// Nothing catches what Check throws, so the run ends; the input that broke the promise is a find.
+#define REQUIRE(promise) Check(static_cast<bool>(promise), "broken promise: " #promise)
 
-// Where the targets make their folders: in memory.
-inline std::string InMemory() {
-    const char* const folder = std::getenv("TMPDIR");
-    return folder != nullptr ? folder : "/dev/shm";
+// Where the targets make their folders; scripts/fuzz sets TMPDIR to a folder in memory.
+inline std::string Temporary() {
+    return std::filesystem::temp_directory_path();
 }
 
 // Switches the log off for the components that the targets reach.
 inline void SilenceLog() {
-    const Folder folder(InMemory());
+    const Folder folder(Temporary());
     const std::string levels = folder / "levels";
     MakeFile(levels, "service_debug=0\nextractor_debug=0\nfile_op_debug=0\n");
     Logger::Initialize(Logger::TYPE_STDERR, "", levels.c_str(), 0);

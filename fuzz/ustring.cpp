@@ -179,7 +179,7 @@ void Run(const Operation& operation) {
     const bool same_size = text.size() == model.size() && text.length() == model.size();
     const bool same_text = text.c_str() == model && text.c_str_utf8() == model &&
                            other.c_str() == other_model && text.empty() == model.empty();
-    Require(agree && same_error && same_size && same_text, operation.name, __FILE__, __LINE__);
+    Check(agree && same_error && same_size && same_text, operation.name);
 }
 
 // Reads the operands from the input. Missing bytes count as zeros.

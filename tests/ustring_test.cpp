@@ -11,7 +11,7 @@
 #include "tests/support/scenario.h"
 
 // The fuzz target. Decodes the data as operations, runs them on a string and on a model of it, and
-// ends the process with a message when the two differ.
+// throws an exception when the two differ.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
@@ -47,10 +47,7 @@ TEST(UString, ChangesAndWarns) {
         const char* expected;
         std::string printed = {};
     } cases[] = {
-        {"", CHANGE(text = text.normalize(ustring::NFC)), ""},
         {kDecomposed, CHANGE(text = text.normalize(ustring::NFC)), "biblioth\xC3\xA8que"},
-        {"", CHANGE(text = kE), "\xC3\xA9"},
-        {"\xC3\xA9", CHANGE(text = text.normalize(ustring::NFD)), "e\xCC\x81"},
         {"", CHANGE(text = Units{0xD83D, 0xDE00, 0}.data()), "\xF0\x9F\x98\x80"},
         {"a text", CHANGE(text = *&text; text.swap(text)), "a text"},
         {"a text", CHANGE(std::stringstream io; io << text; io >> text), "a"},
