@@ -1,7 +1,9 @@
 // Checks the translations for the mistakes that careless edits and translation tools make.
 
 #include <QFontMetrics>
-#include <QMap>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QTranslator>
 #include <algorithm>
@@ -21,35 +23,6 @@ namespace {
 const QRegularExpression kNames(
     QStringLiteral("Orvane Station|StationOS|OrvaneLink|Orvane|Tarnwell|\\[ProductName\\]|"
                    "\\b(ID|SSL|IP|OK)\\b|MB|\\.tmp|%[12]"));
-
-// Texts that may equal the English ones: in every language, and in single languages.
-const std::set<std::string> kSameEverywhere = {"%1 / %2", "ID",       "OK",   "OrvaneLink ID",
-                                               "Proxy",   "Internet", "Port", "Server",
-                                               "Status",  "Version"};
-const QMap<std::string, std::set<std::string>> kSame = {
-    {"deu", {"April", "August", "Name", "November", "September"}},
-    {"fra", {"Action", "Date", "Destination", "Inactive", "Options"}},
-    {"ita", {"Account", "File", "No", "Password"}},
-    {"esn", {"Error", "No"}},
-    {"dan", {"Destination", "Find Orvane Station", "Standby"}},
-    {"sve", {"Information"}},
-    {"nld", {"Account", "Filters", "Help"}},
-    {"plk", {"Folder"}},
-    {"hun", {"December", "November"}}};
-
-// What a translation must not contain: the form of address that our translation into that language
-// avoids, and words and characters of a related language (Brazilian and European Portuguese,
-// traditional and simplified Chinese).
-const QMap<std::string, const char*> kForeign = {
-    {"deu", "\\b(du|dich|dir|deine?[mnrs]?)\\b"},
-    {"fra", "\\b(tu|toi|ton|tes)\\b"},
-    {"esn", "\\b(tú|tus?|ti|puedes|vosotros|os)\\b"},
-    {"nld", "\\b(u|uw)\\b"},
-    {"krn", "(요|죠)[.!?]"},
-    {"ptb", "\\b(ficheiros?|ecrã|palavra-passe|partilha\\w*|guardar|definições)\\b"},
-    {"ptg", "\\b(arquivos?|tela|senha|compartilh\\w*|salvar|configurações|você)\\b"},
-    {"cht", "[档资夹设体网电脑选择号码连线开启关闭备储传错误请对应输务删证载议]"},
-    {"chs", "[檔資夾設體網電腦選擇號碼連線開啟關閉備儲傳錯誤請對應輸務刪證載議]"}};
 
 QString CaseAndMarksAside(const QString& text) {
     return text.toLower().remove(QRegularExpression(QStringLiteral("[.:…\\s]+$")));
@@ -75,6 +48,13 @@ class CatalogTest : public testing::TestWithParam<QString> {
     }
 
     const std::string code_ = GetParam().toStdString();
+    // What is peculiar to each language: "same", the texts that may equal the English ones ("every"
+    // has those of all languages); "letters", unless they are the Latin ones; "refused", a pattern
+    // of the form of address that our translations avoid, and of a related language (Brazilian and
+    // European Portuguese, traditional and simplified Chinese).
+    const QJsonObject languages_ =
+        QJsonDocument::fromJson(QByteArray::fromStdString(ReadFile(LANGUAGES))).object();
+    const QJsonObject language_ = languages_[GetParam()].toObject();
     std::map<QString, QString> translations_;
 };
 
@@ -136,26 +116,21 @@ TEST_P(CatalogTest, IsInItsOwnLanguage) {
                   4);
         return;
     }
-    const QMap<std::string, const char*> letters = {{"rus", "\\p{Cyrillic}"},
-                                                    {"cht", "\\p{Han}"},
-                                                    {"chs", "\\p{Han}"},
-                                                    {"jpn", "\\p{Han}\\p{Hiragana}\\p{Katakana}"},
-                                                    {"krn", "\\p{Hangul}"}};
     const QRegularExpression foreign_letter(
         QStringLiteral("(?![\\p{Common}\\p{Inherited}%1])\\p{L}")
-            .arg(QLatin1String(letters.value(code_, "\\p{Latin}"))));
-    const std::set<std::string> same = kSame.value(code_);
+            .arg(language_[QStringLiteral("letters")].toString(QStringLiteral("\\p{Latin}"))));
+    const QString same = QStringLiteral("same");
+    const QJsonObject every = languages_[QStringLiteral("every")].toObject();
     for (const auto& [source, translation] : translations_) {
         const std::string text = translation.toStdString();
-        const bool may_be_same = kSameEverywhere.count(source.toStdString()) != 0 ||
-                                 same.count(text) != 0 ||
+        const bool may_be_same = every[same].toArray().contains(source) ||
+                                 language_[same].toArray().contains(source) ||
                                  source.contains(QLatin1String("Orvane Station"));
         EXPECT_TRUE(may_be_same || source != translation) << text;
         EXPECT_FALSE(QString(translation).remove(kNames).contains(foreign_letter)) << text;
     }
-    if (kForeign.contains(code_)) {
-        expectNone(QString::fromUtf8(kForeign[code_]), "another language or form of address");
-    }
+    expectNone(language_[QStringLiteral("refused")].toString(QStringLiteral("(?!)")),
+               "another language or form of address");
 }
 
 TEST_P(CatalogTest, OneThingHasOneName) {
