@@ -15,15 +15,14 @@ namespace {
 
 using FileTreeTest = FileOpTest;
 
-TEST_F(FileTreeTest, AFullDiskIsTold) {
+TEST_F(FileTreeTest, ReportsAFullDisk) {
     const SmallDisk disk("disk", "64k");
     if (!disk.mounted()) {
         GTEST_SKIP() << "this user can't mount a small disk";
     }
     MakeFile("tree/big", std::string(100000, 'x'));
-    const std::string log =
-        CaptureStderr([] { EXPECT_EQ(FSCopy("tree/big", "disk/big", true), -2); });
-    EXPECT_TRUE(HasOneLine(log, "CopyFile: write: No space left on device (28)")) << log;
+    ExpectLogged(-2, "CopyFile: write: No space left on device (28)",
+                 [] { return FSCopy("tree/big", "disk/big", true); });
     EXPECT_TRUE(Exists("disk/big")) << "the incomplete copy must be kept";
     EXPECT_EQ(FSRename("tree/big", "disk/file", false), -3);
     EXPECT_EQ(FSRename("tree", "disk/tree", false), -3);
@@ -113,10 +112,8 @@ TEST_F(OtherVolumeTest, WhatCannotMoveStaysBehind) {
 
     MakeFile("tree/name/file");
     MakeFile(other_volume_ / "tree/name", "a file where a folder goes");
-    const std::string log =
-        CaptureStderr([&] { EXPECT_EQ(FSRename("tree", other_volume_ / "tree", false), -3); });
-    EXPECT_TRUE(HasOneLine(log, "is not directory '" + other_volume_ / "tree/name" + "' (1)"))
-        << log;
+    ExpectLogged(-3, "is not directory '" + other_volume_ / "tree/name" + "' (1)",
+                 [&] { return FSRename("tree", other_volume_ / "tree", false); });
     EXPECT_TRUE(Exists("tree/name/file"));
 }
 
@@ -189,9 +186,8 @@ class MovesAway : public FSCopyListener {
 TEST_F(FileTreeTest, ACopyEndsWhereItsWayBackIsGone) {
     MakeDeepTree("tree", 30);
     MovesAway mover;
-    const std::string log =
-        CaptureStderr([&] { EXPECT_EQ(FSCopyTree("tree", "copy", mover), -1); });
-    EXPECT_TRUE(HasOneLine(log, "CopyFile: open(tree/d/d/.): Stale file handle")) << log;
+    ExpectLogged(-1, "CopyFile: open(tree/d/d/.): Stale file handle",
+                 [&] { return FSCopyTree("tree", "copy", mover); });
     EXPECT_EQ(mover.failed, (std::vector<std::string>{"copy/d/d/d", "copy/d/d", "copy/d"}));
 }
 

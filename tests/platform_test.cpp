@@ -105,14 +105,17 @@ TEST(BundleExecutable, IsReadFromTheInfoPlist) {
     EXPECT_EQ(name_in("<dict><key>A</key><true/><key>B</key><string>no</string>" + key +
                       "<string>ui &amp; \xC3\xA9</string></dict>"),
               "ui & \xC3\xA9");
-    for (const std::string& dict :
-         {std::string(), std::string("<dict/>"),
-          std::string("<array><string>CFBundleExecutable</string></array>"),
-          "<dict>" + key + "<string></string></dict>",
-          "<dict>" + key + "<string>../ui</string></dict>",
-          "<dict>" + key + "<string>..</string></dict>", "<dict>" + key + "<true/></dict>",
-          "<dict><key>D</key><dict>" + key + "<string>ui</string></dict></dict>",
-          "<dict>" + key + "<string>ui</strin"}) {
+    const std::string nameless[] = {
+        "",
+        "<dict/>",
+        "<array><string>CFBundleExecutable</string></array>",
+        "<dict>" + key + "<string></string></dict>",
+        "<dict>" + key + "<string>../ui</string></dict>",
+        "<dict>" + key + "<string>..</string></dict>",
+        "<dict>" + key + "<true/></dict>",
+        "<dict><key>D</key><dict>" + key + "<string>ui</string></dict></dict>",
+        "<dict>" + key + "<string>ui</strin"};
+    for (const std::string& dict : nameless) {
         EXPECT_EQ(name_in(dict), "") << dict;
     }
     EXPECT_EQ(platform::BundleExecutable("bplist00"), QString());

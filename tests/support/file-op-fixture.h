@@ -16,6 +16,12 @@ inline mode_t ModeOf(const std::string& path) {
     return lstat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
+// Expects this result, and that one line with this text is logged.
+inline void ExpectLogged(int result, const std::string& text, const std::function<int()>& operate) {
+    const std::string log = CaptureStderr([&] { EXPECT_EQ(operate(), result) << text; });
+    EXPECT_TRUE(HasOneLine(log, text)) << log;
+}
+
 // Runs a test in a temporary folder, which every user can write to. Its subfolder "kinds" has one
 // object of each kind, but no devices.
 class FileOpTest : public testing::Test {
