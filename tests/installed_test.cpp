@@ -99,18 +99,13 @@ TEST_F(InstalledTest, WhatTheSystemCannotTellIsNoAnswer) {
     MakeFile(info_, "[Version]\nbuild_version=1");
     MakeFile(client_, "x");
     VerInfo version;
-    // Local copies, because the sanitizers need descriptors to check an access to a member.
-    const std::string app = app_;
-    const std::string info = info_;
-    Reading reading = Reading::Done;
-    int error = 0;
-    {
+    // Copies, because the sanitizers need descriptors to check an access to a member.
+    const auto load_without_descriptors = [&version, app = app_, info = info_] {
         const FewDescriptors none(0);
-        reading = LoadVersion(info.c_str(), version, app.c_str());
-        error = errno;
-    }
-    EXPECT_EQ(reading, Reading::Failed);
-    EXPECT_EQ(error, EMFILE);
+        const Reading reading = LoadVersion(info.c_str(), version, app.c_str());
+        return std::pair(reading, errno);
+    };
+    EXPECT_EQ(load_without_descriptors(), std::pair(Reading::Failed, EMFILE));
     EXPECT_EQ(LoadVersion("/proc/self/mem", version),
               Exists("/proc/self/mem") ? Reading::Failed : Reading::Missing);
     EXPECT_EQ(version.build_version, "");
