@@ -10,11 +10,9 @@
 #include <csignal>
 #include <cstring>
 #include <filesystem>
-#include <map>
 #include <numeric>
 
 #include "fuzz/support.h"
-#include "lib/liblogger/log.h"
 #include "ui-client/launcher/notify-adapter.h"
 #include "ui-client/launcher/package-reader.h"
 #include "ui-client/launcher/translations/str-table.h"

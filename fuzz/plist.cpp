@@ -16,12 +16,11 @@ bool IsInItsFolder(const QString& name) {
 
 // Returns an otherwise valid Info.plist with this text as the executable's name.
 QByteArray Wrapped(const QString& name) {
-    return QByteArrayLiteral(
-               "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict>"
-               "<key>LSMinimumSystemVersion</key><string>10.12</string>"
-               "<key>Nested</key><dict><key>CFBundleExecutable</key><string>no</string></dict>"
-               "<key>CFBundleExecutable</key><string>") +
-           name.toHtmlEscaped().toUtf8() + QByteArrayLiteral("</string></dict></plist>");
+    const QString list = QStringLiteral(
+        "<plist><dict><key>LSMinimumSystemVersion</key><string>10.12</string>"
+        "<key>Nested</key><dict><key>CFBundleExecutable</key><string>no</string></dict>"
+        "<key>CFBundleExecutable</key><string>%1</string></dict></plist>");
+    return list.arg(name.toHtmlEscaped()).toUtf8();
 }
 
 }  // namespace

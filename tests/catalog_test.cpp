@@ -8,7 +8,6 @@
 #include <QTranslator>
 #include <algorithm>
 #include <iterator>
-#include <map>
 #include <set>
 
 #include "libcommon/OrvLocale.h"

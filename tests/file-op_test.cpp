@@ -1,11 +1,6 @@
 #include "lib/libclient/file-op.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
-#include <cstring>
 
 #include "tests/support/file-op-fixture.h"
 

@@ -1,8 +1,5 @@
 // Tests the file operations on whole trees.
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <regex>
 

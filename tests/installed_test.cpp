@@ -1,7 +1,6 @@
 // Tests reading the version file of an installation and finding its client.
 
 #include <sys/stat.h>
-#include <utime.h>
 
 #include <filesystem>
 
@@ -44,8 +43,7 @@ TEST_F(InstalledTest, TheVersionIsTheTextOfTheGroup) {
 TEST_F(InstalledTest, AReplacedVersionFileIsReadAnew) {
     for (const char* const number : {"100", "101"}) {
         MakeFile(info_, std::string("[Version]\nbuild_version=") + number);
-        const utimbuf time = {1, 1};
-        ASSERT_EQ(utime(info_.c_str(), &time), 0);
+        fs::last_write_time(info_, fs::file_time_type());
         VerInfo version;
         EXPECT_EQ(load(version), Reading::Done);
         EXPECT_EQ(version.build_version, number);

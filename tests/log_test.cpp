@@ -1,7 +1,6 @@
 #include "lib/liblogger/log.h"
 
 #include <syslog.h>
-#include <unistd.h>
 
 #include <ctime>
 #include <regex>

@@ -3,11 +3,9 @@
 
 #include <dirent.h>
 #include <dlfcn.h>
-#include <fcntl.h>
 #include <signal.h>
 #include <sys/mount.h>
 
-#include <cerrno>
 #include <filesystem>
 
 #include "lib/libclient/file-op.h"
@@ -42,9 +40,9 @@ class OwnTreeTest : public FileOpTest {
         fs::remove(path / "0/file");
         for (const char* const folder : folders) {
             const auto mode = std::stoul(fs::path(folder).filename(), nullptr, 8);
-            fs::permissions(path / folder, fs::perms(mode));
+            fs::permissions(path / folder, static_cast<fs::perms>(mode));
         }
-        fs::permissions(path, fs::perms(top));
+        fs::permissions(path, static_cast<fs::perms>(top));
     }
 };
 

@@ -98,7 +98,7 @@ TEST(Durability, WhatKnowsNoSuchRequestIsNoFailure) {
 TEST(BundleExecutable, IsReadFromTheInfoPlist) {
     const auto name_in = [](const std::string& dict) {
         const std::string plist =
-            "<?xml version=\"1.0\"?><plist version=\"1.0\">" + dict + "</plist>";
+            R"(<?xml version="1.0"?><plist version="1.0">)" + dict + "</plist>";
         return platform::BundleExecutable(QByteArray::fromStdString(plist)).toStdString();
     };
     const std::string key = "<key>CFBundleExecutable</key>";

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <regex>
 #include <set>
 #include <tuple>
@@ -27,25 +28,27 @@ void ForEachSource(const std::function<void(const fs::path&, const std::string&)
 
 // The layers from the lowest to the highest. A file belongs to the first layer whose pattern it
 // matches, and may include files of its own layer and of those before it in this list.
-const char* const kLayers[] = {
-    "ustring/.*",
-    "lib/(config|libtmpname|platform)/.*|lib/install-layout.h|libcommon/.*",
-    "lib/liblogger/.*",
-    "lib/libclient/.*",
-    "ui-client/launcher/(translations/.*|(archive-handles|client-file|entry-guard|move-entries|"
-    "notify-adapter|running-client|upgrade-journal|version-file)\\..*)",
-    "ui-client/launcher/(app-replacement|content-checksum|extractor|package-reader)\\..*",
-    "ui-client/launcher/tarnwell-service.*",
-    "ui-client/launcher/mac/.*",
-    "ui-client/launcher/(launcher|progress-dialog)\\..*",
-    "ui-client/launcher/main.cpp"};
+const std::regex kLayers[] = {
+    std::regex("ustring/.*"),
+    std::regex("lib/(config|libtmpname|platform)/.*|lib/install-layout.h|libcommon/.*"),
+    std::regex("lib/liblogger/.*"),
+    std::regex("lib/libclient/.*"),
+    std::regex("ui-client/launcher/(translations/.*|(archive-handles|client-file|entry-guard|"
+               "move-entries|notify-adapter|running-client|upgrade-journal|version-file)\\..*)"),
+    std::regex(
+        "ui-client/launcher/(app-replacement|content-checksum|extractor|package-reader)\\..*"),
+    std::regex("ui-client/launcher/tarnwell-service.*"),
+    std::regex("ui-client/launcher/mac/.*"),
+    std::regex("ui-client/launcher/(launcher|progress-dialog)\\..*"),
+    std::regex("ui-client/launcher/main.cpp")};
 
-std::ptrdiff_t LayerOf(const std::string& file) {
-    const auto layer = std::find_if(
-        std::begin(kLayers), std::end(kLayers),
-        [&](const char* pattern) { return std::regex_match(file, std::regex(pattern)); });
-    EXPECT_NE(layer, std::end(kLayers)) << file << " belongs to no layer";
-    return layer - kLayers;
+std::size_t LayerOf(const std::string& file) {
+    std::size_t layer = 0;
+    while (layer < std::size(kLayers) && !std::regex_match(file, kLayers[layer])) {
+        ++layer;
+    }
+    EXPECT_LT(layer, std::size(kLayers)) << file << " belongs to no layer";
+    return layer;
 }
 
 TEST(LayersTest, NoIncludePointsUpwards) {

@@ -1,13 +1,10 @@
 // The file operations and the extractor on a case-insensitive volume.
 
-#include <unistd.h>
-
 #include "lib/libclient/file-op.h"
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 #include "tests/support/system.h"
 #include "ui-client/launcher/extractor.h"
-#include "ui-client/launcher/translations/str-table.h"
 
 namespace {
 

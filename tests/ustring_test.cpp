@@ -5,8 +5,6 @@
 #include <iterator>
 #include <random>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "tests/support/scenario.h"
 

@@ -17,9 +17,10 @@ inline mode_t ModeOf(const std::string& path) {
 }
 
 // Expects this result, and that one line with this text is logged.
-inline void ExpectLogged(int result, const std::string& text, const std::function<int()>& operate) {
-    const std::string log = CaptureStderr([&] { EXPECT_EQ(operate(), result) << text; });
-    EXPECT_TRUE(HasOneLine(log, text)) << log;
+inline void ExpectLogged(int result, const std::string& message,
+                         const std::function<int()>& operate) {
+    const std::string log = CaptureStderr([&] { EXPECT_EQ(operate(), result) << message; });
+    EXPECT_TRUE(HasOneLine(log, message)) << log;
 }
 
 // Runs a test in a temporary folder, which every user can write to. Its subfolder "kinds" has one
