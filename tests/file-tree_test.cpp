@@ -12,6 +12,9 @@ namespace {
 
 using FileTreeTest = FileOpTest;
 
+int (*const kRemovals[])(const ustring& path) = {
+    [](const ustring& path) { return FSRemove(path, false); }, FSRemoveOwnTree};
+
 TEST_F(FileTreeTest, ReportsAFullDisk) {
     const SmallDisk disk("disk", "64k");
     if (!disk.mounted()) {
@@ -86,8 +89,7 @@ TEST_F(OtherVolumeTest, LogsEachLookUpWhenToldTo) {
     EXPECT_EQ(log_of("7", [&] { return FSRename(src.c_str(), dst.c_str(), true); }),
               stat(src) + info(dst) + stat(src + "/a") + info(dst + "/a") + stat(src + "/a/b") +
                   stat(src + "/a/b/file"));
-    for (const auto remove : {+[](const ustring& path) { return FSRemove(path, false); },
-                              +[](const ustring& path) { return FSRemoveOwnTree(path); }}) {
+    for (const auto remove : kRemovals) {
         MakeFile(dst + "/a/b/file");
         EXPECT_EQ(log_of("7", [&] { return remove(dst.c_str()); }),
                   info(dst) + info(dst + "/a") + info(dst + "/a/b") + info(dst + "/a/b/file"));
@@ -115,16 +117,19 @@ TEST_F(OtherVolumeTest, WhatCannotMoveStaysBehind) {
 }
 
 TEST_F(FileTreeTest, RemovesFilesLinksAndTrees) {
-    EXPECT_EQ(FSRemove("", false), -1);
-    EXPECT_EQ(FSRemove("missing", false), 0);
-    EXPECT_EQ(FSRemove("kinds/file/below", false), -1);
     MakeFile("target/kept");
-    MakeLink("../../../target", "kinds/folder/deep/link");
-    EXPECT_EQ(FSRemove("kinds/link to file", false), 0);
-    EXPECT_TRUE(Exists("kinds/file"));
-    EXPECT_EQ(FSRemove("kinds", false), 0);
-    EXPECT_FALSE(Exists("kinds"));
-    EXPECT_TRUE(Exists("target/kept"));
+    for (const auto remove : kRemovals) {
+        MakeLink("../../../target", "kinds/folder/deep/link");
+        EXPECT_EQ(remove(""), -1);
+        EXPECT_EQ(remove("missing"), 0);
+        EXPECT_EQ(remove("kinds/file/below"), -1);
+        EXPECT_EQ(remove("kinds/link to file"), 0);
+        EXPECT_TRUE(Exists("kinds/file") && !Exists("kinds/link to file"));
+        EXPECT_EQ(remove("kinds"), 0);
+        EXPECT_FALSE(Exists("kinds"));
+        EXPECT_TRUE(Exists("target/kept"));
+        makeKinds();
+    }
 }
 
 TEST_F(FileTreeTest, LeavesWhatItMayNotOpenOrRemove) {
@@ -139,12 +144,15 @@ TEST_F(FileTreeTest, LeavesWhatItMayNotOpenOrRemove) {
         EXPECT_EQ(FSRemove("tree/closed", false), 0);
         EXPECT_EQ(FSRemove("tree", false), -3);
         EXPECT_EQ(FSRemove("fixed/file", false), -3);
+        EXPECT_EQ(FSRemoveOwnTree("fixed/file"), -3);
         EXPECT_EQ(FSRemove("fixed", false), -3);
         EXPECT_EQ(FSRename("fixed/file", other_volume_ / "file", false), -3);
         EXPECT_TRUE(isFileLocked("tree/closed/file", F_OK));
         DIR_HANDLE handle;
         EXPECT_EQ(FSOpenDir("tree/closed", 0, handle), -1);
     }
+    EXPECT_EQ(ModeOf("."), 0777u);
+    EXPECT_EQ(ModeOf("fixed"), 0555u);
     chmod("tree/closed", 0755);
     EXPECT_FALSE(isFileLocked("missing", R_OK));
     EXPECT_FALSE(isFileLocked("tree", R_OK));

@@ -78,22 +78,6 @@ TEST_F(OwnTreeTest, RemovesWhatItsOwnerMayNotChange) {
     EXPECT_EQ(ModeOf("outside"), 0u);
 }
 
-TEST_F(OwnTreeTest, RemovesOneObject) {
-    MakeFile("fixed/file");
-    MakeLink("fixed/file", "link");
-    chmod("fixed", 0555);
-    const AsNobody nobody;
-    EXPECT_EQ(FSRemoveOwnTree(""), -1);
-    EXPECT_EQ(FSRemoveOwnTree("fixed/file/below"), -1);
-    EXPECT_EQ(FSRemoveOwnTree("missing"), 0);
-    EXPECT_EQ(FSRemoveOwnTree("fixed/file"), -3) << "its folder must not be changed";
-    EXPECT_EQ(FSRemoveOwnTree("link"), 0);
-    EXPECT_FALSE(Exists("link"));
-    EXPECT_TRUE(Exists("fixed/file"));
-    EXPECT_EQ(ModeOf("fixed"), 0555u);
-    EXPECT_EQ(ModeOf("."), 0777u);
-}
-
 TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
     MakeFile("elsewhere/file");
     const SmallDisk disk("tree/closed/disk", "64k");

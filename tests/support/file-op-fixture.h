@@ -31,6 +31,10 @@ class FileOpTest : public testing::Test {
         umask(022);
         EXPECT_EQ(chmod(folder_.path().c_str(), 0777), 0);
         EXPECT_EQ(chdir(folder_.path().c_str()), 0);
+        makeKinds();
+    }
+
+    static void makeKinds() {
         MakeFile("kinds/file", "12345");
         MakeFolder("kinds/folder");
         MakeLink("file", "kinds/link to file");
