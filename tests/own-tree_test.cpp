@@ -78,42 +78,33 @@ TEST_F(OwnTreeTest, RemovesWhatItsOwnerMayNotChange) {
     EXPECT_EQ(ModeOf("outside"), 0u);
 }
 
-TEST_F(OthersTreeTest, EntersNoOtherVolumeAndRemovesTheRest) {
-    MakeFile("elsewhere/file");
-    const SmallDisk disk("tree/closed/disk", "64k");
-    MakeFolder("tree/closed/bound");
-    if (!disk.mounted()) {
-        GTEST_SKIP() << "this user can't mount a small disk";
-    }
-    ASSERT_EQ(mount("elsewhere", "tree/closed/bound", nullptr, MS_BIND, nullptr), 0);
-    MakeFile("tree/closed/disk/file");
-    MakeFile("tree/closed/removed/file");
-    MakeFile("tree/removed");
-    for (const char* const path :
-         {"tree", "tree/closed", "tree/closed/removed", "elsewhere", "tree/closed/disk"}) {
-        EXPECT_EQ(chown(path, 65534, 65534), 0);
-        chmod(path, 0);
-    }
-    {
-        const AsNobody nobody;
-        EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
-        EXPECT_EQ(ModeOf("tree/closed/bound") + ModeOf("tree/closed/disk"), 0u);
-    }
-    EXPECT_EQ(FSRemoveOwnTree("tree"), -3) << "even as root, which bypasses permissions";
-    EXPECT_TRUE(Exists("tree/closed/bound/file") && Exists("tree/closed/disk/file"));
-    EXPECT_EQ(Tree("tree").size(), 5u) << "the two files and the folders above them";
-    umount("tree/closed/bound");
-}
-
-TEST_F(OthersTreeTest, GoesOnAfterWhatCannotBeRemoved) {
+TEST_F(OthersTreeTest, LeavesOtherVolumesAndWhatItMayNotRemove) {
     makeClosedTree("tree");
     MakeFile("tree/1755/another's/file");
     MakeFolder("tree/1755/another's empty");
     chmod("tree/1755/another's empty", 0700);
-    const AsNobody nobody;
-    EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
+    MakeFile("elsewhere/file");
+    MakeFolder("tree/555/bound");
+    const SmallDisk disk("tree/555/disk", "64k");
+    if (!disk.mounted()) {
+        GTEST_SKIP() << "this user can't mount a small disk";
+    }
+    ASSERT_EQ(mount("elsewhere", "tree/555/bound", nullptr, MS_BIND, nullptr), 0);
+    MakeFile("tree/555/disk/file");
+    for (const char* const path : {"elsewhere", "tree/555/disk"}) {
+        EXPECT_EQ(chown(path, 65534, 65534) + chmod(path, 0), 0);
+    }
+    {
+        const AsNobody nobody;
+        EXPECT_EQ(FSRemoveOwnTree("tree"), -3);
+        EXPECT_EQ(ModeOf("tree/555/bound") + ModeOf("tree/555/disk"), 0u);
+    }
     EXPECT_TRUE(Exists("tree/1755/another's/file"));
-    EXPECT_EQ(Tree("tree").size(), 3u) << "the file and the folders above it";
+    EXPECT_EQ(Tree("tree").size(), 8u) << "three files and the folders above them";
+    EXPECT_EQ(FSRemoveOwnTree("tree"), -3) << "even as root, which bypasses permissions";
+    EXPECT_TRUE(Exists("tree/555/bound/file") && Exists("tree/555/disk/file"));
+    EXPECT_EQ(Tree("tree").size(), 5u) << "two files and the folders above them";
+    umount("tree/555/bound");
 }
 
 TEST_F(OwnTreeTest, ABrokenListingIsNotItsEnd) {
