@@ -19,7 +19,7 @@ bool AddQuoted(const std::string& key, const std::string& value, std::string& te
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Folder folder(Temporary());
+    static const Folder folder(std::filesystem::temp_directory_path());
     static const std::string path = folder / "file";
     const std::string file = TextOf(data, size);
     MakeFile(path, file);

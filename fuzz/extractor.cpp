@@ -25,7 +25,7 @@ const rlim_t kMaxFileSize = 4 * 1024 * 1024;  // bytes; a package can claim any 
 const std::size_t kTarBlock = 512;
 
 const Folder& World() {
-    static const Folder folder(Temporary());
+    static const Folder folder(fs::temp_directory_path());
     return folder;
 }
 

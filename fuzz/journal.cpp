@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Folder folder(Temporary());
+    static const Folder folder(std::filesystem::temp_directory_path());
     static const UpgradeJournal journal(folder.path().c_str());
     MakeFile(journal.path().c_str(), TextOf(data, size));
     UpgradeJournal::Record record;

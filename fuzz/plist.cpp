@@ -26,7 +26,7 @@ QByteArray Wrapped(const QString& name) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Folder folder(Temporary());
+    static const Folder folder(std::filesystem::temp_directory_path());
     const std::string file = TextOf(data, size);
     const QByteArray bytes(file.data(), static_cast<int>(file.size()));
     const QString name = platform::BundleExecutable(bytes);

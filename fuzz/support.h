@@ -9,19 +9,14 @@
 #include "lib/liblogger/log.h"
 #include "tests/support/scenario.h"
 
-// What the fuzz targets share.
+// What the fuzz targets share. Their folders are in memory: scripts/fuzz sets TMPDIR.
 
 // Nothing catches what Check throws, so the run ends; the input that broke the promise is a find.
 #define REQUIRE(promise) Check(static_cast<bool>(promise), "broken promise: " #promise)
 
-// Where the targets make their folders; scripts/fuzz sets TMPDIR to a folder in memory.
-inline std::string Temporary() {
-    return std::filesystem::temp_directory_path();
-}
-
 // Switches the log off for the components that the targets reach.
 inline void SilenceLog() {
-    const Folder folder(Temporary());
+    const Folder folder(std::filesystem::temp_directory_path());
     const std::string levels = folder / "levels";
     MakeFile(levels, "service_debug=0\nextractor_debug=0\nfile_op_debug=0\n");
     Logger::Initialize(Logger::TYPE_STDERR, "", levels.c_str(), 0);
