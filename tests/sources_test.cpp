@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <regex>
 #include <set>
 #include <tuple>
@@ -26,37 +25,24 @@ void ForEachSource(const std::function<void(const fs::path&, const std::string&)
     }
 }
 
-// The layers from the lowest to the highest. A file belongs to the first layer whose pattern it
-// matches, and may include files of its own layer and of those before it in this list.
-const std::regex kLayers[] = {
-    std::regex("ustring/.*"),
-    std::regex("lib/(config|libtmpname|platform)/.*|lib/install-layout.h|libcommon/.*"),
-    std::regex("lib/liblogger/.*"),
-    std::regex("lib/libclient/.*"),
-    std::regex("ui-client/launcher/(translations/.*|(archive-handles|client-file|entry-guard|"
-               "move-entries|notify-adapter|running-client|upgrade-journal|version-file)\\..*)"),
-    std::regex(
-        "ui-client/launcher/(app-replacement|content-checksum|extractor|package-reader)\\..*"),
-    std::regex("ui-client/launcher/tarnwell-service.*"),
-    std::regex("ui-client/launcher/mac/.*"),
-    std::regex("ui-client/launcher/(launcher|progress-dialog)\\..*"),
-    std::regex("ui-client/launcher/main.cpp")};
-
-std::size_t LayerOf(const std::string& file) {
-    std::size_t layer = 0;
-    while (layer < std::size(kLayers) && !std::regex_match(file, kLayers[layer])) {
-        ++layer;
-    }
-    EXPECT_LT(layer, std::size(kLayers)) << file << " belongs to no layer";
-    return layer;
-}
-
+// layers.txt has a pattern for each layer, from the lowest to the highest. A file belongs to the
+// first layer whose pattern it matches, and may include files of this and of lower layers.
 TEST(LayersTest, NoIncludePointsUpwards) {
+    std::vector<std::regex> layers;
+    for (const std::string& pattern : LinesWith(ReadFile(SOURCE_DIR "/tests/layers.txt"), "")) {
+        layers.emplace_back(pattern);
+    }
+    const auto layer_of = [&](const std::string& file) {
+        const auto matches = [&](const std::regex& layer) { return std::regex_match(file, layer); };
+        const auto layer = std::find_if(layers.begin(), layers.end(), matches);
+        EXPECT_NE(layer, layers.end()) << file << " belongs to no layer";
+        return layer;
+    };
     int includes = 0;
     ForEachSource([&](const std::string& file, const std::string& text) {
         for (const std::string& line : LinesWith(text, "#include \"")) {
             const std::string included = line.substr(10, line.size() - 11);
-            EXPECT_LE(LayerOf(included), LayerOf(file)) << file << ": " << line;
+            EXPECT_LE(layer_of(included), layer_of(file)) << file << ": " << line;
             ++includes;
         }
     });
