@@ -3,8 +3,6 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <QString>
 #include <ctime>
@@ -19,52 +17,48 @@
 #include "lib/platform/private-folder.h"
 #include "lib/platform/process-info.h"
 #include "lib/platform/single-instance.h"
-#include "tests/support/scenario.h"
+#include "tests/support/file-op-fixture.h"
 #include "tests/support/system.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-TEST(FSRef, NamesTheObjectThatAPathLeadsTo) {
-    const Folder folder;
-    MakeFile(folder / "folder/Name");
+using FSRefTest = FileOpTest;
+
+TEST_F(FSRefTest, NamesTheObjectThatAPathLeadsTo) {
     // Two hard links whose names differ in letter case make the folder look case-insensitive.
-    fs::create_hard_link(folder / "folder/Name", folder / "folder/nAME");
-    MakeLink("folder/Name", folder / "link");
-    MakeLink("folder", folder / "way");
-    MakeLink("nowhere", folder / "dangling");
-    MakeLink("loop", folder / "loop");
-    MakeFile(folder / "closed/file");
-    fs::permissions(folder / "closed", fs::perms::none);
+    MakeFile("kinds/folder/Name");
+    fs::create_hard_link("kinds/folder/Name", "kinds/folder/nAME");
+    MakeFile("closed/file");
+    fs::permissions("closed", fs::perms::none);
     const struct {
         OSStatus status;
         std::string target;
         std::vector<std::string> paths;
-    } cases[] = {{0,
-                  "folder/Name",
-                  {"folder/Name", "link", "way/Name", "folder/../link", "/folder/.//Name"}},
+    } cases[] = {{0, "folder/Name", {"folder/Name", "link to folder/Name", "/folder/.//Name"}},
                  {0, "folder/nAME", {"folder/nAME"}},
-                 {0, "folder", {"way"}},
+                 {0, "folder", {"link to folder"}},
+                 {0, "file", {"link to file", "folder/../link to file"}},
                  {-43, "", {"missing", "dangling", "missing/"}},
-                 {-120, "", {"missing/file", "folder/Name/below"}},
+                 {-120, "", {"missing/file", "file/below"}},
                  {-37, "", {std::string(300, 'x')}},
                  {-36, "", {"loop"}},
-                 {-5000, "", {"closed/file"}}};
+                 {-5000, "", {"../closed/file"}}};
     const AsNobody nobody;
     FSRef ref;
     UInt8 text[PATH_MAX] = {};
     for (const auto& [status, target, paths] : cases) {
         for (const std::string& name : paths) {
             SCOPED_TRACE(name);
-            const std::string path = folder / name;
+            const std::string path = folder_ / "kinds/" + name;
             Boolean is_folder = 2;
             ASSERT_EQ(FSPathMakeRef(reinterpret_cast<const UInt8*>(path.c_str()), &ref, &is_folder),
                       status);
             if (status == 0) {
                 EXPECT_EQ(is_folder, fs::is_directory(path));
                 EXPECT_EQ(FSRefMakePath(&ref, text, sizeof text), 0);
-                EXPECT_EQ(reinterpret_cast<char*>(text), folder / target);
+                EXPECT_EQ(reinterpret_cast<char*>(text), folder_ / "kinds/" + target);
             }
         }
     }

@@ -34,6 +34,8 @@ class FileOpTest : public testing::Test {
         makeKinds();
     }
 
+    void TearDown() override { EXPECT_EQ(chdir("/"), 0); }
+
     static void makeKinds() {
         MakeFile("kinds/file", "12345");
         MakeFolder("kinds/folder");
