@@ -1,21 +1,18 @@
 #include "lib/config/config.h"
 
-#include <sys/stat.h>
-
 #include <climits>
 
-#include "tests/support/scenario.h"
+#include "tests/support/folder-test.h"
 
 namespace {
 
-class ConfigTest : public testing::Test {
+class ConfigTest : public FolderTest {
   protected:
     int read(const std::string& text) {
-        MakeFile(folder_ / "file", text);
-        return config_.read((folder_ / "file").c_str());
+        MakeFile("file", text);
+        return config_.read("file");
     }
 
-    Folder folder_;
     Config config_;
 };
 
@@ -51,7 +48,7 @@ TEST_F(ConfigTest, AddsToWhatItHolds) {
     EXPECT_EQ(read("a=1\nb=2\n"), 0);
     EXPECT_EQ(read("b=3\nc=4\nignored"), 0);
     EXPECT_EQ(config_.read(""), -1);
-    EXPECT_EQ(config_.read((folder_ / "missing").c_str()), -1);
+    EXPECT_EQ(config_.read("missing"), -1);
     EXPECT_EQ(config_.entries, (std::map<ustring, ustring>{{"a", "1"}, {"b", "3"}, {"c", "4"}}));
 }
 
@@ -72,20 +69,19 @@ TEST_F(ConfigTest, ANulEndsALineAndAFailingDiskTheFile) {
 
 TEST_F(ConfigTest, OpensNothingButASmallRegularFileInside) {
     const std::string large = "a=1\n" + std::string(1024 * 1024 - 4, '\n');
-    const std::string inside = folder_ / "inside";
-    MakeFile(folder_ / "outside", "a=1\n");
-    MakeFile(inside + "/file", "b=2\n");
-    MakeLink("../outside", inside + "/link out");
-    MakeLink("file", inside + "/link");
-    MakeLink("/dev/zero", folder_ / "device");
-    ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0644), 0);
-    for (const char* const refused : {"pipe", "device", "inside", "outside", "inside/link out"}) {
-        EXPECT_EQ(config_.read((folder_ / refused).c_str(), inside.c_str()), -1) << refused;
+    MakeFile("outside", "a=1\n");
+    MakeFile("inside/file", "b=2\n");
+    MakeLink("../outside", "inside/link out");
+    MakeLink("file", "inside/link");
+    MakeLink("/dev/zero", "device");
+    for (const char* const refused :
+         {"kinds/pipe", "device", "inside", "outside", "inside/link out"}) {
+        EXPECT_EQ(config_.read(refused, "inside"), -1) << refused;
     }
-    EXPECT_EQ(config_.read((folder_ / "pipe").c_str()), -1);
+    EXPECT_EQ(config_.read("kinds/pipe"), -1);
     EXPECT_EQ(read(large + "\n"), -1);
     EXPECT_TRUE(config_.entries.empty());
-    EXPECT_EQ(config_.read((inside + "/link").c_str(), inside.c_str()), 0);
+    EXPECT_EQ(config_.read("inside/link", "inside"), 0);
     EXPECT_EQ(read(large), 0);
     EXPECT_EQ(config_.entries.size(), 2u);
 }

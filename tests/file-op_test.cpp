@@ -2,9 +2,11 @@
 
 #include <cerrno>
 
-#include "tests/support/file-op-fixture.h"
+#include "tests/support/folder-test.h"
 
 namespace {
+
+using FileOpTest = FolderTest;
 
 // The objects that the fixture creates.
 const std::map<std::string, int> kKinds = {

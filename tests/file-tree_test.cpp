@@ -5,12 +5,12 @@
 
 #include "lib/libclient/file-op.h"
 #include "lib/liblogger/log.h"
-#include "tests/support/file-op-fixture.h"
+#include "tests/support/folder-test.h"
 #include "tests/support/system.h"
 
 namespace {
 
-using FileTreeTest = FileOpTest;
+using FileTreeTest = FolderTest;
 
 int (*const kRemovals[])(const ustring& path) = {
     [](const ustring& path) { return FSRemove(path, false); }, FSRemoveOwnTree};
@@ -29,7 +29,7 @@ TEST_F(FileTreeTest, ReportsAFullDisk) {
     EXPECT_EQ(ReadFile("tree/big").size(), 100000u);
 }
 
-class OtherVolumeTest : public FileOpTest {
+class OtherVolumeTest : public FolderTest {
   protected:
     void SetUp() override {
         if (!Exists("/dev/shm")) {

@@ -9,7 +9,7 @@
 #include <filesystem>
 
 #include "lib/libclient/file-op.h"
-#include "tests/support/file-op-fixture.h"
+#include "tests/support/folder-test.h"
 #include "tests/support/system.h"
 #include "tests/support/traced-run.h"
 #include "ui-client/launcher/move-entries.h"
@@ -20,9 +20,9 @@ namespace {
 
 int reads_until_failure = 0;  // readdir() calls; 0: none fails
 
-class OwnTreeTest : public FileOpTest {
+class OwnTreeTest : public FolderTest {
   protected:
-    OwnTreeTest() : FileOpTest("/dev/shm") {}  // in memory, where creating folders is fast
+    OwnTreeTest() : FolderTest("/dev/shm") {}  // in memory, where creating folders is fast
 
     // Creates a tree that belongs to the user that AsNobody switches to. The name of each folder in
     // it is the folder's mode. One folder is empty.

@@ -17,16 +17,16 @@
 #include "lib/platform/private-folder.h"
 #include "lib/platform/process-info.h"
 #include "lib/platform/single-instance.h"
-#include "tests/support/file-op-fixture.h"
+#include "tests/support/folder-test.h"
 #include "tests/support/system.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-using FSRefTest = FileOpTest;
+using PlatformTest = FolderTest;
 
-TEST_F(FSRefTest, NamesTheObjectThatAPathLeadsTo) {
+TEST_F(PlatformTest, FSRefNamesTheObjectThatAPathLeadsTo) {
     // Two hard links whose names differ in letter case make the folder look case-insensitive.
     MakeFile("kinds/folder/Name");
     fs::create_hard_link("kinds/folder/Name", "kinds/folder/nAME");
@@ -115,7 +115,7 @@ TEST(BundleExecutable, IsReadFromTheInfoPlist) {
     EXPECT_EQ(platform::BundleExecutable("bplist00"), QString());
 }
 
-class OpenBundleTest : public testing::Test {
+class OpenBundleTest : public FolderTest {
   protected:
     OpenBundleTest() { setenv("HOME", folder_.path().c_str(), 1); }
 
@@ -124,22 +124,20 @@ class OpenBundleTest : public testing::Test {
     // writes to another file and renames it, so that this never reads an incomplete one.
     std::string openAndAwait() const {
         EXPECT_TRUE(open());
-        WaitFor([&] { return Exists(started_); });
-        std::string text = ReadFile(started_);
-        fs::remove(started_);
+        WaitFor([] { return Exists("started"); });
+        std::string text = ReadFile("started");
+        fs::remove("started");
         return text;
     }
 
-    const Folder folder_;
     const std::string programs_ = folder_ / "My.app/Contents/MacOS/";
-    const std::string started_ = folder_ / "started";
 };
 
 TEST_F(OpenBundleTest, StartsWhatTheInfoPlistNamesOrTheBundlesOwnName) {
-    const std::string plist = folder_ / "My.app/Contents/Info.plist";
+    const std::string plist = "My.app/Contents/Info.plist";
     const std::string naming =
         "<plist><dict><key>CFBundleExecutable</key><string>prog</string></dict></plist>";
-    MakeFile(folder_ / "outside", naming);
+    MakeFile("outside", naming);
     for (const char* const name : {"prog", "My"}) {
         MakeFile(programs_ + name, "#!/bin/sh\necho \"$(pwd) $# $0\" >there && mv there started\n",
                  0755);
@@ -159,7 +157,7 @@ TEST_F(OpenBundleTest, StartsWhatTheInfoPlistNamesOrTheBundlesOwnName) {
 
 TEST_F(OpenBundleTest, SaysWhenThereIsNothingToStart) {
     const std::string program = programs_ + "My";
-    MakeFile(folder_ / "outside", "#!/bin/sh\n", 0755);
+    MakeFile("outside", "#!/bin/sh\n", 0755);
     const std::function<void()> cases[] = {[] {}, [&] { MakeFolder(program); },
                                            [&] { MakeFile(program, "#!/bin/sh\n", 0644); },
                                            [&] { MakeLink("../../../outside", program); }};
@@ -189,65 +187,60 @@ TEST_F(OpenBundleTest, TheProgramStartsAfresh) {
     sigprocmask(SIG_SETMASK, &saved, nullptr);
 }
 
-TEST(InstanceLock, OneProcessHoldsItWhateverIsInItsPlace) {
-    const Folder folder;
-    const std::string path = folder / "lock";
+TEST_F(PlatformTest, OneInstanceLockIsHeldWhateverIsInItsPlace) {
     platform::Descriptor foreign(-1);
     const auto make_foreign = [&] {  // a locked file of another user
-        MakeFile(path, "", 0666);
+        MakeFile("lock", "", 0666);
         if (geteuid() == 0) {
-            ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
-            foreign.reset(open(path.c_str(), O_RDWR | O_CLOEXEC));
+            ASSERT_EQ(chown("lock", 65534, 65534), 0);
+            foreign.reset(open("lock", O_RDWR | O_CLOEXEC));
             ASSERT_EQ(flock(foreign.get(), LOCK_EX | LOCK_NB), 0);
         }
     };
     const std::function<void()> cases[] = {
         [] {},
-        [&] { MakeFile(path, "", 0600); },  // of a killed process
-        [&] { MakeLink("/etc/passwd", path); },
-        [&] { mkfifo(path.c_str(), 0666); },
+        [] { MakeFile("lock", "", 0600); },  // of a killed process
+        [] { MakeLink("/etc/passwd", "lock"); },
+        [] { mkfifo("lock", 0666); },
         make_foreign,
-        [&] { MakeFolder(path); }};
+        [] { MakeFolder("lock"); }};
     // To the lock, another object is like another process.
-    const auto held = [&] { return platform::InstanceLock(path).heldElsewhere(); };
+    const auto held = [] { return platform::InstanceLock("lock").heldElsewhere(); };
     for (const auto& make : cases) {
         SCOPED_TRACE(&make - cases);
         make();
-        const bool can_lock = !fs::is_directory(path);
+        const bool can_lock = !fs::is_directory("lock");
         {
-            const platform::InstanceLock lock(path);
+            const platform::InstanceLock lock("lock");
             EXPECT_FALSE(lock.heldElsewhere());
             EXPECT_EQ(held(), can_lock);
             EXPECT_EQ(held(), can_lock) << "the first check removed the file";
         }
-        EXPECT_EQ(Exists(path), !can_lock);
+        EXPECT_EQ(Exists("lock"), !can_lock);
         EXPECT_FALSE(held());
     }
     EXPECT_FALSE(platform::InstanceLock("/proc/lock").heldElsewhere());
-    EXPECT_FALSE(platform::InstanceLock(folder / "no folder/lock").heldElsewhere());
+    EXPECT_FALSE(platform::InstanceLock("no folder/lock").heldElsewhere());
 }
 
-TEST(SingleInstance, EachCopyRunsOnceAndRemovesLocksThatNobodyHolds) {
-    const Folder parent;
-    const std::string folder = parent / "user/folder";
-    const std::string held = ".launcher-fedcba9876543210.lock";
-    MakeFile(folder + "/other.lock");
-    MakeLink("other.lock", folder + "/.launcher-link.lock");
-    MakeFile(folder + "/.launcher-0123456789abcdef.lock", "", 0600);
-    const platform::InstanceLock lock(folder + "/" + held);
-    const auto runs = [&](const char* executable) {
-        return platform::SingleInstance(folder, executable).runsElsewhere();
+TEST_F(PlatformTest, EachCopyIsASingleInstanceAndRemovesLocksThatNobodyHolds) {
+    MakeFile("user/other.lock");
+    MakeLink("other.lock", "user/.launcher-link.lock");
+    MakeFile("user/.launcher-0123456789abcdef.lock", "", 0600);
+    const platform::InstanceLock lock("user/.launcher-fedcba9876543210.lock");
+    const auto runs = [](const char* executable) {
+        return platform::SingleInstance("user", executable).runsElsewhere();
     };
     {
-        const platform::SingleInstance instance(folder, "/copy");
+        const platform::SingleInstance instance("user", "/copy");
         EXPECT_FALSE(instance.runsElsewhere());
         EXPECT_TRUE(runs("/copy"));
         EXPECT_FALSE(runs("/another copy"));
     }
     EXPECT_FALSE(runs("/copy"));
-    EXPECT_EQ(Tree(folder), (FileTree{{"other.lock", "file 0644: "},
+    EXPECT_EQ(Tree("user"), (FileTree{{"other.lock", "file 0644: "},
                                       {".launcher-link.lock", "link: other.lock"},
-                                      {held, "file 0600: "}}));
+                                      {".launcher-fedcba9876543210.lock", "file 0600: "}}));
 }
 
 // Another user may already have created something at the folder's path.

@@ -1,5 +1,5 @@
-#ifndef TESTS_SUPPORT_FILE_OP_FIXTURE_H
-#define TESTS_SUPPORT_FILE_OP_FIXTURE_H
+#ifndef TESTS_SUPPORT_FOLDER_TEST_H
+#define TESTS_SUPPORT_FOLDER_TEST_H
 
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -25,9 +25,9 @@ inline void ExpectLogged(int result, const std::string& message,
 
 // Runs a test in a temporary folder, which every user can write to. Its subfolder "kinds" has one
 // object of each kind, but no devices.
-class FileOpTest : public testing::Test {
+class FolderTest : public testing::Test {
   protected:
-    explicit FileOpTest(const std::string& parent = "/tmp") : folder_(parent) {
+    explicit FolderTest(const std::string& parent = "/tmp") : folder_(parent) {
         umask(022);
         EXPECT_EQ(chmod(folder_.path().c_str(), 0777), 0);
         EXPECT_EQ(chdir(folder_.path().c_str()), 0);
