@@ -1,10 +1,8 @@
 // Tests reading the version file of an installation and finding its client.
 
-#include <sys/stat.h>
-
 #include <filesystem>
 
-#include "tests/support/scenario.h"
+#include "tests/support/folder-test.h"
 #include "ui-client/launcher/client-file.h"
 #include "ui-client/launcher/version-file.h"
 
@@ -15,13 +13,12 @@ namespace {
 using platform::Presence;
 using platform::Reading;
 
-class InstalledTest : public testing::Test {
+class InstalledTest : public FolderTest {
   protected:
     Reading load(VerInfo& version) const {
         return LoadVersion(info_.c_str(), version, app_.c_str());
     }
 
-    Folder folder_;
     const std::string app_ = folder_ / "My.app";
     const std::string info_ = app_ + "/Contents/Resources/INFO";
     const std::string client_ = app_ + "/Contents/MacOS/tarnwell-ui";
@@ -52,8 +49,8 @@ TEST_F(InstalledTest, AReplacedVersionFileIsReadAnew) {
 
 // Creates each kind of object as the version file and as the client, and checks both results.
 TEST_F(InstalledTest, NothingButARegularFileInsideIsRead) {
-    MakeFile(folder_ / "outside", "[Version]\nbuild_version=1");
-    MakeFile(folder_ / "My.app-evil/file", "[Version]\nbuild_version=1");
+    MakeFile("outside", "[Version]\nbuild_version=1");
+    MakeFile("My.app-evil/file", "[Version]\nbuild_version=1");
     using Make = std::function<void(const std::string& path)>;
     const auto file = [](const std::string& text, mode_t mode = 0644) -> Make {
         return [=](const std::string& path) { MakeFile(path, text, mode); };
