@@ -24,31 +24,22 @@ namespace {
 const rlim_t kMaxFileSize = 4 * 1024 * 1024;  // bytes; a package can claim any size
 const std::size_t kTarBlock = 512;
 
-const Folder& World() {
-    static const Folder folder(fs::temp_directory_path());
-    return folder;
-}
-
-std::string Destination() {
-    return World() / "dest";
-}
-
-// A folder beside the destination. The extractor must not write into it.
-std::string Outside() {
-    return World() / "outside";
-}
+const Folder world(fs::temp_directory_path());
+const std::string package_file = world / "package";
+const std::string destination = world / "dest";
+const std::string outside = world / "outside";  // the extractor must not write into it
 
 // Describes what the extractor must not change: the objects outside of the destination, with inode
 // and the time of the last change, which covers permissions and links too. The time is 0 for the
 // destination itself.
 std::map<std::string, std::pair<ino_t, long>> Surroundings() {
     std::map<std::string, std::pair<ino_t, long>> found;
-    for (const std::string& folder : {World().path(), Outside()}) {
+    for (const std::string& folder : {world.path(), outside}) {
         for (const fs::path& path : fs::directory_iterator(folder)) {
             struct stat status {};
             REQUIRE(lstat(path.c_str(), &status) == 0);
             const timespec& changed = status.st_ctim;
-            const bool is_ours = path == Destination();
+            const bool is_ours = path == destination;
             found[path] = {status.st_ino,
                            is_ours ? 0 : changed.tv_sec * 1000000000 + changed.tv_nsec};
         }
@@ -73,7 +64,7 @@ void CopyAllData(Extractor& extractor) {
     }
     while (package.next(entry) == ARCHIVE_OK) {
         const EntryHandle copy(archive_entry_new());
-        archive_entry_set_pathname(copy.get(), (Destination() + "/copy").c_str());
+        archive_entry_set_pathname(copy.get(), (destination + "/copy").c_str());
         archive_entry_set_mode(copy.get(), AE_IFREG | 0600);
         const ArchiveHandle out(archive_write_disk_new());
         REQUIRE(archive_write_header(out.get(), copy.get()) == ARCHIVE_OK);
@@ -103,7 +94,7 @@ extern "C" int symlink(const char* target, const char* path) noexcept {
         return make(target, path);
     }
     const bool to_file = std::strstr(target, "sentinel") != nullptr;
-    return make((to_file ? Outside() + "/sentinel" : Outside()).c_str(), path);
+    return make((to_file ? outside + "/sentinel" : outside).c_str(), path);
 }
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
@@ -118,7 +109,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
     REQUIRE(std::freopen("/dev/null", "w", stdout) != nullptr);
     std::signal(SIGXFSZ, SIG_IGN);
     umask(022);
-    MakeFile(Outside() + "/sentinel");
+    MakeFile(outside + "/sentinel");
     return 0;
 }
 
@@ -138,28 +129,28 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    MakeFolder(Destination());
-    MakeFile(World() / "package", TextOf(data, size));
+    MakeFolder(destination);
+    MakeFile(package_file, TextOf(data, size));
     const auto before = Surroundings();
 
     Extractor extractor;
-    extractor.dest_dir = Destination().c_str();
-    extractor.archive_path = (World() / "package").c_str();
+    extractor.dest_dir = destination.c_str();
+    extractor.archive_path = package_file.c_str();
     LimitFileSize(kMaxFileSize);
     const int count = extractor.Count();
     REQUIRE(count >= -1);
     REQUIRE(extractor.List() == (count < 0 ? -1 : 0));
-    REQUIRE(fs::is_empty(Destination()));
+    REQUIRE(fs::is_empty(destination));
     reports = 0;
     const int result = extractor.Extract();
     REQUIRE(result == 0 || result == -1);
     REQUIRE(result != 0 || reports == count);
     REQUIRE(Surroundings() == before);
 
-    RemoveTree(Destination());
-    MakeFolder(Destination());
+    RemoveTree(destination);
+    MakeFolder(destination);
     CopyAllData(extractor);
     LimitFileSize(RLIM_INFINITY);
-    RemoveTree(Destination());
+    RemoveTree(destination);
     return 0;
 }
