@@ -10,7 +10,6 @@
 //
 // scripts/prove runs all rows with PROVE_CASES=0.
 
-#include <fcntl.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -20,6 +19,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <random>
 
 #include "tests/support/disk-model.h"
@@ -55,223 +55,179 @@ const Scene kScenes[] = {
     {3, Shape::Plain, Scene::CutBefore, true, Shape::NoClient, Scene::Nothing},
     {3, Shape::ClientFirst, Scene::CutAfter, true, Shape::Plain, Scene::Leftover}};
 
-// The system calls that are counted, from the first one on the home folder: those that change files
-// in it; all on ~/.Tarnwell; all on the home folder and on the bundle's resources and log folder;
-// or all on any file.
-enum Scope { Changes, OnTarnwell, OnOwn, OnAny };
-
-// One case of a row: a variant of the fault, and the system call at which it happens.
-class Case : public UpgradeTrial {
-  public:
-    using UpgradeTrial::UpgradeTrial;
-
-    TracedRun at(int call) const {
-        TracedRun run;
-        run.fault_at = call;
-        run.changes_only = scope == Changes;
-        run.since = in.home();
-        if (scope != OnAny) {
-            run.within = {scope == OnTarnwell ? in.user() : in.home()};
-        }
-        if (scope == OnOwn) {
-            run.within.push_back(in.bundle("log"));
-            run.within.push_back(in.bundle("Contents/Resources"));
-        }
-        return run;
-    }
-    TracedRun run() const { return at(1 + number % calls); }
-
-    Scope scope = Changes;
-    int calls = 1;    // N, counted in the undisturbed run
-    int number = 0;   // of the case
-    int variant = 0;  // of the fault
-};
-
-void Kill(Case& c) {
-    c.check(c.follow(c.run()).end == 1000 + SIGKILL, "the launcher was not killed");
-    c.recover();
+void Kill(UpgradeTrial& t) {
+    t.check(t.follow(t.run()).end == 1000 + SIGKILL, "the launcher was not killed");
+    t.recover();
 }
 
-void KillTwice(Case& c) {
-    c.follow(c.run());
-    c.follow(c.at(1 + (c.variant * c.calls + c.number % c.calls) / 10));
-    c.recover();
+void KillTwice(UpgradeTrial& t) {
+    t.follow(t.run());
+    t.follow(t.at(1 + (t.variant * t.calls + t.number % t.calls) / 10));
+    t.recover();
 }
 
 // In even cases the build number of the package rises from run to run, in odd ones it is random.
-void KillInARow(Case& c) {
-    std::mt19937 random(static_cast<unsigned>(c.number));
-    std::vector<FileTree> whole(c.scene.has_old ? 1 : 0, c.old_app);
+void KillInARow(UpgradeTrial& t) {
+    std::mt19937 random(static_cast<unsigned>(t.number));
+    std::vector<FileTree> whole(t.scene.has_old ? 1 : 0, t.old_app);
     for (int i = 0; i < kKills; ++i) {
         const bool had_any = !whole.empty();
-        c.setPackage(100 + (c.number % 2 == 0 ? i : static_cast<int>(random() % kKills)));
-        c.follow(c.at(1 + static_cast<int>(random() % static_cast<unsigned>(c.calls))));
-        whole.push_back(c.new_app);
+        t.setPackage(100 + (t.number % 2 == 0 ? i : static_cast<int>(random() % kKills)));
+        t.follow(t.at(1 + static_cast<int>(random() % static_cast<unsigned>(t.calls))));
+        whole.push_back(t.new_app);
         whole.erase(std::remove_if(whole.begin(), whole.end(),
-                                   [&](const FileTree& app) { return !c.isWhole(app); }),
+                                   [&](const FileTree& app) { return !t.isWhole(app); }),
                     whole.end());
-        c.check(!had_any || !whole.empty(), "no complete application is left");
+        t.check(!had_any || !whole.empty(), "no complete application is left");
     }
-    c.setPackage(1000);
-    c.runUndisturbed();
-    c.checkEnd(true);
+    t.setPackage(1000);
+    t.runUndisturbed();
+    t.checkEnd(true);
 }
 
 // Replaces ~/.Tarnwell by a copy of it, in which every inode number is different.
-void KillAndCopy(Case& c) {
-    c.follow(c.run());
-    const std::string user = c.in.user();
+void KillAndCopy(UpgradeTrial& t) {
+    t.follow(t.run());
+    const std::string user = t.in.user();
     CopyTree(user, user + ".copy");
     RemoveTree(user);
     fs::rename(user + ".copy", user);
-    c.may_doubt = true;
-    c.recover();
+    t.may_doubt = true;
+    t.recover();
 }
 
 // Variant 0 loses everything that wasn't synced. Variant 1 keeps it, but new files are empty. The
 // other cases choose at random.
-void CutPower(Case& c) {
-    Disk disk(c.in.user());
-    TracedRun run = c.run();
+void CutPower(UpgradeTrial& t) {
+    Disk disk(t.in.user());
+    TracedRun run = t.run();
     run.on_sync = [&](const std::string& path) { disk.sync(path); };
-    c.follow(run);
-    disk.cut(static_cast<unsigned>(c.variant < 2 ? c.variant : c.number));
-    if (c.as_user) {
-        c.in.runAsNobody();
+    t.follow(run);
+    disk.cut(static_cast<unsigned>(t.variant < 2 ? t.variant : t.number));
+    if (t.as_user) {
+        t.in.runAsNobody();
     }
-    c.recover();
+    t.recover();
 }
 
-TracedRun WithError(Case& c, bool lasting) {
-    TracedRun run = c.run();
-    run.error = kErrors[c.variant];
+void Fail(UpgradeTrial& t, bool lasting) {
+    const int error = kErrors[t.variant];
+    TracedRun run = t.run();
+    run.fault = [&](pid_t) { return error; };
     run.lasting = lasting;
-    c.doing += std::string(" ") + strerror(run.error) + (lasting ? " from that call on," : "");
-    run = c.follow(run);
-    c.check(run.end == 0, "the exit code isn't 0");
-    return run;
-}
-
-void Fail(Case& c) {
+    t.doing += std::string(" ") + strerror(error) + (lasting ? " from that call on," : "");
     // After a failed call that changes nothing, or on an overlay, the application may be complete
     // only after the next run.
-    if (WithError(c, false).struck_a_change && c.scene.around != Scene::OnOverlay) {
-        c.checkInPlace();
+    if (t.follow(run).at_change && !lasting && t.scene.around != Scene::OnOverlay) {
+        t.checkInPlace();
     }
-    c.recover();
+    t.recover();
 }
 
-void KeepFailing(Case& c) {
-    WithError(c, true);
-    c.recover();
-}
-
-void FailTenTimes(Case& c) {
+void FailTenTimes(UpgradeTrial& t) {
     for (int i = 0; i < 10; ++i) {
-        c.check(c.runUndisturbed() == 0, "the exit code isn't 0");
-        c.checkEnd(false);
+        t.runUndisturbed();
+        t.checkEnd(false);
     }
-    c.setPackage(100);
-    c.runUndisturbed();
-    c.checkEnd(true);
+    t.setPackage(100);
+    t.runUndisturbed();
+    t.checkEnd(true);
 }
 
 // Starts another copy of the launcher while this one is stopped, then lets both continue. One of
 // them has the newer package.
-void StartAnother(Case& c) {
+void StartAnother(UpgradeTrial& t) {
     Installation other;
-    other.environment["HOME"] = c.in.home();
-    other.setBuild(c.variant == 0 ? "101" : "100", "tar.zst", c.scene.package);
-    if (c.as_user) {
+    other.environment["HOME"] = t.in.home();
+    other.setBuild(t.variant == 0 ? "101" : "100", "tar.zst", t.scene.package);
+    if (t.as_user) {
         other.runAsNobody();
     }
-    c.setPackage(c.variant == 0 ? 100 : 101);
-    c.new_app = Installation::expectedApp("101", c.scene.package, true);
+    t.setPackage(t.variant == 0 ? 100 : 101);
+    t.new_app = Installation::expectedApp("101", t.scene.package, true);
     pid_t pid = 0;
-    TracedRun run = c.run();
-    run.interfere = [&](pid_t) {
+    TracedRun run = t.run();
+    run.fault = [&](pid_t) {
         pid = other.start();
         siginfo_t end{};
         for (int i = 0; i < 100 && end.si_pid == 0; ++i) {  // it may wait for this one
             usleep(2000);
             waitid(P_PID, static_cast<id_t>(pid), &end, WEXITED | WNOHANG | WNOWAIT);
         }
+        return 0;
     };
-    run = c.follow(run);
-    c.check(run.end == 0, "the exit code isn't 0");
-    c.check(run.ends[pid] == 0, "the other launcher's exit code isn't 0");
-    c.checkEnd(true);
+    t.check(t.follow(run).ends[pid] == 0, "the other launcher's exit code isn't 0");
+    t.checkEnd(true);
 }
 
-void SendSignal(Case& c) {
-    const int deaf = c.calls / 3;  // by then it has installed its signal handlers
-    TracedRun run = c.at(deaf + 1 + c.number % (c.calls - deaf));
-    run.interfere = [&](pid_t pid) { kill(pid, kSignals[c.variant]); };
-    c.check(c.follow(run).end == 0, "the exit code isn't 0");
-    c.checkEnd(true);
+void SendSignal(UpgradeTrial& t) {
+    const int begin = t.calls / 3;  // by then it has installed its signal handlers
+    TracedRun run = t.at(begin + 1 + t.number % (t.calls - begin));
+    run.fault = [&](pid_t pid) { return kill(pid, kSignals[t.variant]); };
+    t.follow(run);
+    t.checkEnd(true);
 }
 
 // During the run, ~/.Tarnwell is renamed, removed, or replaced by a file.
-void TakeHome(Case& c) {
-    const std::string user = c.in.user();
-    TracedRun run = c.run();
-    run.interfere = [&](pid_t) {
+void TakeHome(UpgradeTrial& t) {
+    const std::string user = t.in.user();
+    TracedRun run = t.run();
+    run.fault = [&](pid_t) {
         fs::rename(user, user + ".elsewhere");
-        if (c.variant > 0) {
+        if (t.variant > 0) {
             RemoveTree(user + ".elsewhere");
         }
-        if (c.variant > 1) {
+        if (t.variant > 1) {
             MakeFile(user);
         }
+        return 0;
     };
-    c.check(c.follow(run).end == 0, "the exit code isn't 0");
+    t.follow(run);
     RemoveTree(user + ".elsewhere");
     RemoveTree(user);
-    c.runUndisturbed();
-    c.checkEnd(true);
+    t.runUndisturbed();
+    t.checkEnd(true);
 }
 
-void FillDisk(Case& c) {
-    const std::string filler = c.in.home() + "/filler";
-    TracedRun run = c.run();
-    run.interfere = [&](pid_t) {
-        const int fd = open(filler.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
-        const std::string block(4096, 'f');
-        while (write(fd, block.data(), block.size()) > 0) {
-        }
-        close(fd);
+void FillDisk(UpgradeTrial& t) {
+    const std::string filler = t.in.home() + "/filler";
+    TracedRun run = t.run();
+    run.fault = [&](pid_t) {
+        std::ofstream(filler) << std::string(2 << 20, 'f');
+        return 0;
     };
-    c.check(c.follow(run).end == 0, "the exit code isn't 0");
-    c.checkInPlace();
+    t.follow(run);
+    t.checkInPlace();
     fs::remove(filler);
-    c.recover();
+    t.recover();
 }
 
 struct Fault {
     const char* name;
-    void (*strike)(Case& c);
-    int level;         // it is tried in the scenes up to this level
-    int variants = 1;  // each has N cases
-    int more = 0;      // additional cases
+    void (*run)(UpgradeTrial& t);  // runs a case
+    int level;                     // it is tried in the scenes up to this level
+    int variants = 1;              // each has N cases
+    int more = 0;                  // additional cases
     Scope scope = Changes;
     int weight = 1;    // duration of a case, relative to one of weight 1
     bool good = true;  // tried with whole packages
     bool bad = true;   // tried with damaged packages
 };
 
-const Fault kFaults[] = {{"killed", Kill, 3},
-                         {"killed twice", KillTwice, 2, 10},
-                         {"killed in a row", KillInARow, 1, 0, 40, Changes, 12, true, false},
-                         {"killed and copied", KillAndCopy, 1},
-                         {"power cut", CutPower, 1, 2, 1000},
-                         {"a call fails", Fail, 2, 7, 0, OnOwn},
-                         {"any call fails", Fail, 0, 7, 0, OnAny},
-                         {"calls fail from one on", KeepFailing, 2, 7, 0, OnTarnwell},
-                         {"ten failures", FailTenTimes, 1, 0, 1, Changes, 12, false, true},
-                         {"another launcher", StartAnother, 1, 2, 0, Changes, 4, true, false},
-                         {"signal", SendSignal, 0, 3},
-                         {"home taken away", TakeHome, 0, 3},
-                         {"full disk", FillDisk, 0}};
+const Fault kFaults[] = {
+    {"killed", Kill, 3},
+    {"killed twice", KillTwice, 2, 10},
+    {"killed in a row", KillInARow, 1, 0, 40, Changes, 12, true, false},
+    {"killed and copied", KillAndCopy, 1},
+    {"power cut", CutPower, 1, 2, 1000},
+    {"a call fails", [](UpgradeTrial& t) { Fail(t, false); }, 2, 7, 0, OnOwn},
+    {"any call fails", [](UpgradeTrial& t) { Fail(t, false); }, 0, 7, 0, OnAny},
+    {"calls fail from one on", [](UpgradeTrial& t) { Fail(t, true); }, 2, 7, 0, OnTarnwell},
+    {"ten failures", FailTenTimes, 1, 0, 1, Changes, 12, false, true},
+    {"another launcher", StartAnother, 1, 2, 0, Changes, 4, true, false},
+    {"signal", SendSignal, 0, 3},
+    {"home taken away", TakeHome, 0, 3},
+    {"full disk", FillDisk, 0}};
 
 struct Row {
     Fault fault;
@@ -329,30 +285,30 @@ class ProveTest : public testing::TestWithParam<Row> {};
 
 TEST_P(ProveTest, EndsWell) {
     const Row& row = GetParam();
-    Case c(row.scene, row.as_user, row.fault.strike == FillDisk);
+    UpgradeTrial t(row.scene, row.as_user, row.fault.run == FillDisk);
     const bool is_readable = row.scene.old != Shape::Modes || geteuid() == 0;
-    if (!c.possible() || (row.fault.strike == KillAndCopy && !is_readable)) {
+    if (!t.possible() || (row.fault.run == KillAndCopy && !is_readable)) {
         GTEST_SKIP() << "only root can set up or copy this scene";
     }
-    c.scope = row.fault.scope;
-    c.doing = "undisturbed";
-    c.arrange();
-    const TracedRun run = c.follow(c.at(0));
-    c.check(run.end == 0 && run.calls > 20, "the undisturbed run is too short or failed");
-    c.recover();
-    c.calls = run.calls;
+    t.scope = row.fault.scope;
+    t.doing = "undisturbed";
+    t.arrange();
+    const TracedRun run = t.follow(t.at(0));
+    t.check(run.calls > 20, "the undisturbed run is too short");
+    t.recover();
+    t.calls = run.calls;
     int runs = 0;
-    int bad_ends = c.has_failed ? 1 : 0;
-    for (const int number : c.has_failed ? std::vector<int>() : Draw(row, c.calls)) {
-        c.doing = "PROVE_ONLY=" + std::to_string(number);
-        c.number = number;
-        c.variant = number / c.calls;
-        c.arrange();
-        row.fault.strike(c);
+    int bad_ends = t.has_failed ? 1 : 0;
+    for (const int number : t.has_failed ? std::vector<int>() : Draw(row, t.calls)) {
+        t.doing = "PROVE_ONLY=" + std::to_string(number);
+        t.number = number;
+        t.variant = number / t.calls;
+        t.arrange();
+        row.fault.run(t);
         ++runs;
-        bad_ends += c.has_failed ? 1 : 0;
+        bad_ends += t.has_failed ? 1 : 0;
     }
-    std::printf("| %s | %d | %d | %d |\n", row.name().c_str(), c.calls, runs, bad_ends);
+    std::printf("| %s | %d | %d | %d |\n", row.name().c_str(), t.calls, runs, bad_ends);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ProveTest, testing::ValuesIn(Rows()), [](const auto& row) {

@@ -2,7 +2,6 @@
 
 #include <sched.h>
 #include <signal.h>
-#include <strings.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -39,7 +38,7 @@ TEST_F(StartTest, StopsARunningClient) {
         run();
         EXPECT_GE(std::chrono::steady_clock::now() - begin,
                   std::chrono::seconds(row.least_seconds));
-        EXPECT_EQ(running.wait(), row.end);
+        EXPECT_EQ(running.end(), row.end);
         expectBuild("100");
         EXPECT_TRUE(Exists(user("ui.pid"))) << "only the client may remove its pid file";
     }
@@ -66,8 +65,8 @@ TEST_F(StartTest, SignalsNobodyForAPidFileThatNamesNoClient) {
             MakeFile(user("ui.pid"), pid_file);
         }
         const Result result = run();
-        EXPECT_TRUE(Logged(result, message)) << result.log;
-        EXPECT_FALSE(Logged(result, "kill:")) << result.log;
+        EXPECT_TRUE(result.logged(message)) << result.log;
+        EXPECT_FALSE(result.logged("kill:")) << result.log;
         expectBuild("100");
     }
 }
@@ -115,32 +114,29 @@ TEST_F(StartTest, WhatAProcessRunsDecidesWhetherItIsTheClient) {
             install("99");
         };
     };
-    const auto nothing = [] {};
     const struct {
         const char* what;
-        const char* first_line;  // of the client, if it is a script
         Command command;
-        std::function<void()> then;
-        int written_hours_ago;
         bool is_client;
+        const char* first_line = "";  // of the client, if it is a script
+        std::function<void()> then = [] {};
+        int written_hours_ago = 0;
     } cases[] = {
-        {"another program", "", {other, Client::kEndsAtOnce}, nothing, 0, false},
-        {"another program, future file", "", {other, Client::kEndsAtOnce}, nothing, -9, false},
-        {"another of that name", "", {namesake, Client::kEndsAtOnce}, nothing, 0, false},
-        {"another that was given the client", "", {other, client()}, nothing, 0, false},
-        {"the clock was set", "", program, nothing, 9, true},
-        {"replaced", "", program, replace, 0, true},
-        {"moved", "", program, move_to("Tarnwell.app_tmp3"), 0, true},
-        {"not a backup", "", program, move_to("Tarnwell.apps"), 0, false},
-        {"another script", "#!/bin/sh", {other_script}, nothing, 0, false},
-        {"a script", "#!/bin/sh", {client()}, nothing, 0, true},
-        {"a script and an option", "#!/bin/sh -e", {client()}, nothing, 0, true},
+        {"another program", {other, Client::kEndsAtOnce}, false},
+        {"another program, future file", {other, Client::kEndsAtOnce}, false, "", [] {}, -9},
+        {"another of that name", {namesake, Client::kEndsAtOnce}, false},
+        {"another that was given the client", {other, client()}, false},
+        {"the clock was set", program, true, "", [] {}, 9},
+        {"replaced", program, true, "", replace},
+        {"moved", program, true, "", move_to("Tarnwell.app_tmp3")},
+        {"not a backup", program, false, "", move_to("Tarnwell.apps")},
+        {"another script", {other_script}, false, "#!/bin/sh"},
+        {"a script", {client()}, true, "#!/bin/sh"},
+        {"a script and an option", {client()}, true, "#!/bin/sh -e"},
         {"a relative path",
-         "#!/bin/sh",
          {"/bin/sh", "-c", "cd " + app() + "/Contents; exec /bin/sh MacOS/tarnwell-ui"},
-         nothing,
-         0,
-         true}};
+         true,
+         "#!/bin/sh"}};
     Client::copyTo(other);
     Client::copyTo(namesake);
     script(other_script, "#!/bin/sh");
@@ -157,7 +153,7 @@ TEST_F(StartTest, WhatAProcessRunsDecidesWhetherItIsTheClient) {
                                                 std::chrono::hours(row.written_hours_ago));
         const Result result = run();
         EXPECT_EQ(process.running(), !row.is_client);
-        EXPECT_EQ(Logged(result, "is not terminated: it runs '"), !row.is_client) << result.log;
+        EXPECT_EQ(result.logged("is not terminated: it runs '"), !row.is_client) << result.log;
         expectBuild("100");
     }
 }
@@ -202,7 +198,7 @@ TEST_F(StartTest, WhatItWasStartedWithEndsNoRun) {
     environment["QT_LOGGING_RULES"] = "*=true";  // makes Qt write many lines to standard error
     for (const auto& before_exec : cases) {
         startFrom("99");
-        EXPECT_EQ(wait(start(before_exec)), 0);
+        EXPECT_EQ(WaitForEnd(start(before_exec)), 0);
         EXPECT_TRUE(clientStarted());
         expectBuild("100");
         const std::string log = ReadFile(user("log/launcher.log"));
@@ -273,7 +269,7 @@ TEST(OddNamesTest, WorksWhereverItIsAndWhateverItIsCalled) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.home + std::string(row.executable) + row.locale);
         Installation in(row.bundle_folder, row.home);
-        in.startAs(row.executable);
+        in.started_as = row.executable;
         in.environment["LC_ALL"] = row.locale;
         in.install("99");
         const Client running = in.startClient();
@@ -291,8 +287,8 @@ TEST(OddNamesTest, WorksWhereverItIsAndWhateverItIsCalled) {
 // Volumes that are usual on a Mac: a case-insensitive one for the home folder, a read-only one for
 // the bundle.
 
-class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::Kind>,
-                             protected Installation {
+class CaseIgnoringHomeTest : public InstallationTest,
+                             public testing::WithParamInterface<CaseIgnoringVolume::Kind> {
   protected:
     void SetUp() override {
         if (!volume_.mounted()) {
@@ -316,10 +312,7 @@ class CaseIgnoringHomeTest : public testing::TestWithParam<CaseIgnoringVolume::K
 
     void expectOnly(const std::string& number) const {
         EXPECT_EQ(ReadFile(app("Contents/Resources/INFO")), VersionFile(number));
-        for (const auto& entry : fs::directory_iterator(user())) {
-            const std::string name = entry.path().filename();
-            EXPECT_TRUE(name == "log" || strcasecmp(name.c_str(), "Tarnwell.app") == 0) << name;
-        }
+        expectNoLeftovers();
     }
 
     const CaseIgnoringVolume volume_{home(), GetParam()};

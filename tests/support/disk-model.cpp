@@ -6,32 +6,29 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <stdexcept>
 
 #include "tests/support/scenario.h"
 
 namespace fs = std::filesystem;
 
-Disk::Disk(std::string root) : root_(std::move(root)), grave_(root_ + ".cut"), synced_(look()) {}
+Disk::Disk(std::string root)
+    : root_(std::move(root)), store_(root_ + ".cut"), synced_(snapshot()) {}
 
 Disk::Id Disk::identify(const std::string& path) {
     struct statx status {};
-    if (statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME, &status) != 0) {
-        throw std::runtime_error("can't read the inode number of " + path);
-    }
+    Check(statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME, &status) == 0,
+          "can't read the inode number of " + path);
     return {status.stx_btime.tv_sec * 1000000000 + status.stx_btime.tv_nsec, status.stx_ino};
 }
 
-Disk::Objects Disk::look() const {
+Disk::Objects Disk::snapshot() const {
     Objects objects;
     const auto add = [&](const std::string& path, const Place& place) {
         struct stat status {};
         lstat(path.c_str(), &status);
-        objects[identify(path)] = {status.st_mode,
-                                   S_ISLNK(status.st_mode)   ? fs::read_symlink(path).string()
-                                   : S_ISREG(status.st_mode) ? ReadFile(path)
-                                                             : "",
-                                   place};
+        const bool is_link = S_ISLNK(status.st_mode);
+        objects[identify(path)] = {
+            status.st_mode, is_link ? fs::read_symlink(path).string() : ReadFile(path), place};
     };
     add(root_, {});
     for (const auto& entry :
@@ -50,22 +47,23 @@ Disk::Object& Disk::known(const Id& id, const Objects& now) {
 }
 
 void Disk::sync(const std::string& path) {
-    const Objects now = look();
+    const Objects now = snapshot();
     if (path.empty()) {
         synced_ = now;
-    } else if ((path + "/").compare(0, root_.size() + 1, root_ + "/") == 0 && Exists(path)) {
+    } else if (Exists(path) && now.count(identify(path)) != 0) {
         const Id id = identify(path);
         known(id, now).mode = now.at(id).mode;
         known(id, now).content = now.at(id).content;
-        // Also what was moved from or to another folder: a rename takes effect in both or neither.
-        for (auto& [other, object] : synced_) {
-            if (object.place.first == id) {
-                object.place = now.count(other) != 0 ? now.at(other).place : Place();
-            }
-        }
         for (const auto& [other, object] : now) {
             if (object.place.first == id) {
-                known(other, now).place = object.place;
+                known(other, now);
+            }
+        }
+        // Also what was moved from or to another folder: a rename takes effect in both or neither.
+        for (auto& [other, object] : synced_) {
+            const Place place = now.count(other) != 0 ? now.at(other).place : Place();
+            if (place.first == id || object.place.first == id) {
+                object.place = place;
             }
         }
     }
@@ -112,7 +110,7 @@ void Disk::choosePlaces(Objects& chosen, const Objects& now, double chance) {
 
 void Disk::cut(unsigned seed) {
     random_.seed(seed);
-    const Objects now = look();
+    const Objects now = snapshot();
     Objects chosen = synced_;
     for (const auto& [id, object] : now) {
         if (chosen.emplace(id, object).second && S_ISREG(object.mode)) {
@@ -124,23 +122,23 @@ void Disk::cut(unsigned seed) {
         chooseStates(chosen, now);
     }
     choosePlaces(chosen, now, seed > 1 ? chances[seed % 3] : seed);
-    MakeFolder(grave_);
-    bury(root_);
+    MakeFolder(store_);
+    store(root_);
     build(chosen, identify(root_), root_);
-    RemoveTree(grave_);
+    RemoveTree(store_);
 }
 
-std::string Disk::graveOf(const Id& id) const {
-    return grave_ + "/" + std::to_string(id.first) + "-" + std::to_string(id.second);
+std::string Disk::stored(const Id& id) const {
+    return store_ + "/" + std::to_string(id.first) + "-" + std::to_string(id.second);
 }
 
-void Disk::bury(const std::string& folder) const {
+void Disk::store(const std::string& folder) const {
     for (const auto& entry : fs::directory_iterator(folder)) {
         if (entry.is_directory() && !entry.is_symlink()) {
             chmod(entry.path().c_str(), 0700);
-            bury(entry.path());
+            store(entry.path());
         }
-        fs::rename(entry.path(), graveOf(identify(entry.path())));
+        fs::rename(entry.path(), stored(identify(entry.path())));
     }
 }
 
@@ -150,22 +148,20 @@ void Disk::build(const Objects& objects, const Id& folder, const std::string& pa
             continue;
         }
         const std::string entry = path + "/" + object.place.second;
-        if (Exists(graveOf(id))) {
-            fs::rename(graveOf(id), entry);
-        }
-        if (S_ISLNK(object.mode)) {
-            if (!Exists(entry)) {
-                MakeLink(object.content, entry);
-            }
-            continue;
+        if (Exists(stored(id))) {
+            fs::rename(stored(id), entry);
+        } else if (S_ISLNK(object.mode)) {
+            MakeLink(object.content, entry);
         }
         if (S_ISDIR(object.mode)) {
             MakeFolder(entry);
             build(objects, id, entry);
-        } else if (!Exists(entry) || ReadFile(entry) != object.content) {
+        } else if (S_ISREG(object.mode) && (!Exists(entry) || ReadFile(entry) != object.content)) {
             chmod(entry.c_str(), 0600);  // if it exists
             MakeFile(entry, object.content);
         }
-        chmod(entry.c_str(), object.mode & 07777);
+        if (!S_ISLNK(object.mode)) {
+            chmod(entry.c_str(), object.mode & 07777);
+        }
     }
 }

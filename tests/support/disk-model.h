@@ -38,16 +38,16 @@ class Disk {
     using Objects = std::map<Id, Object>;
 
     static Id identify(const std::string& path);
-    Objects look() const;
+    Objects snapshot() const;
     Object& known(const Id& id, const Objects& now);
     void chooseStates(Objects& chosen, const Objects& now);
     void choosePlaces(Objects& chosen, const Objects& now, double chance);
-    void bury(const std::string& folder) const;
+    void store(const std::string& folder) const;
     void build(const Objects& objects, const Id& folder, const std::string& path) const;
-    std::string graveOf(const Id& id) const;
+    std::string stored(const Id& id) const;
 
     const std::string root_;
-    const std::string grave_;  // holds the objects while the tree is rebuilt
+    const std::string store_;  // holds the objects while the tree is rebuilt
     Objects synced_;
     std::mt19937 random_;
 };

@@ -9,6 +9,9 @@
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
+// Waits for a process and returns its exit code, or 1000 plus the signal.
+int WaitForEnd(pid_t pid);
+
 // A running client: a process that executes a command. The constructor waits for its first output.
 // A thread waits for the process to end, so that it never becomes a zombie.
 class Client {
@@ -19,7 +22,7 @@ class Client {
     static constexpr char kIgnoresSigterm[] = "ignores SIGTERM";
 
     // Writes the process id to pid_file unless that is empty.
-    explicit Client(std::vector<std::string> command, const std::string& pid_file = "");
+    explicit Client(const std::vector<std::string>& command, const std::string& pid_file = "");
     ~Client();
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
@@ -28,7 +31,7 @@ class Client {
 
     pid_t pid() const { return pid_; }
     bool running() const;
-    int wait();  // returns the exit code, or 1000 plus the signal
+    int end() const { return end_.get(); }  // waits; as WaitForEnd()
 
   private:
     pid_t pid_;
@@ -66,21 +69,19 @@ class Installation {
 
     // The environment variables of the launcher; tests may change them.
     std::map<std::string, std::string> environment;
-    void runAsNobody();  // all later runs; does nothing unless the test runs as root
-    // Sets argv[0] of the launcher, which is otherwise its path.
-    void startAs(const std::string& name) { started_as_ = name; }
+    void runAsNobody();      // all later runs; does nothing unless the test runs as root
+    std::string started_as;  // argv[0] of the launcher; if it is empty, its path
 
     struct Result {
-        int exit_code;    // or 1000 plus the signal
         std::string log;  // what this run added to the log file
         std::string out;
         std::string err;
+        bool logged(const std::string& text) const { return log.find(text) != std::string::npos; }
     };
     // Runs the launcher, waits for its end, and expects the exit code 0.
     Result run();
     // Starts the launcher and returns at once. The new process calls before_exec before exec().
     pid_t start(void (*before_exec)() = nullptr);
-    static int wait(pid_t pid);
 
     bool clientStarted();  // since the last call; waits up to a minute
     static FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
@@ -90,11 +91,8 @@ class Installation {
     Folder folder_;
     const std::string home_;
     const std::string bundle_;
-    std::string started_as_;
     bool nobody_ = false;
 };
-
-bool Logged(const Installation::Result& result, const std::string& fragment);
 
 // The base of tests that run the launcher.
 class InstallationTest : public testing::Test, protected Installation {

@@ -19,6 +19,18 @@ bool IsTree(const std::string& path, const FileTree& tree) {
     return fs::is_directory(fs::symlink_status(path)) && Tree(path, true) == tree;
 }
 
+// Mounts an overlay on the folder, whose content becomes the lower layer.
+void MountOverlay(const std::string& folder, const std::string& layers) {
+    RemoveTree(layers);
+    MakeFolder(layers + "/work");
+    CopyTree(folder, layers + "/lower");
+    CopyTree(folder + "/log", layers + "/upper");  // an empty folder of the same user
+    const std::string options = "lowerdir=" + layers + "/lower,upperdir=" + layers +
+                                "/upper,workdir=" + layers + "/work,redirect_dir=off";
+    Check(mount("none", folder.c_str(), "overlay", 0, options.c_str()) == 0,
+          "can't mount an overlay");
+}
+
 }  // namespace
 
 std::string Scene::name() const {
@@ -45,10 +57,10 @@ UpgradeTrial::~UpgradeTrial() {
 }
 
 void UpgradeTrial::setPackage(int build, Scene::Damage damage) {
-    const std::string number = std::to_string(build);
+    const std::string version = std::to_string(build);
     const char* const whole = scene.package == Shape::Plain ? "zip" : "tar.zst";
-    in.setBuild(number, damage == Scene::Whole ? whole : "tar", scene.package);
-    new_app = Installation::expectedApp(number, scene.package, true);
+    in.setBuild(version, damage == Scene::Whole ? whole : "tar", scene.package);
+    new_app = Installation::expectedApp(version, scene.package, true);
     if (damage == Scene::CutAfter || damage == Scene::CutBefore) {
         const char* const last =
             scene.package == Shape::Modes ? "Contents/closed/" : "Contents/Resources/data.bin";
@@ -78,35 +90,34 @@ void UpgradeTrial::arrange() {
         in.runAsNobody();
     }
     if (scene.around == Scene::OnOverlay) {
-        mountOverlay();
+        MountOverlay(in.user(), in.home() + "/layers");
     }
 }
 
-void UpgradeTrial::mountOverlay() {
-    const std::string layers = in.home() + "/layers";
-    RemoveTree(layers);
-    MakeFolder(layers);
-    CopyTree(in.user(), layers + "/lower");
-    CopyTree(in.user("log"), layers + "/upper");  // an empty folder of the same user
-    MakeFolder(layers + "/work");
-    const std::string options = "lowerdir=" + layers + "/lower,upperdir=" + layers +
-                                "/upper,workdir=" + layers + "/work,redirect_dir=off";
-    if (mount("none", in.user().c_str(), "overlay", 0, options.c_str()) != 0) {
-        throw std::runtime_error("can't mount an overlay");
+TracedRun UpgradeTrial::at(int call) const {
+    TracedRun run;
+    run.fault_at = call;
+    run.changes_only = scope == Changes;
+    run.since = in.home();
+    if (scope == OnOwn) {
+        run.within = {in.home(), in.bundle("log"), in.bundle("Contents/Resources")};
+    } else if (scope != OnAny) {
+        run.within = {scope == OnTarnwell ? in.user() : in.home()};
     }
+    return run;
 }
 
 TracedRun UpgradeTrial::follow(TracedRun run) {
     run.follow(in.start(BeTraced));
-    doing += run.struck.empty() ? "" : " at " + run.struck;
+    doing += run.faulty.empty() ? "" : " at " + run.faulty;
+    check(run.end == 0 || run.end == 1000 + SIGKILL, "the exit code isn't 0");
     return run;
 }
 
-int UpgradeTrial::runUndisturbed() {
-    const int end = Installation::wait(in.start());
+void UpgradeTrial::runUndisturbed() {
+    check(WaitForEnd(in.start()) == 0, "the exit code of an undisturbed run isn't 0");
     while (waitpid(-1, nullptr, 0) > 0) {  // waits for its orphans
     }
-    return end;
 }
 
 std::set<std::string> UpgradeTrial::names() const {
@@ -170,6 +181,6 @@ void UpgradeTrial::recover() {
     if (scene.damage != Scene::Whole && is_new) {
         setPackage(101);
     }
-    check(runUndisturbed() == 0, "the next run's exit code isn't 0");
+    runUndisturbed();
     checkEnd(is_new);
 }

@@ -27,6 +27,11 @@ struct Scene {
     std::string name() const;
 };
 
+// The system calls that are counted, from the first one on the home folder: those that change files
+// in it; all on ~/.Tarnwell; all on the home folder and on the bundle's resources and log folder;
+// or all on any file.
+enum Scope { Changes, OnTarnwell, OnOwn, OnAny };
+
 // An upgrade with a fault. The checks look at the files that it leaves and at the next run.
 class UpgradeTrial {
   public:
@@ -39,8 +44,11 @@ class UpgradeTrial {
     void arrange();
     void setPackage(int build, Scene::Damage damage = Scene::Whole);
 
+    TracedRun at(int call) const;  // a run with a fault at this call
+    TracedRun run() const { return at(1 + number % calls); }
+    // Starts the launcher for such a run and checks that it exits with 0 or is killed.
     TracedRun follow(TracedRun run);
-    int runUndisturbed();  // returns the exit code, or 1000 plus the signal
+    void runUndisturbed();  // checks that the launcher exits with 0
 
     // Whether this application exists completely: installed, as a backup, or in two parts.
     bool isWhole(const FileTree& app) const;
@@ -58,6 +66,11 @@ class UpgradeTrial {
     Installation in;
     FileTree old_app;
     FileTree new_app;
+    // The case: a variant of the fault, and the system call at which it happens.
+    Scope scope = Changes;
+    int calls = 1;  // N, counted in the undisturbed run
+    int number = 0;
+    int variant = 0;
     std::string doing;        // a description of the case, for messages
     bool has_failed = false;  // whether a check has failed since arrange()
     // After ~/.Tarnwell was copied, the launcher can't recognise the old application by its inode
@@ -65,7 +78,6 @@ class UpgradeTrial {
     bool may_doubt = false;
 
   private:
-    void mountOverlay();
     std::set<std::string> names() const;
 
     const std::string sentinel_ = in.home() + "/sentinel";

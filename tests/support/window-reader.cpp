@@ -7,10 +7,16 @@
 #include <QGenericPlugin>
 #include <QProgressDialog>
 
-namespace {
+class WindowReader : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "window-reader.json")
 
-class WindowReader : public QObject {
   public:
+    QObject* create(const QString&, const QString&) override {
+        QCoreApplication::instance()->installEventFilter(this);
+        return new QObject;
+    }
+
     bool eventFilter(QObject* object, QEvent* event) override {
         const auto* const dialog = qobject_cast<QProgressDialog*>(object);
         if (event->type() == QEvent::Show && dialog != nullptr) {
@@ -21,20 +27,6 @@ class WindowReader : public QObject {
             }
         }
         return false;
-    }
-};
-
-}  // namespace
-
-class WindowReaderPlugin : public QGenericPlugin {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "window-reader.json")
-
-  public:
-    QObject* create(const QString&, const QString&) override {
-        QObject* const reader = new WindowReader;
-        QCoreApplication::instance()->installEventFilter(reader);
-        return reader;
     }
 };
 
