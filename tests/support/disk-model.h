@@ -1,13 +1,19 @@
 #ifndef TESTS_SUPPORT_DISK_MODEL_H
 #define TESTS_SUPPORT_DISK_MODEL_H
 
-#include <sys/types.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 
-#include <cstdint>
+#include <algorithm>
+#include <filesystem>
 #include <map>
 #include <random>
 #include <string>
 #include <utility>
+
+#include "tests/support/scenario.h"
+
+namespace fs = std::filesystem;
 
 // A model of what a power cut leaves below a folder. Only what was synced is certain to be there.
 // Any other object is at its old or its new place, but a rename never takes effect in one folder
@@ -15,17 +21,56 @@
 // none.
 class Disk {
   public:
-    explicit Disk(std::string root);  // what exists now counts as synced
+    explicit Disk(std::string root) : root_(std::move(root)) {}  // what exists counts as synced
 
     // Records that the entries of a folder or the content of a file were synced; for an empty path,
     // everything below the root.
-    void sync(const std::string& path);
+    void sync(const std::string& path) {
+        const Objects now = snapshot();
+        if (path.empty()) {
+            synced_ = now;
+        } else if (Exists(path) && now.count(identify(path)) != 0) {
+            const Id id = identify(path);
+            known(id, now).mode = now.at(id).mode;
+            known(id, now).content = now.at(id).content;
+            for (const auto& [other, object] : now) {
+                if (object.place.first == id) {
+                    known(other, now);
+                }
+            }
+            // Also what was moved from or to another folder: a rename takes effect in both.
+            for (auto& [other, object] : synced_) {
+                const Place place = now.count(other) != 0 ? now.at(other).place : Place();
+                if (place.first == id || object.place.first == id) {
+                    object.place = place;
+                }
+            }
+        }
+    }
 
     // Changes the folder's content to what a power cut leaves. Objects that still exist keep their
     // inodes; removed ones that reappear belong to this process's user. With the seed 0, everything
     // that wasn't synced is lost; with 1, it is kept, but new files are empty; with any other seed,
     // the model chooses at random.
-    void cut(unsigned seed);
+    void cut(unsigned seed) {
+        random_.seed(seed);
+        const Objects now = snapshot();
+        Objects chosen = synced_;
+        for (const auto& [id, object] : now) {
+            if (chosen.emplace(id, object).second && S_ISREG(object.mode)) {
+                chosen[id].content.clear();
+            }
+        }
+        const double chances[] = {0.1, 0.5, 0.9};
+        if (seed > 1) {
+            chooseStates(chosen, now);
+        }
+        choosePlaces(chosen, now, seed > 1 ? chances[seed % 3] : seed);
+        MakeFolder(store_);
+        store(root_);
+        build(chosen, identify(root_), root_);
+        RemoveTree(store_);
+    }
 
   private:
     using Id = std::pair<std::int64_t, ino_t>;  // birth time and inode number, which is reused
@@ -37,18 +82,121 @@ class Disk {
     };
     using Objects = std::map<Id, Object>;
 
-    static Id identify(const std::string& path);
-    Objects snapshot() const;
-    Object& known(const Id& id, const Objects& now);
-    void chooseStates(Objects& chosen, const Objects& now);
-    void choosePlaces(Objects& chosen, const Objects& now, double chance);
-    void store(const std::string& folder) const;
-    void build(const Objects& objects, const Id& folder, const std::string& path) const;
-    std::string stored(const Id& id) const;
+    static Id identify(const std::string& path) {
+        struct statx status {};
+        Check(statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_ALL, &status) == 0,
+              "can't read the birth time of " + path);
+        return {status.stx_btime.tv_sec * 1000000000 + status.stx_btime.tv_nsec, status.stx_ino};
+    }
+
+    Objects snapshot() const {
+        Objects objects;
+        const auto add = [&](const std::string& path, const Place& place) {
+            struct stat status {};
+            lstat(path.c_str(), &status);
+            const bool is_link = S_ISLNK(status.st_mode);
+            objects[identify(path)] = {
+                status.st_mode, is_link ? fs::read_symlink(path).string() : ReadFile(path), place};
+        };
+        add(root_, {});
+        for (const auto& entry : fs::recursive_directory_iterator(
+                 root_, fs::directory_options::skip_permission_denied)) {
+            add(entry.path(), {identify(entry.path().parent_path()), entry.path().filename()});
+        }
+        return objects;
+    }
+
+    // Returns the synced state of an existing object. If nothing was synced, adds its mode and, for
+    // a link, its target.
+    Object& known(const Id& id, const Objects& now) {
+        const Object& object = now.at(id);
+        const std::string target = S_ISLNK(object.mode) ? object.content : "";
+        return synced_.emplace(id, Object{object.mode, target, {}}).first->second;
+    }
+
+    void chooseStates(Objects& chosen, const Objects& now) {
+        for (const auto& [id, object] : now) {
+            Object& choice = chosen[id];
+            if (S_ISREG(choice.mode) && object.content != choice.content) {
+                const std::string choices[] = {
+                    choice.content, object.content, "",
+                    object.content.substr(0, random_() % (object.content.size() + 1))};
+                choice.content = choices[random_() % 4];
+            }
+            choice.mode = random_() % 2 != 0 ? object.mode : choice.mode;
+        }
+    }
+
+    // Chooses the old or the new place for each object. No two objects get the same place, and an
+    // object that was replaced stays unless the new one is in its place.
+    void choosePlaces(Objects& chosen, const Objects& now, double chance) {
+        std::map<Id, bool> is_new;
+        for (const auto& [id, object] : chosen) {
+            is_new[id] = std::bernoulli_distribution(chance)(random_);
+        }
+        for (bool settled = false; !settled;) {
+            settled = true;
+            for (const auto& [id, object] : now) {
+                const auto is_here = [&place = object.place](const auto& old) {
+                    return !old.second.place.second.empty() && old.second.place == place;
+                };
+                const auto other = std::find_if(synced_.begin(), synced_.end(), is_here);
+                if (other != synced_.end() && is_new[id] != is_new[other->first] &&
+                    (is_new[id] || now.count(other->first) == 0)) {
+                    is_new[id] = is_new[other->first] = false;
+                    settled = false;
+                }
+            }
+        }
+        for (auto& [id, object] : chosen) {
+            const Objects& source = is_new[id] ? now : synced_;
+            object.place = source.count(id) != 0 ? source.at(id).place : Place();
+        }
+    }
+
+    // Where an object is while the tree is rebuilt.
+    std::string stored(const Id& id) const {
+        return store_ + "/" + std::to_string(id.first) + "-" + std::to_string(id.second);
+    }
+
+    void store(const std::string& folder) const {
+        for (const auto& entry : fs::directory_iterator(folder)) {
+            if (entry.is_directory() && !entry.is_symlink()) {
+                fs::permissions(entry, fs::perms::owner_all);
+                store(entry.path());
+            }
+            fs::rename(entry, stored(identify(entry.path())));
+        }
+    }
+
+    void build(const Objects& objects, const Id& folder, const std::string& path) const {
+        for (const auto& [id, object] : objects) {
+            if (object.place.first != folder) {
+                continue;
+            }
+            const std::string entry = path + "/" + object.place.second;
+            if (Exists(stored(id))) {
+                fs::rename(stored(id), entry);
+            } else if (S_ISLNK(object.mode)) {
+                MakeLink(object.content, entry);
+            }
+            if (S_ISDIR(object.mode)) {
+                MakeFolder(entry);
+                build(objects, id, entry);
+            } else if (S_ISREG(object.mode) &&
+                       (!Exists(entry) || ReadFile(entry) != object.content)) {
+                chmod(entry.c_str(), 0600);  // if it exists
+                MakeFile(entry, object.content);
+            }
+            if (!S_ISLNK(object.mode)) {
+                chmod(entry.c_str(), object.mode & 07777);
+            }
+        }
+    }
 
     const std::string root_;
-    const std::string store_;  // holds the objects while the tree is rebuilt
-    Objects synced_;
+    const std::string store_ = root_ + ".cut";
+    Objects synced_ = snapshot();
     std::mt19937 random_;
 };
 

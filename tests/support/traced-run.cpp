@@ -102,7 +102,7 @@ std::string TextAt(pid_t task, unsigned long long address) {
 }
 
 std::string PathOf(pid_t task, const Call& call, const Entry& entry) {
-    const std::string path = call.path >= 0 ? TextAt(task, entry.args[call.path]) : "";
+    std::string path = call.path >= 0 ? TextAt(task, entry.args[call.path]) : "";
     if (path[0] == '/') {
         return path;
     }

@@ -1,6 +1,14 @@
 #ifndef TESTS_SUPPORT_UPGRADE_TRIAL_H
 #define TESTS_SUPPORT_UPGRADE_TRIAL_H
 
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
 #include <memory>
 #include <set>
 #include <string>
@@ -8,6 +16,8 @@
 #include "tests/support/installation.h"
 #include "tests/support/system.h"
 #include "tests/support/traced-run.h"
+
+namespace fs = std::filesystem;
 
 // The state in which an upgrade starts.
 struct Scene {
@@ -24,7 +34,14 @@ struct Scene {
     Shape old;
     Around around;
 
-    std::string name() const;
+    std::string name() const {
+        const char* const shapes[] = {"plain", "modes",        "links",    "single",
+                                      "many",  "client first", "no client"};
+        const char* const arounds[] = {"", " and leftover", " on overlay"};
+        const char* const damages[] = {"", " cut after", " cut before", ""};
+        return (has_old ? shapes[static_cast<int>(old)] : std::string("nothing")) +
+               arounds[around] + " to " + shapes[static_cast<int>(package)] + damages[damage];
+    }
 };
 
 // The system calls that are counted, from the first one on the home folder: those that change files
@@ -37,29 +54,144 @@ class UpgradeTrial {
   public:
     // The launcher runs as an ordinary user, or as the user who runs the test. A small disk has
     // little more space than the upgrade needs.
-    UpgradeTrial(const Scene& scene, bool as_user, bool on_small_disk);
-    ~UpgradeTrial();
+    UpgradeTrial(const Scene& of, bool run_as_user, bool on_small_disk)
+        : scene(of), as_user(run_as_user) {
+        prctl(PR_SET_CHILD_SUBREAPER, 1);  // the clients become our children
+        if (geteuid() == 0) {              // in memory, where a sync takes no time
+            disk_ = std::make_unique<SmallDisk>(in.home(), on_small_disk ? "1m" : "64m");
+        }
+        possible_ = (disk_ != nullptr && disk_->mounted()) ||
+                    (!on_small_disk && scene.around != Scene::OnOverlay);
+    }
+    ~UpgradeTrial() { umount2(in.user().c_str(), MNT_DETACH); }
 
     bool possible() const { return possible_; }  // for the user who runs the test
-    void arrange();
-    void setPackage(int build, Scene::Damage damage = Scene::Whole);
 
-    TracedRun at(int call) const;  // a run with a fault at this call
+    void arrange() {
+        has_failed = false;
+        umount2(in.user().c_str(), MNT_DETACH);
+        for (const std::string& path : {in.user(), sentinel_, in.home() + "/started"}) {
+            RemoveTree(path);
+        }
+        MakeFile(sentinel_ + "/file");
+        MakeFolder(in.user("log"));
+        setPackage(100, scene.damage);
+        if (scene.has_old) {
+            in.install("99", scene.old);
+            old_app = Tree(in.app(), true);
+        }
+        if (scene.around != Scene::Nothing) {
+            MakeFile(in.user("Tarnwell.app_tmp/leftover"));
+        }
+        old_names_ = names();
+        if (as_user) {
+            in.runAsNobody();
+        }
+        if (scene.around == Scene::OnOverlay) {
+            mountOverlay(in.user(), in.home() + "/layers");
+        }
+    }
+
+    void setPackage(int build, Scene::Damage damage = Scene::Whole) {
+        const std::string version = std::to_string(build);
+        const char* const whole = scene.package == Shape::Plain ? "zip" : "tar.zst";
+        in.setBuild(version, damage == Scene::Whole ? whole : "tar", scene.package);
+        new_app = Installation::expectedApp(version, scene.package, true);
+        if (damage == Scene::CutAfter || damage == Scene::CutBefore) {
+            const char* const last =
+                scene.package == Shape::Modes ? "Contents/closed/" : "Contents/Resources/data.bin";
+            const char* const at = damage == Scene::CutBefore ? "Contents/MacOS/tarnwell-ui" : last;
+            fs::resize_file(in.package(), ReadFile(in.package()).find(at, 0, strlen(at) + 1) + 100);
+        }
+    }
+
+    // A run with a fault at this call.
+    TracedRun at(int call) const {
+        TracedRun run;
+        run.fault_at = call;
+        run.changes_only = scope == Changes;
+        run.since = in.home();
+        if (scope == OnOwn) {
+            run.within = {in.home(), in.bundle("log"), in.bundle("Contents/Resources")};
+        } else if (scope != OnAny) {
+            run.within = {scope == OnTarnwell ? in.user() : in.home()};
+        }
+        return run;
+    }
     TracedRun run() const { return at(1 + number % calls); }
     // Starts the launcher for such a run and checks that it exits with 0 or is killed.
-    TracedRun follow(TracedRun run);
-    void runUndisturbed();  // checks that the launcher exits with 0
+    TracedRun follow(TracedRun run) {
+        run.follow(in.start(BeTraced));
+        doing += run.faulty.empty() ? "" : " at " + run.faulty;
+        check(run.end == 0 || run.end == 1000 + SIGKILL, "the exit code isn't 0");
+        return run;
+    }
+
+    // Checks that the launcher exits with 0.
+    void runUndisturbed() {
+        check(WaitForEnd(in.start()) == 0, "the exit code of an undisturbed run isn't 0");
+        while (waitpid(-1, nullptr, 0) > 0) {  // waits for its orphans
+        }
+    }
 
     // Whether this application exists completely: installed, as a backup, or in two parts.
-    bool isWhole(const FileTree& app) const;
-    void check(bool good, const std::string& what);
+    bool isWhole(const FileTree& app) const {
+        const std::set<std::string> there = names();
+        if (std::any_of(there.begin(), there.end(), [&](const std::string& name) {
+                return name.find("Tarnwell.app") == 0 && isTree(in.user(name), app);
+            })) {
+            return true;
+        }
+        if (there.count("Tarnwell.app") == 0 || there.count("Tarnwell.app_part") == 0) {
+            return false;
+        }
+        FileTree parts = Tree(in.user("Tarnwell.app_part"));  // a move sets folder modes last
+        parts.merge(Tree(in.app()));
+        return std::all_of(app.begin(), app.end(), [&](const auto& entry) {
+            const auto part = parts.find(entry.first);
+            return entry.first.empty() ||
+                   (part != parts.end() && entry.second.find(part->second) == 0);
+        });
+    }
+
+    void check(bool good, const std::string& what) {
+        has_failed |= !good;
+        if (!good && ++shown_ <= kMostShown) {
+            ADD_FAILURE() << doing << ": " << what << "\n"
+                          << testing::PrintToString(names()) << "\n"
+                          << ReadFile(in.user("log/launcher.log"));
+        }
+    }
     // Checks that the old or the new application is installed, unless there was no old one.
-    void checkInPlace();
+    void checkInPlace() {
+        check(!scene.has_old || isTree(in.app(), old_app) || isTree(in.app(), new_app),
+              "no complete application is installed");
+    }
     // Checks that the right application is installed and that there are no leftovers.
-    void checkEnd(bool is_new);
+    void checkEnd(bool is_new) {
+        check(isTree(in.app(), is_new ? new_app : old_app), "the wrong application is installed");
+        for (const std::string& name : names()) {
+            const bool was_there = !is_new && old_names_.count(name) != 0;
+            const bool in_doubt = may_doubt && !is_new && name == "upgrade.journal";
+            check(was_there || in_doubt || name == "log" || name == "Tarnwell.app",
+                  name + " is left at the end");
+        }
+        check(Tree(sentinel_).size() == 1, "a file outside of ~/.Tarnwell was changed");
+        check(ReadFile(in.home() + "/started").find("half") == std::string::npos,
+              "an incomplete application was started");
+    }
     // Checks that nothing is lost and that the next run succeeds. After a first installation from a
     // damaged package, the next run gets a whole one.
-    void recover();
+    void recover() {
+        check(!scene.has_old || isWhole(old_app) || isWhole(new_app),
+              "no complete application is left");
+        const bool is_new = scene.damage == Scene::Whole || !scene.has_old;
+        if (scene.damage != Scene::Whole && is_new) {
+            setPackage(101);
+        }
+        runUndisturbed();
+        checkEnd(is_new);
+    }
 
     const Scene scene;
     const bool as_user;
@@ -78,7 +210,32 @@ class UpgradeTrial {
     bool may_doubt = false;
 
   private:
-    std::set<std::string> names() const;
+    static constexpr int kMostShown = 5;  // failures reported for each row
+
+    static bool isTree(const std::string& path, const FileTree& tree) {
+        return fs::is_directory(fs::symlink_status(path)) && Tree(path, true) == tree;
+    }
+
+    // Mounts an overlay on the folder, whose content becomes the lower layer.
+    static void mountOverlay(const std::string& folder, const std::string& layers) {
+        RemoveTree(layers);
+        MakeFolder(layers + "/work");
+        CopyTree(folder, layers + "/lower");
+        CopyTree(folder + "/log", layers + "/upper");  // an empty folder of the same user
+        const std::string options = "lowerdir=" + layers + "/lower,upperdir=" + layers +
+                                    "/upper,workdir=" + layers + "/work,redirect_dir=off";
+        Check(mount("none", folder.c_str(), "overlay", 0, options.c_str()) == 0,
+              "can't mount an overlay");
+    }
+
+    std::set<std::string> names() const {
+        std::set<std::string> names;
+        std::error_code none;
+        for (const auto& entry : fs::directory_iterator(in.user(), none)) {
+            names.insert(entry.path().filename());
+        }
+        return names;
+    }
 
     const std::string sentinel_ = in.home() + "/sentinel";
     std::unique_ptr<SmallDisk> disk_;
