@@ -4,15 +4,15 @@
 
 namespace {
 
+// In the shell, $B is the bundle's path, $DEMO the client application of the build tree, and the
+// function install runs `cmake --install`.
 class BundleTest : public Packing {
   protected:
-    // Runs a command in the shell of packing.h. It also defines $B, the bundle's path; $DEMO, the
-    // client application of the build tree; and install, which runs `cmake --install`.
-    Result shell(const std::string& command) const {
-        return Packing::shell("unset DESTDIR TARNWELL_APP; DEMO='" BUILD
-                              "/packaging/client/Tarnwell.app'; B=$PWD/../bundle/Tarnwell.app; "
-                              "install() { '" CMAKE "' --install '" BUILD "' \"$@\"; }; " +
-                              command);
+    BundleTest() {
+        prelude_ =
+            "unset DESTDIR TARNWELL_APP; DEMO='" BUILD
+            "/packaging/client/Tarnwell.app'; B=$PWD/../bundle/Tarnwell.app; install() { '" CMAKE
+            "' --install '" BUILD "' \"$@\"; }";
     }
     Result copyBundle() const {
         return shell("rm -rf ../bundle; mkdir ../bundle; cp -R '" BUILD "/Tarnwell.app' ../bundle");
@@ -49,7 +49,7 @@ TEST_F(BundleTest, RefusesWhatWouldNotUpgradeOrStart) {
         SCOPED_TRACE(arrange);
         copyBundle();
         shell(arrange);
-        expectRefusal(shell("$MAKE --check $B"), shell("printf %s \"$B/" + message + '"').out);
+        expectRefusal("$MAKE --check $B", "$B/" + message);
     }
     copyBundle();
     EXPECT_EQ(shell("$MAKE --check $B").out.rfind(bundle_ + ": good: build ", 0), 0u);

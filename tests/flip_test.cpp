@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <random>
 
 #include "tests/support/archives.h"
@@ -61,9 +62,8 @@ class FlipTest : public testing::TestWithParam<const char*> {
         return ReadFile(folder_ / "package");
     }
 
-    // Extracts a package with these bytes and sets tree to what was installed. Returns false and
-    // leaves tree unchanged if that fails.
-    bool extract(const std::string& bytes, FileTree& tree) const {
+    // Extracts a package with these bytes and returns what was installed; nothing if that fails.
+    std::optional<FileTree> extract(const std::string& bytes) const {
         fs::remove_all(folder_ / "dest");
         MakeFolder(folder_ / "dest");
         MakeFile(folder_ / "package", bytes);
@@ -72,10 +72,7 @@ class FlipTest : public testing::TestWithParam<const char*> {
         extractor.archive_path = (folder_ / "package").c_str();
         int result = 0;
         CaptureStderr([&] { result = extractor.Extract(); });
-        if (result == 0) {
-            tree = Tree(folder_ / "dest");
-        }
-        return result == 0;
+        return result == 0 ? std::optional(Tree(folder_ / "dest")) : std::nullopt;
     }
 
     const std::string format_ = GetParam();
@@ -90,9 +87,9 @@ TEST_P(FlipTest, NeverInstallsOtherBytes) {
     std::vector<std::pair<std::string, FileTree>> packages;
     for (const auto& [small, last] :
          {std::pair(true, true), {true, false}, {false, true}, {false, false}}) {
-        packages.push_back({pack(Application(small, last)), {}});
+        const std::string bytes = pack(Application(small, last));
         EXPECT_TRUE(HasContentChecksum((folder_ / "package").c_str()));
-        ASSERT_TRUE(extract(packages.back().first, packages.back().second));
+        packages.emplace_back(bytes, extract(bytes).value());
     }
     std::minstd_rand random(1);
     int installed = 0;
@@ -101,20 +98,20 @@ TEST_P(FlipTest, NeverInstallsOtherBytes) {
         auto [bytes, expected] = packages[static_cast<std::size_t>(run) % packages.size()];
         const std::size_t bit = random() % (bytes.size() * 8);
         bytes[bit / 8] = static_cast<char>(bytes[bit / 8] ^ 1 << bit % 8);
-        FileTree tree;
-        if (!extract(bytes, tree)) {
+        const std::optional<FileTree> tree = extract(bytes);
+        if (!tree.has_value()) {
             continue;
         }
         ++installed;
-        renamed += tree != expected ? 1 : 0;
+        renamed += *tree != expected ? 1 : 0;
         for (const auto& [name, description] : expected) {
-            const auto found = tree.find(name);
-            EXPECT_TRUE(found == tree.end() || found->second[0] != description[0] ||
+            const auto found = tree->find(name);
+            EXPECT_TRUE(found == tree->end() || found->second[0] != description[0] ||
                         ContentOf(found->second) == ContentOf(description))
                 << name << " differs after bit " << bit << " of " << bytes.size() << " bytes";
         }
         // The checksums of a zip don't cover names and modes.
-        EXPECT_TRUE(format_ == "zip" || tree == expected) << "bit " << bit;
+        EXPECT_TRUE(format_ == "zip" || *tree == expected) << "bit " << bit;
     }
     std::cout << "of " << Runs() << " packages " << installed << " were installed, " << renamed
               << " with other names or modes\n";

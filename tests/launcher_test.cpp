@@ -21,56 +21,48 @@ class LauncherTest : public testing::Test {
     LauncherTest() {
         qputenv("HOME", QByteArray::fromStdString(home_.path()));
         StrTable::InitStrTable();
-        writePackage();
+        MakeFile(bundle() + "/Contents/Resources/INFO", VersionFile("100"));
+        MakeFolder(bundle() + "/Contents/Resources/package");
+        MakeArchive(bundle() + "/Contents/Resources/package/tarnwell.opk", "zip",
+                    {{"Contents/1"},
+                     {"Contents/2"},
+                     {"Contents/3"},
+                     {"Contents/4"},
+                     {"Contents/5"},
+                     {"Contents/6"},
+                     {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\n", 0755}});
     }
 
     static std::string bundle() { return Service::GetRootTarnwellInstallPath().c_str(); }
 
-    // Writes a package of seven entries; the last one is the client.
-    static void writePackage() {
-        std::vector<Entry> package;
-        for (int i = 1; i < 7; ++i) {
-            package.push_back({"Contents/file" + std::to_string(i), "text"});
-        }
-        package.push_back({"Contents/MacOS/tarnwell-ui", "#!/bin/sh\n", 0755});
-        MakeFile(bundle() + "/Contents/Resources/INFO", VersionFile("100"));
-        MakeFolder(bundle() + "/Contents/Resources/package");
-        MakeArchive(bundle() + "/Contents/Resources/package/tarnwell.opk", "zip", package);
-    }
-
     static ProcessingProgressDialog* dialog() {
-        for (QWidget* const widget : QApplication::topLevelWidgets()) {
-            if (auto* const found = qobject_cast<ProcessingProgressDialog*>(widget)) {
-                return found;
-            }
-        }
-        return nullptr;
+        return qobject_cast<ProcessingProgressDialog*>(QApplication::topLevelWidgets().value(0));
     }
 
     struct Watched {
         std::vector<int> values;
         std::vector<QString> labels;
-        std::vector<bool> visible;  // before the run, at each value, and after the run
+        std::string visible;  // before the run, at each value, and after the run
         int result;
     };
     // Runs a launcher until its event loop ends and records what the user would see.
     static Watched runAndWatch() {
         Launcher launcher;
         auto* const label = dialog()->findChild<QLabel*>();
-        Watched watched = {{}, {}, {dialog()->isVisible()}, -1};
-        const auto look = [&] {
+        Watched watched = {{}, {}, dialog()->isVisible() ? "yes" : "no", -1};
+        const auto observe = [&] {
             watched.labels.push_back(label->text());
-            watched.visible.push_back(dialog()->isVisible());
+            watched.visible += dialog()->isVisible() ? " yes" : " no";
         };
         QObject::connect(dialog()->findChild<QProgressBar*>(), &QProgressBar::valueChanged,
                          [&](int value) {
                              watched.values.push_back(value);
-                             look();
+                             observe();
                          });
         launcher.Run();
         launcher.Start();
         watched.result = QApplication::exec();
-        look();
+        observe();
         return watched;
     }
 
@@ -85,10 +77,7 @@ TEST_F(LauncherTest, TheDialogShowsAnUpgrade) {
     EXPECT_EQ(watched.values, (std::vector<int>{14, 28, 42, 57, 71, 85, 100}));
     EXPECT_EQ(watched.labels.front(), QStringLiteral("Tarnwell is initializing..."));
     EXPECT_EQ(watched.labels.back(), QStringLiteral("Tarnwell is ready."));
-    std::vector<bool> visible(watched.values.size(), true);
-    visible.insert(visible.begin(), false);
-    visible.push_back(false);
-    EXPECT_EQ(watched.visible, visible);
+    EXPECT_EQ(watched.visible, "no yes yes yes yes yes yes yes no");
     EXPECT_TRUE(installed());
 }
 

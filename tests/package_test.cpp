@@ -7,15 +7,7 @@
 
 namespace {
 
-class PackageTest : public Packing {
-  protected:
-    // Expects the command to fail with a message that begins with `beginning`. The shell expands
-    // the variables in both.
-    void expectRefusal(const std::string& command, const std::string& beginning) const {
-        SCOPED_TRACE(command);
-        Packing::expectRefusal(shell(command), shell("printf %s \"" + beginning + '"').out);
-    }
-};
+class PackageTest : public Packing {};
 
 // A command that creates the fault, or that is refused itself, and the beginning of the message.
 using Refusals = std::vector<std::pair<std::string, std::string>>;

@@ -250,16 +250,16 @@ FileTree Installation::expectedApp(const std::string& number, Shape shape, bool 
     return Tree(folder.path(), folder_modes);
 }
 
-void InstallationTest::startFrom(const std::string& number) {
+void Installation::startFrom(const std::string& number) {
     fs::remove_all(user());
     install(number);
 }
 
-void InstallationTest::expectBuild(const std::string& number) const {
+void Installation::expectBuild(const std::string& number) const {
     EXPECT_EQ(Tree(app()), expectedApp(number));
 }
 
-void InstallationTest::expectNoLeftovers() const {
+void Installation::expectNoLeftovers() const {
     for (const auto& entry : fs::directory_iterator(user())) {
         const std::string name = entry.path().filename();
         EXPECT_TRUE(name == "log" || strcasecmp(name.c_str(), "Tarnwell.app") == 0) << name;

@@ -63,6 +63,7 @@ class Installation {
     // Installs an application of this build, as an earlier run would have done.
     void install(const std::string& number);
     void install(const std::string& number, Shape shape);  // with the content of such a package
+    void startFrom(const std::string& number);  // removes ~/.Tarnwell and installs this build
     // Starts the installed client and writes its pid file.
     Client startClient(const char* behaviour = Client::kEndsAtOnce) const;
     void logEverything() const;  // the default is errors and warnings
@@ -84,6 +85,9 @@ class Installation {
     pid_t start(void (*before_exec)() = nullptr);
 
     bool clientStarted();  // since the last call; waits up to a minute
+    void expectBuild(const std::string& number) const;
+    // Expects that ~/.Tarnwell contains only the log folder and the application.
+    void expectNoLeftovers() const;
     static FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
                                 bool folder_modes = false);
 
@@ -95,13 +99,6 @@ class Installation {
 };
 
 // The base of tests that run the launcher.
-class InstallationTest : public testing::Test, protected Installation {
-  protected:
-    // Removes ~/.Tarnwell and installs an application of this build.
-    void startFrom(const std::string& number);
-    void expectBuild(const std::string& number) const;
-    // Expects that ~/.Tarnwell contains only the log folder and the application.
-    void expectNoLeftovers() const;
-};
+class InstallationTest : public testing::Test, protected Installation {};
 
 #endif

@@ -6,10 +6,6 @@
 #include <cstdlib>
 #include <vector>
 
-const std::string kPackedClient = "Contents/MacOS/tarnwell-ui";
-const std::string kPackedInfo = "Contents/Resources/INFO";
-const std::string kPackedPlist = "Contents/Info.plist";
-
 Packing::Packing() {
     makeApp(app_);
     MakeFolder(folder_ / "out");
@@ -36,17 +32,20 @@ Packing::Result Packing::shell(const std::string& command) const {
         " I=" + kPackedInfo + " P=" + kPackedPlist +
         " R=Contents/Resources; begun() { for i in $(seq 500); do [ ! -e $OUT.?????? ] || break; "
         "sleep 0.01; done; }; nobody() { if [ $(id -u) != 0 ]; then \"$@\"; else setpriv "
-        "--reuid 65534 --regid 65534 --clear-groups \"$@\"; fi; }; { " +
-        command + "; } >'" + (folder_ / "stdout") + "' 2>'" + (folder_ / "stderr") + "'";
+        "--reuid 65534 --regid 65534 --clear-groups \"$@\"; fi; }\n" +
+        prelude_ + "\n{ " + command + "; } >'" + (folder_ / "stdout") + "' 2>'" +
+        (folder_ / "stderr") + "'";
     // NOLINTNEXTLINE(cert-env33-c): runs the tool as its users run it
     const int status = std::system(line.c_str());
     return {WEXITSTATUS(status), ReadFile(folder_ / "stdout"), ReadFile(folder_ / "stderr")};
 }
 
-void Packing::expectRefusal(const Result& result, const std::string& beginning) {
+void Packing::expectRefusal(const std::string& command, const std::string& beginning) const {
+    SCOPED_TRACE(command);
+    const std::string expected = shell("printf %s \"make-package: " + beginning + '"').out;
+    const Result result = shell(command);
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err.rfind("make-package: " + beginning, 0), 0u)
-        << result.err << "expected: make-package: " << beginning;
+    EXPECT_EQ(result.err.substr(0, expected.size()), expected);
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
 }

@@ -6,6 +6,10 @@
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
+inline const std::string kPackedClient = "Contents/MacOS/tarnwell-ui";
+inline const std::string kPackedInfo = "Contents/Resources/INFO";
+inline const std::string kPackedPlist = "Contents/Info.plist";
+
 // An application folder without faults, and a shell in it that runs the packaging tool.
 class Packing : public testing::Test {
   protected:
@@ -19,24 +23,22 @@ class Packing : public testing::Test {
         std::string out;
         std::string err;
     };
-    // Runs a command in a shell in the application folder. $MAKE is the tool and $OUT the package's
-    // path; in the application, $C is the client, $I the version file, $P the Info.plist and $R the
-    // folder Resources. The function begun waits until a package is being written; nobody
-    // COMMAND... runs the command as a user other than root.
+    // Runs a command in a shell in the application folder, after the prelude. $MAKE is the tool and
+    // $OUT the package's path; in the application, $C is the client, $I the version file, $P the
+    // Info.plist and $R the folder Resources. The function begun waits until a package is being
+    // written; nobody COMMAND... runs the command as a user other than root.
     Result shell(const std::string& command) const;
     Result pack() const { return shell("$MAKE . $OUT"); }
     Result check() const { return shell("$MAKE --check $OUT"); }
 
-    // Expects exit status 1 and one line on standard error, "make-package: " and then `beginning`.
-    static void expectRefusal(const Result& result, const std::string& beginning);
+    // Expects the command to exit with status 1 and to print one line, to standard error:
+    // "make-package: " and then `beginning`. The shell expands the variables in both.
+    void expectRefusal(const std::string& command, const std::string& beginning) const;
 
     const Folder folder_;
     const std::string app_ = folder_ / "app";
+    std::string prelude_;
     const std::string out_ = folder_ / "out/x.opk";
 };
-
-extern const std::string kPackedClient;
-extern const std::string kPackedInfo;
-extern const std::string kPackedPlist;
 
 #endif
