@@ -1,12 +1,10 @@
 // Runs the real launcher with a temporary home folder, real processes and real archives.
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <filesystem>
 #include <regex>
 

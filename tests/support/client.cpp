@@ -1,6 +1,6 @@
 // A substitute for the client, which tests copy into an application. Without an argument, as the
 // launcher starts it, it appends a line to $HOME/started and exits. With an argument, it
-// prints a line when it is ready for SIGTERM, which it then handles as the argument says.
+// prints its process id when it is ready for SIGTERM, which it handles as the argument says.
 
 #include <signal.h>
 #include <unistd.h>
@@ -25,10 +25,10 @@ int main(int argc, char** argv) {
         std::ofstream(std::string(std::getenv("HOME")) + "/started", std::ios::app) << "started\n";
         return 0;
     }
-    signal(SIGTERM, std::strcmp(argv[1], "ends at once") == 0      ? SIG_DFL
-                    : std::strcmp(argv[1], "ignores SIGTERM") == 0 ? SIG_IGN
+    signal(SIGTERM, std::strcmp(argv[1], "ends-at-once") == 0      ? SIG_DFL
+                    : std::strcmp(argv[1], "ignores-SIGTERM") == 0 ? SIG_IGN
                                                                    : EndAfterTwoSeconds);
-    std::puts("ready");
+    std::printf("%d\n", +getpid());
     static_cast<void>(std::fflush(stdout));
     for (;;) {
         pause();

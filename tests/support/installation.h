@@ -12,17 +12,18 @@
 // Waits for a process and returns its exit code, or 1000 plus the signal.
 int WaitForEnd(pid_t pid);
 
-// A running client: a process that executes a command. The constructor waits for its first output.
-// A thread waits for the process to end, so that it never becomes a zombie.
+// A running client: a process that executes a shell's command, which first prints its process id.
+// The constructor waits for that. A thread waits for the process to end, so that it never becomes a
+// zombie.
 class Client {
   public:
     // Arguments of the substitute for the client, client.cpp.
-    static constexpr char kEndsAtOnce[] = "ends at once";
-    static constexpr char kEndsAfterTwoSeconds[] = "ends after two seconds";
-    static constexpr char kIgnoresSigterm[] = "ignores SIGTERM";
+    static constexpr char kEndsAtOnce[] = "ends-at-once";
+    static constexpr char kEndsAfterTwoSeconds[] = "ends-after-two-seconds";
+    static constexpr char kIgnoresSigterm[] = "ignores-SIGTERM";
 
     // Writes the process id to pid_file unless that is empty.
-    explicit Client(const std::vector<std::string>& command, const std::string& pid_file = "");
+    explicit Client(const std::string& command, const std::string& pid_file = "");
     ~Client();
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
@@ -34,7 +35,7 @@ class Client {
     int end() const { return end_.get(); }  // waits; as WaitForEnd()
 
   private:
-    pid_t pid_;
+    pid_t pid_ = 0;
     std::shared_future<int> end_;
 };
 
