@@ -31,13 +31,14 @@ class Disk {
             synced_ = now;
         } else if (Exists(path) && now.count(identify(path)) != 0) {
             const Id id = identify(path);
-            known(id, now).mode = now.at(id).mode;
-            known(id, now).content = now.at(id).content;
             for (const auto& [other, object] : now) {
-                if (object.place.first == id) {
-                    known(other, now);
+                if (other == id || object.place.first == id) {
+                    const std::string target = S_ISLNK(object.mode) ? object.content : "";
+                    synced_.emplace(other, Object{object.mode, target, {}});
                 }
             }
+            synced_[id].mode = now.at(id).mode;
+            synced_[id].content = now.at(id).content;
             // Also what was moved from or to another folder: a rename takes effect in both.
             for (auto& [other, object] : synced_) {
                 const Place place = now.count(other) != 0 ? now.at(other).place : Place();
@@ -48,10 +49,10 @@ class Disk {
         }
     }
 
-    // Changes the folder's content to what a power cut leaves. Objects that still exist keep their
-    // inodes; removed ones that reappear belong to this process's user. With the seed 0, everything
-    // that wasn't synced is lost; with 1, it is kept, but new files are empty; with any other seed,
-    // the model chooses at random.
+    // Changes the folder's content to what a power cut leaves. Folders that still exist keep
+    // their inodes; removed ones that reappear belong to this process's user. With the seed 0,
+    // everything that wasn't synced is lost; with 1, it is kept, but new files are empty; with any
+    // other seed, the model chooses at random.
     void cut(unsigned seed) {
         random_.seed(seed);
         const Objects now = snapshot();
@@ -91,27 +92,20 @@ class Disk {
 
     Objects snapshot() const {
         Objects objects;
-        const auto add = [&](const std::string& path, const Place& place) {
+        const auto add = [&](const fs::path& path) {
             struct stat status {};
             lstat(path.c_str(), &status);
             const bool is_link = S_ISLNK(status.st_mode);
-            objects[identify(path)] = {
-                status.st_mode, is_link ? fs::read_symlink(path).string() : ReadFile(path), place};
+            objects[identify(path)] = {status.st_mode,
+                                       is_link ? fs::read_symlink(path).string() : ReadFile(path),
+                                       {identify(path.parent_path()), path.filename()}};
         };
-        add(root_, {});
+        add(root_);
         for (const auto& entry : fs::recursive_directory_iterator(
                  root_, fs::directory_options::skip_permission_denied)) {
-            add(entry.path(), {identify(entry.path().parent_path()), entry.path().filename()});
+            add(entry);
         }
         return objects;
-    }
-
-    // Returns the synced state of an existing object. If nothing was synced, adds its mode and, for
-    // a link, its target.
-    Object& known(const Id& id, const Objects& now) {
-        const Object& object = now.at(id);
-        const std::string target = S_ISLNK(object.mode) ? object.content : "";
-        return synced_.emplace(id, Object{object.mode, target, {}}).first->second;
     }
 
     void chooseStates(Objects& chosen, const Objects& now) {
@@ -154,42 +148,39 @@ class Disk {
         }
     }
 
-    // Where an object is while the tree is rebuilt.
+    // Where a folder is while the tree is rebuilt.
     std::string stored(const Id& id) const {
         return store_ + "/" + std::to_string(id.first) + "-" + std::to_string(id.second);
     }
 
     void store(const std::string& folder) const {
         for (const auto& entry : fs::directory_iterator(folder)) {
-            if (entry.is_directory() && !entry.is_symlink()) {
+            if (fs::is_directory(entry.symlink_status())) {
                 fs::permissions(entry, fs::perms::owner_all);
                 store(entry.path());
+                fs::rename(entry, stored(identify(entry.path())));
+            } else {
+                fs::remove(entry);
             }
-            fs::rename(entry, stored(identify(entry.path())));
         }
     }
 
     void build(const Objects& objects, const Id& folder, const std::string& path) const {
         for (const auto& [id, object] : objects) {
+            const std::string entry = path + "/" + object.place.second;
+            const mode_t mode = object.mode & 07777;
             if (object.place.first != folder) {
                 continue;
             }
-            const std::string entry = path + "/" + object.place.second;
-            if (Exists(stored(id))) {
-                fs::rename(stored(id), entry);
-            } else if (S_ISLNK(object.mode)) {
+            if (S_ISLNK(object.mode)) {
                 MakeLink(object.content, entry);
-            }
-            if (S_ISDIR(object.mode)) {
-                MakeFolder(entry);
+            } else if (S_ISREG(object.mode)) {
+                MakeFile(entry, object.content, mode);
+            } else {
+                MakeFolder(stored(id));  // unless it was stored
+                fs::rename(stored(id), entry);
                 build(objects, id, entry);
-            } else if (S_ISREG(object.mode) &&
-                       (!Exists(entry) || ReadFile(entry) != object.content)) {
-                chmod(entry.c_str(), 0600);  // if it exists
-                MakeFile(entry, object.content);
-            }
-            if (!S_ISLNK(object.mode)) {
-                chmod(entry.c_str(), object.mode & 07777);
+                chmod(entry.c_str(), mode);
             }
         }
     }

@@ -88,11 +88,6 @@ bool IsFile(const std::string& path) {
            !IsBelow(path, "/sys");
 }
 
-std::string LinkTarget(const std::string& link) {
-    std::error_code ignored;
-    return std::filesystem::read_symlink(link, ignored).string();
-}
-
 std::string TextAt(pid_t task, unsigned long long address) {
     std::ifstream memory("/proc/" + std::to_string(task) + "/mem", std::ios::binary);
     memory.seekg(static_cast<std::streamoff>(address));
@@ -106,9 +101,11 @@ std::string PathOf(pid_t task, const Call& call, const Entry& entry) {
     if (path[0] == '/') {
         return path;
     }
-    const int fd = call.descriptor >= 0 ? static_cast<int>(entry.args[call.descriptor]) : -1;
-    const std::string folder = LinkTarget("/proc/" + std::to_string(task) +
-                                          (fd >= 0 ? "/fd/" + std::to_string(fd) : "/cwd"));
+    const auto fd = static_cast<int>(call.descriptor >= 0 ? entry.args[call.descriptor] : -1);
+    const std::string link =
+        "/proc/" + std::to_string(task) + (fd >= 0 ? "/fd/" + std::to_string(fd) : "/cwd");
+    std::error_code ignored;
+    const std::string folder = std::filesystem::read_symlink(link, ignored);
     return path.empty() ? folder : folder + "/" + path;
 }
 

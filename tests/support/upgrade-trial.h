@@ -136,13 +136,12 @@ class UpgradeTrial {
 
     // Whether this application exists completely: installed, as a backup, or in two parts.
     bool isWhole(const FileTree& app) const {
-        const std::set<std::string> there = names();
-        if (std::any_of(there.begin(), there.end(), [&](const std::string& name) {
-                return name.find("Tarnwell.app") == 0 && isTree(in.user(name), app);
-            })) {
-            return true;
+        for (const std::string& name : names()) {
+            if (name.find("Tarnwell.app") == 0 && isTree(in.user(name), app)) {
+                return true;
+            }
         }
-        if (there.count("Tarnwell.app") == 0 || there.count("Tarnwell.app_part") == 0) {
+        if (!Exists(in.app()) || !Exists(in.user("Tarnwell.app_part"))) {
             return false;
         }
         FileTree parts = Tree(in.user("Tarnwell.app_part"));  // a move sets folder modes last
