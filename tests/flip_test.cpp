@@ -26,17 +26,17 @@ int Runs() {
 }
 
 std::vector<Entry> Application(bool small, bool client_last) {
-    const Entry client = {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\nexit 0\n", 0755};
     std::vector<Entry> entries = {{"Contents/Info.plist", "<plist/>"},
                                   {"Contents/Resources/INFO", "[Version]\nbuild_version=100\n"}};
     if (!small) {
-        entries.insert(entries.begin(), {{"Contents/"}, {"Contents/MacOS/", "", 0755}});
-        entries.push_back({"Contents/Resources/noise", Noise(50000), 0640});
-        entries.push_back({"Contents/Resources/text", std::string(100000, 't')});
-        entries.push_back({"Contents/Resources/empty"});
-        entries.push_back({"Contents/Resources/link", "", 0777, "text"});
+        entries.insert(entries.end(), {{"Contents/MacOS/"},
+                                       {"Contents/Resources/noise", Noise(50000), 0640},
+                                       {"Contents/Resources/text", std::string(100000, 't')},
+                                       {"Contents/Resources/empty"},
+                                       {"Contents/Resources/link", "", 0777, "text"}});
     }
-    entries.insert(client_last ? entries.end() : entries.begin(), client);
+    entries.insert(client_last ? entries.end() : entries.begin(),
+                   {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\nexit 0\n", 0755});
     return entries;
 }
 
