@@ -7,11 +7,9 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <memory>
 #include <numeric>
-#include <optional>
-#include <sstream>
 
-#include "lib/liblogger/log.h"
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 #include "tests/support/system.h"
@@ -90,10 +88,7 @@ class Target {
         const FileTree before = sentinel();
         int result = 0;
         log_ = CaptureStderr([&] {
-            std::optional<AsNobody> nobody;
-            if (nobody_) {
-                nobody.emplace();
-            }
+            const auto nobody = nobody_ ? std::make_unique<AsNobody>() : nullptr;
             result = extractor.Extract();
         });
         EXPECT_EQ(sentinel(), before) << log_;
@@ -110,16 +105,15 @@ class Target {
             const std::string path = at->path();
             struct stat status = {};
             lstat(path.c_str(), &status);
-            std::ostringstream text;
-            text << std::oct << status.st_mode;
+            tree[path] = std::to_string(status.st_mode);
             if (path == dest_) {
                 at.disable_recursion_pending();
             } else {
                 const timespec changed = ChangeTime(status);
-                text << ' ' << status.st_nlink << ' ' << changed.tv_sec << ' ' << changed.tv_nsec
-                     << ' ' << ReadFile(path);
+                tree[path] += " " + std::to_string(status.st_nlink) + " " +
+                              std::to_string(changed.tv_sec) + "." +
+                              std::to_string(changed.tv_nsec) + " " + ReadFile(path);
             }
-            tree[path] = text.str();
         }
         return tree;
     }

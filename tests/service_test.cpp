@@ -6,7 +6,6 @@
 #include <archive_entry.h>
 
 #include "lib/libclient/file-op.h"
-#include "lib/liblogger/log.h"
 #include "tests/support/archives.h"
 #include "tests/support/folder-test.h"
 #include "ui-client/launcher/extractor.h"

@@ -11,9 +11,6 @@
 
 #include "tests/support/scenario.h"
 
-const char kInfoPlist[] =
-    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
-
 std::string VersionFile(const std::string& build) {
     return "[Version]\nmajor_version=2\nminor_version=1\nbuild_version=" + build +
            "\nicon_overlay_version=7\n";

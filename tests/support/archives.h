@@ -17,7 +17,8 @@ struct Entry {
 };
 
 // An Info.plist that names the executable "tarnwell-ui", and a version file with this build number.
-extern const char kInfoPlist[];
+inline constexpr char kInfoPlist[] =
+    "<plist><dict><key>CFBundleExecutable</key><string>tarnwell-ui</string></dict></plist>";
 std::string VersionFile(const std::string& build);
 
 // Writes an archive: zip, 7z, xar, cpio, tar, tar.gz, tar.xz, tar.zst, tar.bz2, tar.lz4 or tar.lz.
