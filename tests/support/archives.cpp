@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <clocale>
 #include <map>
-#include <utility>
 
 #include "tests/support/scenario.h"
 
@@ -23,14 +22,13 @@ void MakeArchive(const std::string& path, const std::string& format,
     Check(setlocale(LC_CTYPE, "C.UTF-8") != nullptr || setlocale(LC_CTYPE, "UTF-8") != nullptr,
           "the C library has no UTF-8 locale");
     archive* const out = archive_write_new();
-    const std::map<std::string, std::pair<const char*, const char*>> formats = {
-        {"zip", {"zip", nullptr}},       {"7z", {"7zip", nullptr}},
-        {"cpio", {"newc", nullptr}},     {"tar", {"gnutar", nullptr}},
-        {"tar.gz", {"gnutar", "gzip"}},  {"tar.xz", {"gnutar", "xz"}},
-        {"tar.zst", {"gnutar", "zstd"}}, {"tar.bz2", {"gnutar", "bzip2"}},
-        {"tar.lz4", {"gnutar", "lz4"}},  {"tar.lz", {"gnutar", "lzip"}},
-        {"xar", {"xar", nullptr}}};
-    const auto& [container, filter] = formats.at(format);
+    const std::map<std::string, const char*> names = {
+        {"zip", "zip"}, {"7z", "7zip"}, {"cpio", "newc"}, {"tar", "gnutar"},
+        {"xar", "xar"}, {"gz", "gzip"}, {"zst", "zstd"},  {"bz2", "bzip2"},
+        {"xz", "xz"},   {"lz4", "lz4"}, {"lz", "lzip"}};
+    const std::size_t dot = std::min(format.find('.'), format.size());
+    const char* const container = names.at(format.substr(0, dot));
+    const char* const filter = dot < format.size() ? names.at(format.substr(dot + 1)) : nullptr;
     Check(archive_write_set_format_by_name(out, container) == ARCHIVE_OK &&
               (filter == nullptr || archive_write_add_filter_by_name(out, filter) == ARCHIVE_OK) &&
               archive_write_open_filename(out, path.c_str()) == ARCHIVE_OK,
@@ -59,7 +57,7 @@ void MakeArchive(const std::string& path, const std::string& format,
     archive_write_free(out);
 }
 
-void Unpack(std::vector<Entry> entries, const std::string& folder) {
+void Unpack(const std::vector<Entry>& entries, const std::string& folder) {
     for (const Entry& entry : entries) {
         const std::string path = folder + "/" + entry.name;
         if (entry.name.back() == '/') {
@@ -70,10 +68,9 @@ void Unpack(std::vector<Entry> entries, const std::string& folder) {
             MakeFile(path, entry.content, entry.mode);
         }
     }
-    std::reverse(entries.begin(), entries.end());  // inner folders first
-    for (const Entry& entry : entries) {
-        if (entry.name.back() == '/' && entry.mode != Entry().mode) {
-            chmod((folder + "/" + entry.name).c_str(), entry.mode);
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {  // inner folders first
+        if (entry->name.back() == '/' && entry->mode != Entry().mode) {
+            chmod((folder + "/" + entry->name).c_str(), entry->mode);
         }
     }
 }

@@ -25,6 +25,6 @@ std::string VersionFile(const std::string& build);
 void MakeArchive(const std::string& path, const std::string& format,
                  const std::vector<Entry>& entries);
 // Creates what unpacking such an archive into the folder would create; hardlink is ignored.
-void Unpack(std::vector<Entry> entries, const std::string& folder);
+void Unpack(const std::vector<Entry>& entries, const std::string& folder);
 
 #endif

@@ -130,26 +130,6 @@ Installation::Installation(const std::string& bundle_folder, const std::string& 
     setBuild("100");
 }
 
-std::string Installation::user(const std::string& name) const {
-    return home_ + "/.Tarnwell" + (name.empty() ? "" : "/" + name);
-}
-
-std::string Installation::app(const std::string& name) const {
-    return user("Tarnwell.app") + (name.empty() ? "" : "/" + name);
-}
-
-std::string Installation::bundle(const std::string& name) const {
-    return bundle_ + "/" + name;
-}
-
-std::string Installation::package() const {
-    return bundle("Contents/Resources/package/tarnwell.opk");
-}
-
-std::string Installation::client() const {
-    return app("Contents/MacOS/tarnwell-ui");
-}
-
 void Installation::setBuild(const std::string& number, const std::string& format, Shape shape) {
     MakeFile(bundle("Contents/Resources/INFO"), VersionFile(number));
     MakeFolder(fs::path(package()).parent_path());
@@ -170,10 +150,6 @@ void Installation::install(const std::string& number, Shape shape) {
         entries.push_back({"Contents/closed/file"});  // the client's; no package can create it
     }
     Unpack(entries, app());
-}
-
-Client Installation::startClient(const char* behaviour) const {
-    return Client("'" + client() + "' " + behaviour, user("ui.pid"));
 }
 
 void Installation::logEverything() const {
@@ -237,10 +213,6 @@ FileTree Installation::expectedApp(const std::string& number, Shape shape, bool 
 void Installation::startFrom(const std::string& number) {
     fs::remove_all(user());
     install(number);
-}
-
-void Installation::expectBuild(const std::string& number) const {
-    EXPECT_EQ(Tree(app()), expectedApp(number));
 }
 
 void Installation::expectNoLeftovers() const {

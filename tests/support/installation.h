@@ -52,11 +52,14 @@ class Installation {
     explicit Installation(const std::string& bundle_folder = ".", const std::string& home = "home");
 
     const std::string& home() const { return home_; }
-    std::string user(const std::string& name = "") const;  // below ~/.Tarnwell
-    std::string app(const std::string& name = "") const;   // below the per-user application
-    std::string bundle(const std::string& name) const;     // below the launcher's bundle
-    std::string package() const;
-    std::string client() const;  // the path of the installed client
+    // Paths below ~/.Tarnwell, the per-user application and the launcher's bundle.
+    std::string user(const std::string& name = "") const { return below("/.Tarnwell", name); }
+    std::string app(const std::string& name = "") const {
+        return below("/.Tarnwell/Tarnwell.app", name);
+    }
+    std::string bundle(const std::string& name) const { return bundle_ + "/" + name; }
+    std::string package() const { return bundle("Contents/Resources/package/tarnwell.opk"); }
+    std::string client() const { return app("Contents/MacOS/tarnwell-ui"); }
 
     // Sets the build number of the bundle and creates a package of that build in it.
     void setBuild(const std::string& number, const std::string& format = "zip",
@@ -66,7 +69,9 @@ class Installation {
     void install(const std::string& number, Shape shape);  // with the content of such a package
     void startFrom(const std::string& number);  // removes ~/.Tarnwell and installs this build
     // Starts the installed client and writes its pid file.
-    Client startClient(const char* behaviour = Client::kEndsAtOnce) const;
+    Client startClient(const char* behaviour = Client::kEndsAtOnce) const {
+        return Client("'" + client() + "' " + behaviour, user("ui.pid"));
+    }
     void logEverything() const;  // the default is errors and warnings
 
     // The environment variables of the launcher; tests may change them.
@@ -86,13 +91,17 @@ class Installation {
     pid_t start(void (*before_exec)() = nullptr);
 
     bool clientStarted();  // since the last call; waits up to a minute
-    void expectBuild(const std::string& number) const;
+    void expectBuild(const std::string& build) const { EXPECT_EQ(Tree(app()), expectedApp(build)); }
     // Expects that ~/.Tarnwell contains only the log folder and the application.
     void expectNoLeftovers() const;
     static FileTree expectedApp(const std::string& number, Shape shape = Shape::Plain,
                                 bool folder_modes = false);
 
   private:
+    std::string below(const std::string& folder, const std::string& name) const {
+        return home_ + folder + (name.empty() ? "" : "/" + name);
+    }
+
     Folder folder_;
     const std::string home_;
     const std::string bundle_;
