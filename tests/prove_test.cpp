@@ -81,8 +81,7 @@ void KillInARow(UpgradeTrial& t) {
         t.check(!had_any || !whole.empty(), "no complete application is left");
     }
     t.setPackage(1000);
-    t.runUndisturbed();
-    t.checkEnd(true);
+    t.finish(true);
 }
 
 // Replaces ~/.Tarnwell by a copy of it, in which every inode number is different.
@@ -112,8 +111,7 @@ void CutPower(UpgradeTrial& t) {
 
 void Fail(UpgradeTrial& t, bool lasting) {
     const int error = kErrors[t.variant];
-    TracedRun run = t.run();
-    run.fault = [&](pid_t) { return error; };
+    TracedRun run = t.run([&](pid_t) { return error; });
     run.lasting = lasting;
     t.doing += std::string(" ") + strerror(error) + (lasting ? " from that call on," : "");
     // After a failed call that changes nothing, or on an overlay, the application may be complete
@@ -126,12 +124,10 @@ void Fail(UpgradeTrial& t, bool lasting) {
 
 void FailTenTimes(UpgradeTrial& t) {
     for (int i = 0; i < 10; ++i) {
-        t.runUndisturbed();
-        t.checkEnd(false);
+        t.finish(false);
     }
     t.setPackage(100);
-    t.runUndisturbed();
-    t.checkEnd(true);
+    t.finish(true);
 }
 
 // Starts another copy of the launcher while this one is stopped, then lets both continue. One of
@@ -146,8 +142,7 @@ void StartAnother(UpgradeTrial& t) {
     t.setPackage(t.variant == 0 ? 100 : 101);
     t.new_app = Installation::expectedApp("101", t.scene.package, true);
     pid_t pid = 0;
-    TracedRun run = t.run();
-    run.fault = [&](pid_t) {
+    TracedRun run = t.follow(t.run([&](pid_t) {
         pid = other.start();
         siginfo_t end{};
         for (int i = 0; i < 100 && end.si_pid == 0; ++i) {  // it may wait for this one
@@ -155,24 +150,22 @@ void StartAnother(UpgradeTrial& t) {
             waitid(P_PID, static_cast<id_t>(pid), &end, WEXITED | WNOHANG | WNOWAIT);
         }
         return 0;
-    };
-    t.check(t.follow(run).ends[pid] == 0, "the other launcher's exit code isn't 0");
+    }));
+    t.check(run.ends[pid] == 0, "the other launcher's exit code isn't 0");
     t.checkEnd(true);
 }
 
 void SendSignal(UpgradeTrial& t) {
     const int begin = t.calls / 3;  // by then it has installed its signal handlers
-    TracedRun run = t.at(begin + 1 + t.number % (t.calls - begin));
-    run.fault = [&](pid_t pid) { return kill(pid, kSignals[t.variant]); };
-    t.follow(run);
+    t.follow(t.at(begin + 1 + t.number % (t.calls - begin),
+                  [&](pid_t pid) { return kill(pid, kSignals[t.variant]); }));
     t.checkEnd(true);
 }
 
 // During the run, ~/.Tarnwell is renamed, removed, or replaced by a file.
 void TakeHome(UpgradeTrial& t) {
     const std::string user = t.in.user();
-    TracedRun run = t.run();
-    run.fault = [&](pid_t) {
+    t.follow(t.run([&](pid_t) {
         fs::rename(user, user + ".elsewhere");
         if (t.variant > 0) {
             RemoveTree(user + ".elsewhere");
@@ -181,22 +174,18 @@ void TakeHome(UpgradeTrial& t) {
             MakeFile(user);
         }
         return 0;
-    };
-    t.follow(run);
+    }));
     RemoveTree(user + ".elsewhere");
     RemoveTree(user);
-    t.runUndisturbed();
-    t.checkEnd(true);
+    t.finish(true);
 }
 
 void FillDisk(UpgradeTrial& t) {
     const std::string filler = t.in.home() + "/filler";
-    TracedRun run = t.run();
-    run.fault = [&](pid_t) {
+    t.follow(t.run([&](pid_t) {
         std::ofstream(filler) << std::string(2 << 20, 'f');
         return 0;
-    };
-    t.follow(run);
+    }));
     t.checkInPlace();
     fs::remove(filler);
     t.recover();

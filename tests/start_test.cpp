@@ -288,7 +288,7 @@ TEST(CaseIgnoringHomeTest, InstallsUpgradesAndRollsBack) {
                                            {"Contents/MacOS/tarnwell-ui",
                                             "#!/bin/sh\necho >>\"$HOME/started\"\n", 0755}});
             MakeArchive(in.package(), "zip", entries);
-            const std::string log = in.run().log;
+            std::string log = in.run().log;
             EXPECT_TRUE(in.clientStarted()) << log;
             EXPECT_EQ(ReadFile(in.app("Contents/Resources/INFO")), VersionFile(installed));
             in.expectNoLeftovers();

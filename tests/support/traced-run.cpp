@@ -155,7 +155,7 @@ void TracedRun::handleCall(pid_t task) {
         at_change = changes;
     }
     if (fault_at != 0 && (calls == fault_at || (lasting && calls > fault_at))) {
-        const int error = fault(process_);
+        const int error = fault ? fault(process_) : kill(process_, SIGKILL);
         if (error != 0 && (error != EINTR || interrupted_.erase(task) == 0)) {
             ptrace(PTRACE_POKEUSER, task, offsetof(user_regs_struct, orig_rax), -1L);
             ptrace(PTRACE_POKEUSER, task, offsetof(user_regs_struct, rax), 0L - error);

@@ -1,7 +1,6 @@
 #ifndef TESTS_SUPPORT_TRACED_RUN_H
 #define TESTS_SUPPORT_TRACED_RUN_H
 
-#include <signal.h>
 #include <sys/types.h>
 
 #include <functional>
@@ -27,8 +26,9 @@ class TracedRun {
     // The number of the call, from 1, at which the fault happens; 0: never.
     int fault_at = 0;
     // The fault, which gets the process: returns the error with which the call fails, or 0 if it is
-    // then carried out. The default is that the process is killed and the call isn't carried out.
-    std::function<int(pid_t)> fault = [](pid_t process) { return kill(process, SIGKILL); };
+    // then carried out. Without one, the process is killed and the call isn't carried out.
+    using Fault = std::function<int(pid_t)>;
+    Fault fault;
     // The fault also happens at all later calls. With EINTR, a thread's next call after a failed
     // one is carried out, so that a program that repeats the call doesn't do so for ever.
     bool lasting = false;

@@ -106,9 +106,10 @@ class UpgradeTrial {
     }
 
     // A run with a fault at this call.
-    TracedRun at(int call) const {
+    TracedRun at(int call, const TracedRun::Fault& fault = nullptr) const {
         TracedRun run;
         run.fault_at = call;
+        run.fault = fault;
         run.changes_only = scope == Changes;
         run.since = in.home();
         if (scope == OnOwn) {
@@ -118,20 +119,15 @@ class UpgradeTrial {
         }
         return run;
     }
-    TracedRun run() const { return at(1 + number % calls); }
+    TracedRun run(const TracedRun::Fault& fault = nullptr) const {
+        return at(1 + number % calls, fault);
+    }
     // Starts the launcher for such a run and checks that it exits with 0 or is killed.
     TracedRun follow(TracedRun run) {
         run.follow(in.start(BeTraced));
         doing += run.faulty.empty() ? "" : " at " + run.faulty;
         check(run.end == 0 || run.end == 1000 + SIGKILL, "the exit code isn't 0");
         return run;
-    }
-
-    // Checks that the launcher exits with 0.
-    void runUndisturbed() {
-        check(WaitForEnd(in.start()) == 0, "the exit code of an undisturbed run isn't 0");
-        while (waitpid(-1, nullptr, 0) > 0) {  // waits for its orphans
-        }
     }
 
     // Whether this application exists completely: installed, as a backup, or in two parts.
@@ -179,6 +175,13 @@ class UpgradeTrial {
         check(ReadFile(in.home() + "/started").find("half") == std::string::npos,
               "an incomplete application was started");
     }
+    // Runs the launcher undisturbed, and checks its exit code and the end.
+    void finish(bool is_new) {
+        check(WaitForEnd(in.start()) == 0, "the exit code of an undisturbed run isn't 0");
+        while (waitpid(-1, nullptr, 0) > 0) {  // waits for its orphans
+        }
+        checkEnd(is_new);
+    }
     // Checks that nothing is lost and that the next run succeeds. After a first installation from a
     // damaged package, the next run gets a whole one.
     void recover() {
@@ -188,8 +191,7 @@ class UpgradeTrial {
         if (scene.damage != Scene::Whole && is_new) {
             setPackage(101);
         }
-        runUndisturbed();
-        checkEnd(is_new);
+        finish(is_new);
     }
 
     const Scene scene;
