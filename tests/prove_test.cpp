@@ -20,6 +20,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <list>
 #include <random>
 
 #include "tests/support/disk-model.h"
@@ -69,15 +70,13 @@ void KillTwice(UpgradeTrial& t) {
 // In even cases the build number of the package rises from run to run, in odd ones it is random.
 void KillInARow(UpgradeTrial& t) {
     std::mt19937 random(static_cast<unsigned>(t.number));
-    std::vector<FileTree> whole(t.scene.has_old ? 1 : 0, t.old_app);
+    std::list<FileTree> whole(t.scene.has_old ? 1 : 0, t.old_app);
     for (int i = 0; i < kKills; ++i) {
         const bool had_any = !whole.empty();
         t.setPackage(100 + (t.number % 2 == 0 ? i : static_cast<int>(random() % kKills)));
         t.follow(t.at(1 + static_cast<int>(random() % static_cast<unsigned>(t.calls))));
         whole.push_back(t.new_app);
-        whole.erase(std::remove_if(whole.begin(), whole.end(),
-                                   [&](const FileTree& app) { return !t.isWhole(app); }),
-                    whole.end());
+        whole.remove_if([&](const FileTree& app) { return !t.isWhole(app); });
         t.check(!had_any || !whole.empty(), "no complete application is left");
     }
     t.setPackage(1000);

@@ -5,6 +5,8 @@
 
 #include <archive_entry.h>
 
+#include <tuple>
+
 #include "lib/libclient/file-op.h"
 #include "tests/support/archives.h"
 #include "tests/support/folder-test.h"
@@ -51,24 +53,19 @@ TEST_F(CopyTest, SaysWhyItFails) {
     MakeLink("nowhere", "dangling/a/b/link");
     MakeFolder("closed/a/b");
     chmod("closed/a", 0444);
-    const struct {
-        const char* source;
-        const char* destination;
-        const char* message;
-        std::size_t levels;
-    } cases[] = {{"missing", "new", "source path 'missing' does not exist", 0},
-                 {"", "new", "FSCopyPath: failed to stat source ''", 0},
-                 {"kinds/pipe", "new", "is a pipe, socket or device (6)", 0},
-                 {"to pipe", "new", "is a pipe, socket or device (6)", 1},
-                 {"dangling", "new", "open(dangling/a/b/link): No such file", 3},
-                 {"closed", "new", "source path 'closed/a/b' does not exist", 2},
-                 {"to pipe", "kinds/file", "FSCopyPath: failed to create dest folder", 0}};
     chmod(".", 0777);
     const AsNobody nobody;
-    for (const auto& row : cases) {
-        EXPECT_EQ(copy(row.source, row.destination), -1) << row.source;
-        EXPECT_TRUE(HasOneLine(log_, row.message)) << log_;
-        EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to copy from").size(), row.levels) << log_;
+    for (const auto& [source, destination, message, levels] :
+         {std::tuple("missing", "new", "source path 'missing' does not exist", 0u),
+          {"", "new", "FSCopyPath: failed to stat source ''", 0u},
+          {"kinds/pipe", "new", "is a pipe, socket or device (6)", 0u},
+          {"to pipe", "new", "is a pipe, socket or device (6)", 1u},
+          {"dangling", "new", "open(dangling/a/b/link): No such file", 3u},
+          {"closed", "new", "source path 'closed/a/b' does not exist", 2u},
+          {"to pipe", "kinds/file", "FSCopyPath: failed to create dest folder", 0u}}) {
+        EXPECT_EQ(copy(source, destination), -1) << source;
+        EXPECT_TRUE(HasOneLine(log_, message)) << log_;
+        EXPECT_EQ(LinesWith(log_, "FSCopyPath: failed to copy from").size(), levels) << log_;
         RemoveTree("new");
     }
 }

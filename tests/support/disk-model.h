@@ -62,11 +62,10 @@ class Disk {
                 chosen[id].content.clear();
             }
         }
-        const double chances[] = {0.1, 0.5, 0.9};
         if (seed > 1) {
             chooseStates(chosen, now);
         }
-        choosePlaces(chosen, now, seed > 1 ? chances[seed % 3] : seed);
+        choosePlaces(chosen, now, seed > 1 ? 0.1 + 0.4 * (seed % 3) : seed);
         MakeFolder(store_);
         store(root_);
         build(chosen, identify(root_), root_);

@@ -155,17 +155,6 @@ AsNobody::~AsNobody() {
     }
 }
 
-FewDescriptors::FewDescriptors(rlim_t limit) {
-    getrlimit(RLIMIT_NOFILE, &saved_);
-    rlimit few = saved_;
-    few.rlim_cur = limit;
-    setrlimit(RLIMIT_NOFILE, &few);
-}
-
-FewDescriptors::~FewDescriptors() {
-    setrlimit(RLIMIT_NOFILE, &saved_);
-}
-
 bool WaitFor(const std::function<bool()>& condition) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     while (!condition()) {

@@ -71,13 +71,17 @@ class AsNobody {
 // Limits the number of descriptors that this process can have open.
 class FewDescriptors {
   public:
-    explicit FewDescriptors(rlim_t limit = 100);
-    ~FewDescriptors();
+    explicit FewDescriptors(rlim_t limit = 100) {
+        getrlimit(RLIMIT_NOFILE, &saved_);
+        const rlimit few = {limit, saved_.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &few);
+    }
+    ~FewDescriptors() { setrlimit(RLIMIT_NOFILE, &saved_); }
     FewDescriptors(const FewDescriptors&) = delete;
     FewDescriptors& operator=(const FewDescriptors&) = delete;
 
   private:
-    rlimit saved_;
+    rlimit saved_{};
 };
 
 // Waits until the condition is true. Returns false after a minute.

@@ -101,7 +101,7 @@ std::string PathOf(pid_t task, const Call& call, const Entry& entry) {
     if (path[0] == '/') {
         return path;
     }
-    const auto fd = static_cast<int>(call.descriptor >= 0 ? entry.args[call.descriptor] : -1);
+    const int fd = call.descriptor >= 0 ? static_cast<int>(entry.args[call.descriptor]) : -1;
     const std::string link =
         "/proc/" + std::to_string(task) + (fd >= 0 ? "/fd/" + std::to_string(fd) : "/cwd");
     std::error_code ignored;
