@@ -23,13 +23,11 @@ namespace {
 class StartTest : public InstallationTest {};
 
 TEST_F(StartTest, StopsARunningClient) {
-    for (const auto& [behaviour, end, least_seconds] :
-         {std::tuple(Client::kEndsAtOnce, 1000 + SIGTERM, 0),
-          {Client::kEndsAfterTwoSeconds, 0, 2},
-          {Client::kIgnoresSigterm, 1000 + SIGKILL, 5}}) {
-        SCOPED_TRACE(behaviour);
+    for (const auto& [seconds, end, least_seconds] :
+         {std::tuple(0, 0, 0), {2, 0, 2}, {60, 1000 + SIGKILL, 5}}) {
+        SCOPED_TRACE(seconds);
         startFrom("99");
-        const Client running = startClient(behaviour);
+        const Client running = startClient(seconds);
         const auto begin = std::chrono::steady_clock::now();
         run();
         EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(least_seconds));
@@ -41,7 +39,7 @@ TEST_F(StartTest, StopsARunningClient) {
 
 TEST_F(StartTest, SignalsNobodyForAPidFileThatNamesNoClient) {
     install("99");
-    const pid_t gone = Client(client() + " " + Client::kEndsAtOnce).pid();
+    const pid_t gone = Client(client() + " 0").pid();
     const std::pair<std::string, std::string> cases[] = {
         {"pid=" + std::to_string(gone), "[DEBUG] mac/mac-service(154): local appdata exist"},
         {"pid=0\n", "names no client: pid '0'"},
@@ -91,7 +89,6 @@ TEST_F(StartTest, WhatAProcessRunsDecidesWhetherItIsTheClient) {
     const std::string other = home() + "/other";
     const std::string other_script = home() + "/script";
     const std::string namesake = home() + "/folder/tarnwell-ui";
-    const std::string waits = std::string(" ") + Client::kEndsAtOnce;
     const auto script = [](const std::string& path, const std::string& first_line) {
         MakeFile(path, first_line + "\necho $$\nwhile :; do sleep 1; done\n", 0755);
     };
@@ -112,14 +109,14 @@ TEST_F(StartTest, WhatAProcessRunsDecidesWhetherItIsTheClient) {
         const char* first_line = "";  // of the client, if it is a script
         std::function<void()> then = [] {};
         int written_hours_ago = 0;
-    } cases[] = {{"another program", other + waits, false},
-                 {"another program, future file", other + waits, false, "", [] {}, -9},
-                 {"another of that name", namesake + waits, false},
+    } cases[] = {{"another program", other + " 0", false},
+                 {"another program, future file", other + " 0", false, "", [] {}, -9},
+                 {"another of that name", namesake + " 0", false},
                  {"another that was given the client", other + " " + client(), false},
-                 {"the clock was set", client() + waits, true, "", [] {}, 9},
-                 {"replaced", client() + waits, true, "", replace},
-                 {"moved", client() + waits, true, "", move_to("Tarnwell.app_tmp3")},
-                 {"not a backup", client() + waits, false, "", move_to("Tarnwell.apps")},
+                 {"the clock was set", client() + " 0", true, "", [] {}, 9},
+                 {"replaced", client() + " 0", true, "", replace},
+                 {"moved", client() + " 0", true, "", move_to("Tarnwell.app_tmp3")},
+                 {"not a backup", client() + " 0", false, "", move_to("Tarnwell.apps")},
                  {"another script", other_script, false, "#!/bin/sh"},
                  {"a script", client(), true, "#!/bin/sh"},
                  {"a script and an option", client(), true, "#!/bin/sh -e"},

@@ -17,11 +17,6 @@ int WaitForEnd(pid_t pid);
 // zombie.
 class Client {
   public:
-    // Arguments of the substitute for the client, client.cpp.
-    static constexpr char kEndsAtOnce[] = "ends-at-once";
-    static constexpr char kEndsAfterTwoSeconds[] = "ends-after-two-seconds";
-    static constexpr char kIgnoresSigterm[] = "ignores-SIGTERM";
-
     // Writes the process id to pid_file unless that is empty.
     explicit Client(const std::string& command, const std::string& pid_file = "");
     ~Client();
@@ -68,9 +63,10 @@ class Installation {
     void install(const std::string& number);
     void install(const std::string& number, Shape shape);  // with the content of such a package
     void startFrom(const std::string& number);  // removes ~/.Tarnwell and installs this build
-    // Starts the installed client and writes its pid file.
-    Client startClient(const char* behaviour = Client::kEndsAtOnce) const {
-        return Client("'" + client() + "' " + behaviour, user("ui.pid"));
+    // Starts the installed client, which ends this number of seconds after SIGTERM, and writes its
+    // pid file.
+    Client startClient(int seconds = 0) const {
+        return Client("'" + client() + "' " + std::to_string(seconds), user("ui.pid"));
     }
     void logEverything() const;  // the default is errors and warnings
 
