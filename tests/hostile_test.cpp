@@ -21,15 +21,13 @@ namespace fs = std::filesystem;
 namespace {
 
 enum Type : char { kFile = '0', kHardLink, kLink, kCharDevice, kBlockDevice, kFolder, kPipe };
-const auto kLongName = static_cast<Type>('L');
-const auto kExtension = static_cast<Type>('x');
 
 // Builds a tar entry that libarchive would not write. size is what the header claims; data can have
 // another size.
-std::string Raw(const std::string& name, Type type, const std::string& link, std::size_t size,
-                unsigned mode, const std::string& data) {
+std::string Raw(const std::string& name, char type, const std::string& link = "",
+                std::size_t size = 0, unsigned mode = 0777, const std::string& data = "") {
     if (name.size() > 100) {
-        return Raw("long", kLongName, "", name.size() + 1, 0, name + '\0') +
+        return Raw("long", 'L', "", name.size() + 1, 0, name + '\0') +
                Raw(name.substr(0, 100), type, link, size, mode, data);
     }
     char header[512] = {};
@@ -51,21 +49,17 @@ std::string File(const std::string& name, const std::string& data = "evil", unsi
     return Raw(name, kFile, "", data.size(), mode, data);
 }
 std::string Dir(const std::string& name, unsigned mode = 0755) {
-    return Raw(name, kFolder, "", 0, mode, "");
+    return Raw(name, kFolder, "", 0, mode);
 }
 std::string Link(const std::string& name, const std::string& target) {
-    return Raw(name, kLink, target, 0, 0777, "");
+    return Raw(name, kLink, target);
 }
 // libarchive reads the data of a hard link only if the archive has a "pax" header.
 std::string Hard(const std::string& name, const std::string& target, const std::string& data = "") {
     const std::string record = "13 comment=x\n";
-    return Raw("pax", kExtension, "", record.size(), 0644, record) +
+    return Raw("pax", 'x', "", record.size(), 0644, record) +
            Raw(name, kHardLink, target, data.size(), 0777, data);
 }
-std::string Node(const std::string& name, Type type) {
-    return Raw(name, type, "", 0, 0666, "");
-}
-
 // A destination, and beside it files that no package may change.
 class Target {
   public:
@@ -195,9 +189,9 @@ const struct {
     {"HardToItself", File("a") + Hard("a", "a"), kOnlyEvil, kWriter},
     {"HardToNothing", Hard("a", "b"), "", kWriter},
     // kinds of objects
-    {"CharDevice", Node("a", kCharDevice), "", kNode},
-    {"BlockDevice", Node("a", kBlockDevice), "", kNode},
-    {"Pipe", Node("a", kPipe), "", kNode},
+    {"CharDevice", Raw("a", kCharDevice), "", kNode},
+    {"BlockDevice", Raw("a", kBlockDevice), "", kNode},
+    {"Pipe", Raw("a", kPipe), "", kNode},
     {"SpecialRights", Dir("a", 07777) + File("b", "", 07777), "a folder, b file 0755: "},
     {"SameNameTwice", File("a", "first") + File("a"), kOnlyEvil},
     {"FileOverFolder", Dir("a") + File("a"), kOnlyEvil},
@@ -293,12 +287,12 @@ TEST_F(HostileTest, NoProgramIsEverRun) {
 TEST_F(HostileTest, NamesDoNotForgeLines) {
     const std::string name = "a\n[ERROR] extractor(1): forged\r\x1B[2J\x7F\xC3\xA9";
     const std::string shown = "a\\x0A[ERROR] extractor(1): forged\\x0D\\x1B[2J\\x7F\xC3\xA9'";
-    for (const std::string& entry : {Node(name, kPipe), Hard("b", name)}) {
+    for (const std::string& entry : {Raw(name, kPipe), Hard("b", name)}) {
         EXPECT_EQ(extract(entry + kEnd), -1);
         EXPECT_EQ(LinesWith(log_, "").size(), 1u) << log_;
         EXPECT_TRUE(HasOneLine(log_, shown)) << log_;
     }
-    EXPECT_EQ(extract(Node("\xFF", kPipe) + kEnd), -1);
+    EXPECT_EQ(extract(Raw("\xFF", kPipe) + kEnd), -1);
     EXPECT_TRUE(HasOneLine(log_, "'\\xFF'")) << log_;
 }
 
