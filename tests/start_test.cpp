@@ -275,29 +275,28 @@ TEST(CaseIgnoringHomeTest, InstallsUpgradesAndRollsBack) {
         if (!volume.mounted()) {
             GTEST_SKIP() << "this user may not mount such a volume, or the tools are missing";
         }
-        // Runs the launcher with a package without links, which exFAT doesn't support, and returns
-        // what it logged. Expects that this build and nothing else is then installed.
-        const auto log_of_run_with = [&](const std::string& number, std::vector<Entry> entries,
-                                         const std::string& installed) {
+        for (const auto& [number, name, other_name, clash] :
+             {std::tuple("100", "old", "older", false),
+              {"101", "new", "newer", false},
+              {"102", "name", "NAME", true}}) {
             in.setBuild(number);
-            entries.insert(entries.end(), {{"Contents/Info.plist", kInfoPlist},
-                                           {"Contents/Resources/INFO", VersionFile(number)},
-                                           {"Contents/MacOS/tarnwell-ui",
-                                            "#!/bin/sh\necho >>\"$HOME/started\"\n", 0755}});
-            MakeArchive(in.package(), "zip", entries);
-            std::string log = in.run().log;
+            MakeArchive(
+                in.package(), "zip",  // without links, which exFAT doesn't support
+                {{"Contents/Info.plist", kInfoPlist},
+                 {"Contents/Resources/INFO", VersionFile(number)},
+                 {name},
+                 {other_name},
+                 {"Contents/MacOS/tarnwell-ui", "#!/bin/sh\necho >>\"$HOME/started\"\n", 0755}});
+            const std::string log = in.run().log;
             EXPECT_TRUE(in.clientStarted()) << log;
-            EXPECT_EQ(ReadFile(in.app("Contents/Resources/INFO")), VersionFile(installed));
+            EXPECT_EQ(ReadFile(in.app("Contents/Resources/INFO")),
+                      VersionFile(clash ? "101" : number));
             in.expectNoLeftovers();
-            return log;
-        };
-        EXPECT_EQ(log_of_run_with("100", {{"Contents/old"}}, "100"), "");
-        EXPECT_EQ(log_of_run_with("101", {{"Contents/new"}}, "101"), "");
-        EXPECT_FALSE(Exists(in.app("Contents/old")));
-        const std::string log =
-            log_of_run_with("102", {{"Contents/name"}, {"Contents/NAME"}}, "101");
-        EXPECT_TRUE(HasOneLine(log, "refused entry 'Contents/NAME'")) << log;
-        EXPECT_TRUE(HasOneLine(log, "rollback to old installation")) << log;
+            EXPECT_EQ(log.empty(), !clash) << log;
+            EXPECT_EQ(HasOneLine(log, "refused entry 'NAME'"), clash) << log;
+            EXPECT_EQ(HasOneLine(log, "rollback to old installation"), clash) << log;
+            EXPECT_EQ(Exists(in.app("old")), std::string(number) == "100");
+        }
     }
 }
 
