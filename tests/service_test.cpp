@@ -153,11 +153,12 @@ TEST_F(ExtractorTest, NeedsBothPaths) {
 }
 
 TEST_F(ExtractorTest, CountsListsAndReportsEachEntryOnce) {
-    MakeArchive("package", "tar.gz", {{"a/"}, {"a/b", "text"}, {"c"}});
+    MakeArchive("package", "tar.gz",
+                {{"a/"}, {"a/b", "text"}, {"large", std::string(200000, 'l')}});
     EXPECT_EQ(call(&Extractor::Count).first, 3);
     testing::internal::CaptureStdout();
     EXPECT_EQ(call(&Extractor::List).first, 0);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "a/\na/b\nc\n");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "a/\na/b\nlarge\n");
     EXPECT_TRUE(Tree("dest").empty());
 
     std::vector<std::pair<int, int>> reports;
@@ -165,7 +166,10 @@ TEST_F(ExtractorTest, CountsListsAndReportsEachEntryOnce) {
     Notify_Adapter* const adapter = Notify_Adapter::GetInstance();
     QObject context;
     QObject::connect(adapter, &Notify_Adapter::sigUpdateProgress, &context,
-                     [&](int total, int current) { reports.emplace_back(total, current); });
+                     [&](int total, int current) {
+                         reports.emplace_back(total, current);
+                         EXPECT_EQ(Exists("dest/large"), current == 3) << "reported too late";
+                     });
     QObject::connect(adapter, &Notify_Adapter::sigUpdateDialogText, &context,
                      [&](const QString& text) { texts << text; });
     EXPECT_EQ(call(&Extractor::Extract).first, 0);
