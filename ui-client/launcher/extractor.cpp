@@ -115,6 +115,8 @@ class ProgressReports {
         }
     }
 
+    int written() const { return written_; }
+
     void send() {
         while (sent_ < written_) {
             Notify_Adapter::GetInstance()->UpdateProgress(total_, ++sent_);
@@ -124,7 +126,7 @@ class ProgressReports {
 
   private:
     using Clock = std::chrono::steady_clock;
-    static constexpr std::chrono::milliseconds kFrame{16};
+    static constexpr std::chrono::milliseconds kFrame{16};  // at 60 Hz
 
     const int total_;
     int written_ = 0;
@@ -181,11 +183,11 @@ int ExtractEntries(PackageReader& package, archive* writer, const ustring& dest_
                    ClosedFolders& closed) {
     EntryGuard guard(dest_dir.c_str());
     ProgressReports progress(total);
-    for (int number = 1;; ++number) {
+    for (;;) {
         archive_entry* entry = nullptr;
         const int result = package.next(entry);
         if (result == ARCHIVE_EOF) {
-            return IsWhole(package, number - 1) ? 0 : -1;
+            return IsWhole(package, progress.written()) ? 0 : -1;
         }
         if (result != ARCHIVE_OK) {
             LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n",
