@@ -104,8 +104,9 @@ class Workbench:
         return self.build / "bench" / f"bench-{name}"
 
     def settle(self):
-        """Waits until all data is on the disk."""
-        subprocess.run(["sync", "-f", self.folder], check=True)
+        """Waits until all data is on the disk, that of the store too, so that nothing is written
+        in the background during a measurement."""
+        subprocess.run(["sync", "-f", self.folder, self.store], check=True)
 
     def fresh(self, name):
         """Removes what has this name, waits until all data is on the disk and returns the path."""
