@@ -17,10 +17,6 @@ namespace {
 
 const uid_t kNobody = 65534;
 
-int EndOf(int status) {
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
-}
-
 const char kClientPath[] = "Contents/MacOS/tarnwell-ui";
 
 // A client that appends "whole" or "half" to $HOME/started, depending on whether the last entry of

@@ -9,7 +9,7 @@
 #include "tests/support/archives.h"
 #include "tests/support/scenario.h"
 
-// Waits for a process and returns its exit code, or 1000 plus the signal.
+// Waits for a process and returns how it ended, as EndOf().
 int WaitForEnd(pid_t pid);
 
 // A running client: a process that executes a shell's command, which first prints its process id.
@@ -27,7 +27,7 @@ class Client {
 
     pid_t pid() const { return pid_; }
     bool running() const;
-    int end() const { return end_.get(); }  // waits; as WaitForEnd()
+    int end() const { return end_.get(); }  // waits; as EndOf()
 
   private:
     pid_t pid_ = 0;

@@ -87,6 +87,9 @@ class FewDescriptors {
 // Waits until the condition is true. Returns false after a minute.
 bool WaitFor(const std::function<bool()>& condition);
 
+// How a process ended, from its wait status: the exit code, or 1000 plus the signal.
+int EndOf(int status);
+
 // The lines of a text that contain the fragment, and whether there is exactly one.
 std::vector<std::string> LinesWith(const std::string& text, const std::string& fragment);
 bool HasOneLine(const std::string& text, const std::string& fragment);

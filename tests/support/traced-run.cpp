@@ -176,7 +176,7 @@ void TracedRun::follow(pid_t pid) {
     process_ = pid;
     for (pid_t task = pid; task > 0; task = waitpid(-1, &status, __WALL)) {
         if (!WIFSTOPPED(status)) {
-            ends[task] = WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
+            ends[task] = EndOf(status);
             continue;
         }
         const int event = status >> 16;

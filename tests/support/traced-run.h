@@ -39,7 +39,7 @@ class TracedRun {
     int calls = 0;              // counted so far
     std::string faulty;         // the call at which the fault happened, and its path
     bool at_change = false;     // whether that call changes files
-    std::map<pid_t, int> ends;  // of all children: the exit code, or 1000 plus the signal
+    std::map<pid_t, int> ends;  // of all children, as EndOf()
     int end = -1;               // the same of the process
 
     // Traces a child that called BeTraced(). SIGALRM ends it after four minutes.
