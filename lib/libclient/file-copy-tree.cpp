@@ -85,9 +85,11 @@ class TreeCopy : private file_op::Walk {
         }
         volume_ = volumeToSync(dst);
         const bool copied = run();
-        const bool is_on_disk =
-            volume_ == 0 || platform::SyncVolume(dst.c_str()) == 0 || file_op::FailWrite() == 0;
-        return copied && is_on_disk ? 0 : -1;
+        if (volume_ != 0 && platform::SyncVolume(dst.c_str()) != 0) {
+            static_cast<void>(file_op::FailWrite());
+            return -1;
+        }
+        return copied ? 0 : -1;
     }
 
   private:
