@@ -43,7 +43,7 @@ void AddLog(const std::string& spdlog_file) {
                       kFolder, kName, 17);
     });
     Add("LogDropped", operations::DropLogLine);
-    // The minimum for thresholds by component that any thread may change: a lock and a look-up.
+    // The least that thresholds by component cost if any thread may change them: a lock, a lookup.
     Add("LogDropped/lookup", [thresholds = std::map<std::string, int>{{"default_component", 4},
                                                                       {"file_op_debug", 4},
                                                                       {"launcher_debug", 4},

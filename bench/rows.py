@@ -85,7 +85,7 @@ PARTS = (
         Row("joining a path", ("small", "Join"), "`QString`", ("small", "Join/QString"), 1.00),
         Row("a log line that is written", ("small", "LogWritten"), "spdlog",
             ("small", "LogWritten/spdlog"), 1.00),
-        Row("a log line that is dropped", ("small", "LogDropped"), "a mutex and a look-up in a map",
+        Row("a log line that is dropped", ("small", "LogDropped"), "a mutex and a map lookup",
             ("small", "LogDropped/lookup"), 1.50),
     )),
 )
